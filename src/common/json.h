@@ -1,0 +1,64 @@
+// Non-throwing access to the JSON value tree.
+//
+// jsoncpp throws on some misuse (operator[] on a string or an array, asInt
+// out of range, asString on an object). Every translator reads and writes
+// JSON through these functions instead, so that no device document can make
+// the library throw.
+#ifndef KOVA_COMMON_JSON_H_
+#define KOVA_COMMON_JSON_H_
+
+#include <json/value.h>
+
+#include <cstdint>
+#include <string>
+
+namespace kova {
+
+// Parses NUL-terminated `text` with the JSON library in its default mode
+// (comments accepted but not kept). Returns false on a syntax error, a null
+// text, nesting beyond the library's limit or any other failure; `root` is
+// then unspecified.
+bool ReadJson(const char* text, Json::Value* root);
+
+// Member `key` of an object; a shared null value for a missing member or
+// when `v` is not an object.
+const Json::Value& Member(const Json::Value& v, const char* key);
+// True when `v` is an object that has `key` as a member (even holding null).
+bool HasMember(const Json::Value& v, const char* key);
+// Element `i` of an array; a shared null value when `v` is not an array or
+// `i` is out of range.
+const Json::Value& Element(const Json::Value& v, uint64_t i);
+// Number of elements of an array or members of an object; 0 otherwise.
+uint32_t Count(const Json::Value& v);
+
+// The four conversions every translator relies on. None fails or throws.
+// Signed 32-bit: null 0; an integer its value when it fits in 32 bits and
+// is below 2147483647 for unsigned-only values, 0 otherwise; a real within
+// [-2147483648, 2147483647] truncated, 0 otherwise; a boolean 0 or 1; a
+// string, array or object 0.
+int32_t ToInt32(const Json::Value& v);
+// Unsigned 32-bit: null 0; a negative integer 0; an integer above
+// 4294967295 0; a real within [0, 4294967295] truncated, 0 otherwise; a
+// boolean 0 or 1; a string, array or object 0.
+uint32_t ToUInt32(const Json::Value& v);
+// Real: null 0.0, integers their value, booleans 1.0 or 0.0, anything else 0.0.
+double ToDouble(const Json::Value& v);
+// Boolean: null false; a number true when non-zero (NaN is true); a string
+// true when non-empty; an array or object true when it has elements.
+bool ToBool(const Json::Value& v);
+// The text of a string value (embedded NULs kept); "" for any other type.
+std::string ToText(const Json::Value& v);
+
+// Writable member `key`: `obj` becomes an object first when it is not one
+// (a non-null value of another type is replaced).
+Json::Value& SetMember(Json::Value& obj, const char* key);
+// Writable element `i`: `arr` becomes an array first when it is not one;
+// the array grows to hold `i`.
+Json::Value& SetElement(Json::Value& arr, uint32_t i);
+// Appends a value to `arr` (made an array first when it is not one) and
+// returns the new element.
+Json::Value& Append(Json::Value& arr, const Json::Value& v);
+
+}  // namespace kova
+
+#endif  // KOVA_COMMON_JSON_H_

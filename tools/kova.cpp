@@ -1,0 +1,162 @@
+// kova: the command-line tool for people who debug device integrations.
+//
+//   kova names                                 every name, its directions, built or not
+//   kova parse NAME FILE [-o RECORD.bin] [--size N]
+//   kova pack NAME RECORD.bin [--size N]
+//   kova roundtrip NAME FILE [--size N]
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "api/dispatch.h"
+#include "kova/kova.h"
+
+namespace {
+
+constexpr uint32_t kDefaultSize = 8u << 20;
+
+int Usage() {
+  std::fprintf(stderr,
+               "usage: kova names\n"
+               "       kova parse NAME FILE [-o RECORD.bin] [--size N]\n"
+               "       kova pack NAME RECORD.bin [--size N]\n"
+               "       kova roundtrip NAME FILE [--size N]\n");
+  return 2;
+}
+
+bool ReadFile(const std::string& path, std::string* out) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) return false;
+  out->assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+  return !in.bad();
+}
+
+bool WriteFile(const std::string& path, const void* data, size_t n) {
+  std::ofstream out(path, std::ios::binary);
+  out.write(static_cast<const char*>(data), static_cast<std::streamsize>(n));
+  return static_cast<bool>(out);
+}
+
+struct Options {
+  std::vector<std::string> args;
+  std::string output;
+  uint32_t size = kDefaultSize;
+  bool ok = true;
+};
+
+Options ParseOptions(int argc, char** argv) {
+  Options o;
+  for (int i = 2; i < argc; ++i) {
+    const std::string a = argv[i];
+    if (a == "-o" && i + 1 < argc) {
+      o.output = argv[++i];
+    } else if (a == "--size" && i + 1 < argc) {
+      char* end = nullptr;
+      const unsigned long long n = std::strtoull(argv[++i], &end, 0);
+      if (*end != '\0' || n == 0 || n > 0xFFFFFFFFull) o.ok = false;
+      o.size = static_cast<uint32_t>(n);
+    } else if (!a.empty() && a[0] == '-') {
+      o.ok = false;
+    } else {
+      o.args.push_back(a);
+    }
+  }
+  return o;
+}
+
+int Names() {
+  for (size_t i = 0; i < kova::kParseNameCount; ++i) {
+    const char* name = kova::kParseNames[i].name;
+    const int k = kova::FindPackName(name);
+    std::printf("%-45s parse %-9s pack %s\n", name,
+                kova::ParseBuilt(static_cast<int>(i)) ? "built" : "not-built",
+                k < 0 ? "-" : (kova::PackBuilt(k) ? "built" : "not-built"));
+  }
+  for (size_t k = 0; k < kova::kPackNameCount; ++k) {
+    const char* name = kova::kPackNames[k].name;
+    if (kova::FindParseName(name) >= 0) continue;
+    std::printf("%-45s parse %-9s pack %s\n", name, "-",
+                kova::PackBuilt(static_cast<int>(k)) ? "built" : "not-built");
+  }
+  return 0;
+}
+
+// Parses FILE as NAME into `record`; prints the outcome. Returns the exit code.
+int ParseInto(const std::string& name, const std::string& file, std::vector<unsigned char>* record,
+              uint32_t* retLen) {
+  std::string json;
+  if (!ReadFile(file, &json)) {
+    std::fprintf(stderr, "kova: cannot read %s\n", file.c_str());
+    return 1;
+  }
+  *retLen = 0;
+  const int rc = KOVA_ParseData(name.c_str(), json.c_str(), record->data(),
+                                static_cast<uint32_t>(record->size()), retLen);
+  std::printf("parse %s: return %d, retLen %u\n", name.c_str(), rc, *retLen);
+  if (rc == 0) {
+    std::fprintf(stderr, "kova: parse of %s failed\n", name.c_str());
+    return 1;
+  }
+  return 0;
+}
+
+int Pack(const std::string& name, const void* in, uint32_t inLen, uint32_t outLen) {
+  std::vector<char> text(outLen);
+  const int rc = KOVA_PacketData(name.c_str(), in, inLen, text.data(), outLen);
+  if (rc == 0) {
+    std::fprintf(stderr, "kova: pack of %s failed (input %u bytes)\n", name.c_str(), inLen);
+    return 1;
+  }
+  std::fwrite(text.data(), 1, strnlen(text.data(), text.size()), stdout);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 2) return Usage();
+  const std::string cmd = argv[1];
+  const Options o = ParseOptions(argc, argv);
+  if (!o.ok) return Usage();
+  if (cmd == "names" && o.args.empty()) return Names();
+
+  if (cmd == "parse" && o.args.size() == 2) {
+    std::vector<unsigned char> record(o.size);
+    uint32_t retLen = 0;
+    const int rc = ParseInto(o.args[0], o.args[1], &record, &retLen);
+    if (rc != 0) return rc;
+    const size_t n = retLen <= record.size() ? retLen : record.size();
+    if (!o.output.empty()) {
+      if (!WriteFile(o.output, record.data(), n)) {
+        std::fprintf(stderr, "kova: cannot write %s\n", o.output.c_str());
+        return 1;
+      }
+      std::printf("record: %zu bytes written to %s\n", n, o.output.c_str());
+    } else {
+      std::printf("record: %zu bytes (use -o FILE to keep them)\n", n);
+    }
+    return 0;
+  }
+
+  if (cmd == "pack" && o.args.size() == 2) {
+    std::string record;
+    if (!ReadFile(o.args[1], &record)) {
+      std::fprintf(stderr, "kova: cannot read %s\n", o.args[1].c_str());
+      return 1;
+    }
+    return Pack(o.args[0], record.data(), static_cast<uint32_t>(record.size()), o.size);
+  }
+
+  if (cmd == "roundtrip" && o.args.size() == 2) {
+    std::vector<unsigned char> record(o.size);
+    uint32_t retLen = 0;
+    const int rc = ParseInto(o.args[0], o.args[1], &record, &retLen);
+    if (rc != 0) return rc;
+    return Pack(o.args[0], record.data(), retLen, o.size);
+  }
+  return Usage();
+}
