@@ -49,6 +49,18 @@ const DriverBinding* PackBinding(int i) {
   return d < 0 ? nullptr : &kDriverBindings[d];
 }
 
+uint32_t ParseRecordSize(int i) {
+  if (i < 0 || static_cast<size_t>(i) >= kParseNameCount) return 0;
+  const DriverBinding* b = ParseBinding(i);
+  return b != nullptr ? static_cast<uint32_t>(b->recordSize) : kParseNames[i].recordSize;
+}
+
+uint32_t PackRecordSize(int i) {
+  if (i < 0 || static_cast<size_t>(i) >= kPackNameCount) return 0;
+  const DriverBinding* b = PackBinding(i);
+  return b != nullptr ? static_cast<uint32_t>(b->recordSize) : kPackNames[i].recordSize;
+}
+
 bool ParseBuilt(int i) {
   if (i < 0 || static_cast<size_t>(i) >= kParseNameCount) return false;
   const DriverBinding* b = ParseBinding(i);

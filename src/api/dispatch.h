@@ -20,12 +20,14 @@ using PackFn = int (*)(const void* inBuf, uint32_t inLen, char* outJson, uint32_
 
 struct ParseName {
   const char* name;
-  ParseFn parse;  // null: not built yet (or served by a driver binding)
+  ParseFn parse;        // null: not built yet (or served by a driver binding)
+  uint32_t recordSize;  // bytes of one record; 0 when not built (drivers: see the binding)
 };
 
 struct PackName {
   const char* name;
-  PackFn pack;  // null: not built yet (or served by a driver binding)
+  PackFn pack;          // null: not built yet (or served by a driver binding)
+  uint32_t recordSize;  // bytes of one record; 0 when not built (drivers: see the binding)
 };
 
 // Settings of one configuration served by the table drivers. A null
@@ -59,6 +61,11 @@ int FindPackName(const char* name);
 // own translator.
 const DriverBinding* ParseBinding(int i);
 const DriverBinding* PackBinding(int i);
+
+// Size of one record of list index `i` (the binding's for driver names), 0
+// when unknown.
+uint32_t ParseRecordSize(int i);
+uint32_t PackRecordSize(int i);
 
 // Whether the translator behind list index `i` exists.
 bool ParseBuilt(int i);
