@@ -1,0 +1,168 @@
+// Hostile input for every configuration name, in both directions: text
+// that does not parse, envelopes and tables of the wrong type, nesting far
+// beyond the reader's limit, huge tables, out-of-range numbers, malformed
+// strings, records full of 0xFF, 0x7F, 0x7FFFFFFF counts and random bytes,
+// and buffers from one byte to 16 MiB. Whatever the name, the call must
+// keep within its buffers and refuse what the rules say it refuses.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "api/dispatch.h"
+#include "harness/calls.h"
+#include "harness/catalog.h"
+#include "harness/documents.h"
+
+namespace kova_harness {
+namespace {
+
+const std::vector<SampleDocument>& Samples() {
+  static const std::vector<SampleDocument> kSamples =
+      LoadSampleDocuments({KOVA_SAMPLES_DIR, KOVA_FIXTURES_DIR});
+  return kSamples;
+}
+
+// A document whose table holds 100000 empty objects, made once.
+const std::string& HugeTable() {
+  static const std::string kTable = [] {
+    std::string table = "[";
+    for (int i = 0; i < 100000; ++i) table += "{},";
+    table.back() = ']';
+    return Envelope(table);
+  }();
+  return kTable;
+}
+
+class ParseBadInput : public testing::TestWithParam<int> {
+ protected:
+  // Calls the parser and records any broken rule under `what`.
+  void Check(const std::string& what, const std::string& text, uint32_t outLen,
+             uint8_t prefill = 0) {
+    const int i = GetParam();
+    const ParseResult r = CallParse(kova::kParseNames[i].name, text.c_str(), outLen, prefill);
+    const std::string v = ParseViolation(i, text, outLen, r);
+    EXPECT_EQ("", v) << what << " (outLen " << outLen << ", returned " << r.ret << ")";
+  }
+};
+
+TEST_P(ParseBadInput, KeepsWithinItsBufferAndRefusesWhatDoesNotParse) {
+  const int i = GetParam();
+  const uint32_t size = ParseSizeOrDefault(i);
+  const std::vector<std::string> docs = RealisticDocuments(i, Samples());
+  const std::string& doc = docs.front();
+
+  Check("realistic document", doc, 1, kUntouched);
+  if (size > 1) Check("realistic document", doc, size - 1, kUntouched);
+  if (!kova::ParseBuilt(i)) return;  // refused at once: nothing more to learn
+
+  for (size_t d = 0; d < docs.size(); ++d) {
+    Check("realistic document " + std::to_string(d), docs[d], size);
+    Check("realistic document " + std::to_string(d), docs[d], 2 * size + 1);
+  }
+  Check("realistic document in 16 MiB", doc, kHugeBuffer);
+
+  const std::vector<std::string> malformed = MalformedTexts(doc);
+  for (size_t m = 0; m < malformed.size(); ++m) {
+    Check("malformed text " + std::to_string(m), malformed[m], size);
+  }
+
+  const std::vector<std::string>& hostile = HostileValues();
+  const size_t shapes = std::min<size_t>(docs.size(), 3);
+  for (size_t h = 0; h < hostile.size(); ++h) {
+    const std::string& v = hostile[h];
+    const std::string label = "hostile value " + std::to_string(h);
+    Check(label + " as root", v, size);
+    Check(label + " as result", "{\"result\":" + v + ",\"params\":{\"table\":{}}}", size);
+    Check(label + " as params", "{\"result\":true,\"params\":" + v + "}", size);
+    Check(label + " as table", Envelope(v), size);
+    for (size_t d = 0; d < shapes; ++d) {
+      Check(label + " in every scalar of document " + std::to_string(d),
+            ReplaceScalars(docs[d], v), size);
+      const std::string swapped = ReplaceContainers(docs[d], v);
+      if (!swapped.empty()) {
+        Check(label + " for every object and array of document " + std::to_string(d), swapped,
+              size);
+      }
+    }
+  }
+
+  Check("table of 100000 elements", HugeTable(), size);
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryName, ParseBadInput,
+                         testing::Range(0, static_cast<int>(kova::kParseNameCount)),
+                         [](const testing::TestParamInfo<int>& info) {
+                           return TestLabel(kova::kParseNames[info.param].name);
+                         });
+
+class PackBadInput : public testing::TestWithParam<int> {
+ protected:
+  void Check(const std::string& what, const std::string& record, uint32_t inLen,
+             uint32_t outLen) {
+    const int k = GetParam();
+    const PackResult r = CallPack(kova::kPackNames[k].name, record, inLen, outLen, record);
+    const std::string v = PackViolation(k, record, inLen, outLen, r, record);
+    EXPECT_EQ("", v) << what << " (inLen " << inLen << ", outLen " << outLen << ", returned "
+                     << r.ret << ")";
+  }
+};
+
+TEST_P(PackBadInput, KeepsWithinItsBuffersWhateverTheRecordHolds) {
+  const int k = GetParam();
+  const uint32_t recordSize = PackSize(k);
+  const uint32_t size = PackSizeOrDefault(k);
+  const char* const kFillNames[] = {"zero", "0xFF", "0x7F", "0x7FFFFFFF counts", "random"};
+
+  std::string record(2 * size + 1, '\0');
+  if (!kova::PackBuilt(k)) {
+    Check("zero record", record, size, 64u << 10);
+    return;
+  }
+  for (int f = 0; f < static_cast<int>(Fill::kCount); ++f) {
+    FillRecord(reinterpret_cast<uint8_t*>(&record[0]), record.size(), static_cast<Fill>(f),
+               static_cast<uint32_t>(k));
+    const std::string label = std::string(kFillNames[f]) + " record";
+    std::vector<uint32_t> inLens = {0, size, 2 * size + 1};
+    if (recordSize > 0) inLens.push_back(recordSize - 1);
+    for (uint32_t inLen : inLens) {
+      Check(label, record, inLen, 1);
+      Check(label, record, inLen, 64u << 10);
+    }
+  }
+  FillRecord(reinterpret_cast<uint8_t*>(&record[0]), record.size(), Fill::kAllFF, 0);
+  Check("0xFF record into 16 MiB", record, size, kHugeBuffer);
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryName, PackBadInput,
+                         testing::Range(0, static_cast<int>(kova::kPackNameCount)),
+                         [](const testing::TestParamInfo<int>& info) {
+                           return TestLabel(kova::kPackNames[info.param].name);
+                         });
+
+// The suite is only as good as its malformed texts: each must really be
+// refused by the reader, or the "does not parse" rule is never exercised.
+TEST(HarnessDocuments, MalformedTextsDoNotParse) {
+  for (const std::string& text : MalformedTexts(Envelope("{\"Enable\":true}"))) {
+    EXPECT_FALSE(Parses(text)) << text.substr(0, 80);
+  }
+}
+
+TEST(HarnessDocuments, HostileValuesReachEveryMemberButTheResult) {
+  const std::string doc = Envelope("{\"A\":1,\"B\":{\"C\":\"x\"},\"D\":[1,2]}");
+  EXPECT_EQ("{\"params\":{\"table\":{\"A\":-1,\"B\":{\"C\":-1},\"D\":[-1,-1]}},\"result\":true}",
+            ReplaceScalars(doc, "-1"));
+  EXPECT_EQ("{\"params\":{\"table\":{\"A\":1,\"B\":0,\"D\":0}},\"result\":true}",
+            ReplaceContainers(doc, "0"));
+}
+
+TEST(HarnessDocuments, SampleFilesNameTheirConfiguration) {
+  EXPECT_EQ("AlarmLamp", NameOfSampleFile("samples/AlarmLamp.json"));
+  EXPECT_EQ("Encode", NameOfSampleFile("fixtures/encode.dual-channel.json"));
+  EXPECT_EQ("devVideoInput.getCaps", NameOfSampleFile("x/devVideoInput.getCaps.json"));
+  EXPECT_EQ("MotionDetect", NameOfSampleFile("fixtures/MotionDetect/three_windows.json"));
+  EXPECT_EQ("", NameOfSampleFile("fixtures/unrelated.json"));
+}
+
+}  // namespace
+}  // namespace kova_harness

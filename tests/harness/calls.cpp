@@ -1,0 +1,159 @@
+#include "harness/calls.h"
+
+#include <cstring>
+#include <functional>
+#include <string_view>
+
+#include "api/dispatch.h"
+#include "harness/catalog.h"
+#include "harness/documents.h"
+#include "harness/guarded_buffer.h"
+#include "kova/kova.h"
+
+namespace kova_harness {
+
+namespace {
+
+uint32_t RecordSizeOf(const char* name, bool parse) {
+  const int i = parse ? kova::FindParseName(name) : kova::FindPackName(name);
+  return parse ? ParseSize(i) : PackSize(i);
+}
+
+struct EventContext {
+  EventResult* result;
+  bool byCallback;
+};
+
+int KOVA_CALL OnEvent(uint32_t code, const void* info, uint32_t infoSize, const void* reserved,
+                      uint32_t reservedSize, void* user) {
+  EventContext* c = static_cast<EventContext*>(user);
+  EventResult& r = *c->result;
+  ++r.calls;
+  r.digest = Digest(&code, sizeof code, r.digest);
+  r.digest = Digest(&infoSize, sizeof infoSize, r.digest);
+  if (info != nullptr) r.digest = Digest(info, infoSize, r.digest);
+  if (c->byCallback || !r.violation.empty()) return 0;
+  if ((info == nullptr) != (infoSize == 0)) {
+    r.violation = "an event record is null but sized, or sized 0 but not null";
+  } else if (reserved != nullptr || reservedSize != 0) {
+    r.violation = "the reserved callback arguments are not null and 0";
+  } else if (r.calls > 128) {
+    r.violation = "more than 128 events from one notification";
+  }
+  return 0;
+}
+
+}  // namespace
+
+uint64_t Digest(const void* p, size_t n, uint64_t h) {
+  const size_t bytes = std::hash<std::string_view>()(std::string_view(static_cast<const char*>(p), n));
+  return (h ^ bytes) * 1099511628211ull;
+}
+
+EventResult CallEvents(const std::string& text, uint32_t len, bool byCallback) {
+  GuardedBuffer buf(text.size() + 1);
+  std::memcpy(buf.data(), text.c_str(), text.size() + 1);
+  EventResult r;
+  EventContext c{&r, byCallback};
+  r.ret = byCallback ? KOVA_ParseDataByCallback(buf.chars(), len, OnEvent, &c)
+                     : KOVA_ParseAnalyzerEventData(buf.chars(), len, OnEvent, &c);
+  if (r.violation.empty() && !buf.GuardsIntact()) r.violation = "wrote around the event text";
+  if (r.violation.empty() && !byCallback && r.ret != 1) r.violation = "did not return 1";
+  return r;
+}
+
+ParseResult CallParse(const char* name, const char* text, uint32_t outLen, uint8_t prefill,
+                      int64_t pointedCount) {
+  GuardedBuffer out(outLen, prefill);
+  PointedBuffers pointed;
+  pointed.Attach(name, out.data(), out.size(), RecordSizeOf(name, true), pointedCount,
+                 std::string());
+  const std::string before(out.chars(), out.size());
+
+  ParseResult r;
+  r.ret = KOVA_ParseData(name, text, out.data(), outLen, &r.retLen);
+  r.guardsIntact = out.GuardsIntact() && pointed.GuardsIntact();
+  r.untouched = std::memcmp(before.data(), out.data(), out.size()) == 0;
+  r.bytes.assign(out.chars(), out.size());
+  r.bytes += pointed.Contents();
+  return r;
+}
+
+PackResult CallPack(const char* name, const std::string& record, uint32_t inLen, uint32_t outLen,
+                    const std::string& pointed) {
+  GuardedBuffer in(inLen);
+  std::memcpy(in.data(), record.data(), std::min<size_t>(inLen, record.size()));
+  PointedBuffers targets;
+  targets.Attach(name, in.data(), in.size(), RecordSizeOf(name, false), -1, pointed);
+  const std::string input(in.chars(), in.size());
+  GuardedBuffer out(outLen, kUntouched);
+
+  PackResult r;
+  r.ret = KOVA_PacketData(name, in.data(), inLen, out.chars(), outLen);
+  r.guardsIntact = out.GuardsIntact() && in.GuardsIntact() && targets.GuardsIntact() &&
+                   std::memcmp(input.data(), in.data(), in.size()) == 0;
+  r.clean = out.AllEqual(0) || out.AllEqual(kUntouched);
+  const void* nul = std::memchr(out.data(), 0, out.size());
+  r.terminated = nul != nullptr;
+  r.text.assign(out.chars(), nul != nullptr ? static_cast<const char*>(nul) - out.chars()
+                                            : out.size());
+  return r;
+}
+
+std::string ParseViolation(int i, const std::string& text, uint32_t outLen,
+                           const ParseResult& r) {
+  if (!r.guardsIntact) return "wrote outside the record buffer or a pointed buffer";
+  if (r.retLen > outLen) return "reported more bytes than the buffer holds";
+  if (!kova::ParseBuilt(i) && (r.ret != 0 || !r.untouched)) {
+    return "a name without translator did not refuse with the buffer untouched";
+  }
+  const uint32_t recordSize = ParseSize(i);
+  if (recordSize != 0 && outLen < recordSize && (r.ret != 0 || !r.untouched)) {
+    return "did not refuse, untouched, a buffer smaller than one record";
+  }
+  if (r.ret != 0 && !Parses(text)) return "succeeded on text that does not parse";
+  return std::string();
+}
+
+std::string PackViolation(int k, const std::string& record, uint32_t inLen, uint32_t outLen,
+                          const PackResult& r, const std::string& pointed) {
+  if (!r.guardsIntact) return "wrote outside the text buffer or into its input";
+  if (!kova::PackBuilt(k)) {
+    return r.ret == 0 && r.clean ? std::string()
+                                 : "a name without translator did not refuse untouched";
+  }
+  const uint32_t recordSize = PackSize(k);
+  if (recordSize != 0 && inLen < recordSize) {
+    if (!PackAcceptsShortInput(k) && r.ret != 0) return "packed an input shorter than one record";
+    if (PackAcceptsShortInput(k) && outLen > 5 && (r.ret == 0 || r.text != "null\n")) {
+      return "an input shorter than one record did not pack as null";
+    }
+  }
+  if (r.ret == 0) return r.clean ? std::string() : "failed but left text in the buffer";
+  if (r.text.empty() || r.text.back() != '\n') return "packed text does not end in a newline";
+
+  // The text is copied whole or not at all: one byte less than it needs is
+  // refused (or, under the "at most" copy rule, filled without NUL), one
+  // byte more holds it with its NUL.
+  const char* name = kova::kPackNames[k].name;
+  const uint32_t length = static_cast<uint32_t>(r.text.size());
+  if (!r.terminated) {
+    const PackResult more = CallPack(name, record, inLen, outLen + 1, pointed);
+    if (more.ret == 0 || !more.terminated || more.text != r.text) {
+      return "filled the buffer without NUL, yet one byte more does not hold the same text";
+    }
+    return std::string();
+  }
+  const PackResult exact = CallPack(name, record, inLen, length, pointed);
+  if (!exact.guardsIntact) return "wrote outside a buffer of the text's exact length";
+  if (exact.ret == 0 ? !exact.clean : (exact.terminated || exact.text != r.text)) {
+    return "a buffer of the text's exact length got a partial or different text";
+  }
+  const PackResult spare = CallPack(name, record, inLen, length + 1, pointed);
+  if (spare.ret == 0 || !spare.terminated || spare.text != r.text) {
+    return "a buffer one byte longer than the text did not get the same text";
+  }
+  return std::string();
+}
+
+}  // namespace kova_harness

@@ -1,0 +1,72 @@
+// One call of an exported function in guarded buffers, and the rules every
+// translator keeps whatever it is given. The bad-input suite, the
+// concurrency test and the fuzzers all judge calls with these verdicts.
+#ifndef KOVA_TESTS_HARNESS_CALLS_H_
+#define KOVA_TESTS_HARNESS_CALLS_H_
+
+#include <cstdint>
+#include <string>
+
+namespace kova_harness {
+
+// Byte a buffer is filled with to see whether a call wrote anything.
+constexpr uint8_t kUntouched = 0xA5;
+
+struct ParseResult {
+  int ret = 0;
+  uint32_t retLen = 0;       // starts at 0
+  bool guardsIntact = true;  // the record buffer's and every pointed buffer's
+  bool untouched = true;     // every byte still holds the prefill
+  std::string bytes;         // the record buffer and pointed buffers after the call
+};
+
+// KOVA_ParseData(name, text, buffer of `outLen` bytes filled with
+// `prefill`). Pointer fields of the records (see RecordPointer) are aimed at
+// zeroed buffers of `pointedCount` units first.
+ParseResult CallParse(const char* name, const char* text, uint32_t outLen, uint8_t prefill,
+                      int64_t pointedCount = 4096);
+
+struct PackResult {
+  int ret = 0;
+  bool guardsIntact = true;  // the text buffer's, the record's and every pointed buffer's
+  bool clean = true;         // the text buffer is all zero or untouched
+  bool terminated = false;   // a NUL lies within outLen
+  std::string text;          // bytes up to the NUL, or all outLen bytes
+};
+
+// KOVA_PacketData(name, the first `inLen` bytes of `record`, text buffer of
+// `outLen` bytes filled with kUntouched). The record is copied into a
+// guarded buffer of exactly `inLen` bytes; pointer fields are aimed at
+// buffers holding `pointed` (repeated) with the count the record holds.
+PackResult CallPack(const char* name, const std::string& record, uint32_t inLen, uint32_t outLen,
+                    const std::string& pointed = std::string());
+
+// What a parse call broke of the rules every translator keeps; "" when
+// nothing. `i` is the parse list index of the name called.
+std::string ParseViolation(int i, const std::string& text, uint32_t outLen,
+                           const ParseResult& r);
+// The same for pack name `k`. A successful pack that fills its buffer
+// exactly without a NUL is judged by calling again with one byte more.
+std::string PackViolation(int k, const std::string& record, uint32_t inLen, uint32_t outLen,
+                          const PackResult& r, const std::string& pointed = std::string());
+
+struct EventResult {
+  int ret = 0;
+  uint32_t calls = 0;     // callbacks received
+  uint64_t digest = 0;    // of every callback's arguments and record bytes, in order
+  std::string violation;  // first broken rule of the callback contract; "" when none
+};
+
+// KOVA_ParseAnalyzerEventData (or, with `byCallback`, KOVA_ParseDataByCallback)
+// on a copy of `text` in a buffer of exactly its length plus the NUL. The
+// callback reads every byte of each record it is given. For analyzer events
+// it also holds the contract: at most 128 events, a null record exactly
+// when its size is 0, the reserved pointer null and its size 0.
+EventResult CallEvents(const std::string& text, uint32_t len, bool byCallback);
+
+// A hash of `n` bytes, chained onto `h`.
+uint64_t Digest(const void* p, size_t n, uint64_t h = 14695981039346656037ull);
+
+}  // namespace kova_harness
+
+#endif  // KOVA_TESTS_HARNESS_CALLS_H_

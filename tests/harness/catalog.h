@@ -1,0 +1,104 @@
+// What the reliability harness (bad-input suite, concurrency test, fuzzers,
+// benchmarks) knows about the configuration names: all of it is read from
+// the dispatch tables, so a translator bound later is covered the day it is
+// bound, without editing the harness.
+#ifndef KOVA_TESTS_HARNESS_CATALOG_H_
+#define KOVA_TESTS_HARNESS_CATALOG_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "harness/guarded_buffer.h"
+
+namespace kova_harness {
+
+// Buffer size used for a name whose record size the tables do not give.
+constexpr uint32_t kUnknownRecordSize = 64u << 10;
+// The largest buffer the harness hands over.
+constexpr uint32_t kHugeBuffer = 16u << 20;
+
+// Record size of parse name `i` / pack name `k` as the tables give it (0
+// when they do not).
+uint32_t ParseSize(int i);
+uint32_t PackSize(int k);
+// The same, or kUnknownRecordSize when the tables give none.
+uint32_t ParseSizeOrDefault(int i);
+uint32_t PackSizeOrDefault(int k);
+
+// Whether the packer of pack name `k` is the table driver in array mode,
+// which packs an input shorter than one record as "null" instead of
+// refusing it.
+bool PackAcceptsShortInput(int k);
+
+// Indices of the names whose translator is built, in list order.
+std::vector<int> BuiltParseNames();
+std::vector<int> BuiltPackNames();
+
+struct NamePair {
+  int parse;  // index in the parse list
+  int pack;   // index of the same name in the pack list
+};
+// Names built in both directions.
+std::vector<NamePair> BuiltBothWays();
+
+// A list index chosen by arbitrary bits, moved forward (wrapping) to the
+// next built name so that no fuzzing time is spent on names that refuse at
+// once. When no name of the list is built the index is kept.
+int NextBuiltParse(uint32_t any);
+int NextBuiltPack(uint32_t any);
+
+// `name` made usable in a test's name (letters, digits and '_').
+std::string TestLabel(const char* name);
+
+// Ways of filling a record handed to a packer.
+enum class Fill : uint8_t {
+  kZero,
+  kAllFF,
+  kAll7F,
+  kMaxCounts,  // every aligned 32-bit word 0x7FFFFFFF
+  kRandom,     // bytes of a fixed-seed generator
+  kCount
+};
+void FillRecord(uint8_t* p, size_t n, Fill fill, uint32_t seed);
+
+// Records that hold a pointer to a caller-owned buffer beside its length
+// (the rule buffer of the analysis rule list, for one). A record filled with
+// arbitrary bytes must have such a pointer aimed at a real buffer of the
+// length the record announces; the translator is then held to that length.
+// The table is in record_pointers.cpp, one line per pointer field, ended by
+// a line with a null name.
+struct RecordPointer {
+  const char* name;        // configuration name as the lists spell it
+  uint32_t pointerOffset;  // offset of the pointer within one record
+  uint32_t countOffset;    // offset of the uint32 count beside it
+  uint32_t unitSize;       // bytes per counted unit (1 for a length in bytes)
+};
+extern const RecordPointer kRecordPointers[];
+
+// The buffers that the pointer fields of some records were aimed at.
+class PointedBuffers {
+ public:
+  static constexpr uint32_t kMaxBytes = 1u << 20;
+
+  // For every pointer field of configuration `name`, in every whole record
+  // of [records, records + length) with stride `recordSize`: takes the count
+  // the record holds (or `count` when it is not negative), cuts it so the
+  // buffer stays within kMaxBytes, writes it back, and aims the pointer at a
+  // guarded buffer of that many units, filled with `content` repeated (zeros
+  // when empty).
+  void Attach(const char* name, uint8_t* records, size_t length, uint32_t recordSize,
+              int64_t count, const std::string& content);
+  bool GuardsIntact() const;
+  // Bytes of every attached buffer, in order (for comparing two runs).
+  std::string Contents() const;
+
+ private:
+  std::vector<std::unique_ptr<GuardedBuffer>> buffers_;
+};
+
+}  // namespace kova_harness
+
+#endif  // KOVA_TESTS_HARNESS_CATALOG_H_
