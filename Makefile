@@ -6,11 +6,15 @@ ASAN_BUILD ?= build-asan
 FUZZ_BUILD ?= build-fuzz
 FUZZ_SECONDS ?= 180
 FUZZ_SHORT_SECONDS ?= 60
+TSAN_BUILD ?= build-tsan
+BENCH_BUILD ?= build-bench
+COVERAGE_BUILD ?= build-coverage
+BENCH_ARGS ?=
 
 DEB_PACKAGES := cmake make g++ pkg-config libjsoncpp-dev libgtest-dev libgmock-dev \
 	libbenchmark-dev ninja-build clang libclang-rt-dev llvm binutils gcovr
 
-.PHONY: all deps build test demo fuzz fuzz-short tsan bench coverage clean
+.PHONY: all deps build test demo fuzz-build fuzz fuzz-short tsan bench coverage clean
 
 all: build
 
@@ -40,5 +44,42 @@ test: build
 demo: build
 	@sh tools/demo.sh $(BUILD)/kova samples
 
+# libFuzzer targets, with clang, AddressSanitizer and UndefinedBehaviorSanitizer.
+# `make fuzz FUZZ_SECONDS=600` fuzzes longer; fuzz/run.sh says how to replay a failure.
+fuzz-build: deps
+	CXX=clang++ cmake -S . -B $(FUZZ_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	  -DKOVA_FUZZ=ON -DKOVA_SANITIZE=ON -DKOVA_TESTS=OFF >/dev/null
+	cmake --build $(FUZZ_BUILD) -j $(JOBS) --target kova_fuzzers
+
+fuzz: fuzz-build
+	@sh fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_SECONDS)
+
+fuzz-short: fuzz-build
+	@sh fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_SHORT_SECONDS)
+
+# The concurrency test under ThreadSanitizer.
+tsan: deps
+	cmake -S . -B $(TSAN_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKOVA_TSAN=ON >/dev/null
+	cmake --build $(TSAN_BUILD) -j $(JOBS) --target kova_tests
+	TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1 \
+	  $(TSAN_BUILD)/tests/kova_tests --gtest_filter='Concurrency.*'
+
+# Google Benchmark, Release build; bench/README.md explains the numbers.
+# BENCH_ARGS passes options on, e.g. BENCH_ARGS=--benchmark_filter=parse/
+bench: deps
+	cmake -S . -B $(BENCH_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Release -DKOVA_BENCH=ON \
+	  -DKOVA_TESTS=OFF >/dev/null
+	cmake --build $(BENCH_BUILD) -j $(JOBS) --target kova_bench
+	$(BENCH_BUILD)/bench/kova_bench $(BENCH_ARGS)
+
+# Line and branch coverage of src/ by the unit tests (gcc --coverage, gcovr).
+coverage: deps
+	cmake -S . -B $(COVERAGE_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DKOVA_COVERAGE=ON >/dev/null
+	cmake --build $(COVERAGE_BUILD) -j $(JOBS) --target kova_tests
+	find $(COVERAGE_BUILD) -name '*.gcda' -delete
+	cd $(COVERAGE_BUILD)/tests && ./kova_tests --gtest_brief=1
+	gcovr -r . $(COVERAGE_BUILD) --filter 'src/' --exclude-throw-branches \
+	  --exclude-unreachable-branches --print-summary
+
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD) build-tsan build-bench build-coverage
+	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD) $(TSAN_BUILD) $(BENCH_BUILD) $(COVERAGE_BUILD)

@@ -15,16 +15,24 @@ const Json::Value& NullValue() {
   return kNull;
 }
 
+// One reader per thread, made on first use: setting a reader up costs more
+// than reading a short device response. The reader starts afresh at every
+// parse, also after one that threw (nesting beyond its limit).
+Json::CharReader& ThreadReader() {
+  thread_local const std::unique_ptr<Json::CharReader> reader = [] {
+    Json::CharReaderBuilder builder;
+    builder["collectComments"] = false;
+    return std::unique_ptr<Json::CharReader>(builder.newCharReader());
+  }();
+  return *reader;
+}
+
 }  // namespace
 
 bool ReadJson(const char* text, Json::Value* root) {
   if (text == nullptr || root == nullptr) return false;
   try {
-    Json::CharReaderBuilder builder;
-    builder["collectComments"] = false;
-    std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
-    std::string errors;
-    return reader->parse(text, text + std::strlen(text), root, &errors);
+    return ThreadReader().parse(text, text + std::strlen(text), root, nullptr);
   } catch (...) {
     return false;
   }

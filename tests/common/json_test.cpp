@@ -138,4 +138,22 @@ TEST(JsonRead, DefaultModeToleranceAndFailures) {
   EXPECT_EQ(Json::uintValue, v[1].type());
 }
 
+// The reader is kept from call to call: a parse that failed half-way, or
+// threw on nesting beyond the limit, must leave nothing behind for the next.
+TEST(JsonRead, EachCallStartsAfresh) {
+  const std::string deep = std::string(5000, '[') + std::string(5000, ']');
+  for (int round = 0; round < 3; ++round) {
+    Json::Value v;
+    EXPECT_FALSE(kova::ReadJson(deep.c_str(), &v));
+    Json::Value a;
+    ASSERT_TRUE(kova::ReadJson("{\"a\":[1,{\"b\":2}]}", &a));
+    EXPECT_EQ(2, a["a"][1]["b"].asInt());
+    Json::Value cut;
+    EXPECT_FALSE(kova::ReadJson("{\"a\":[1,{\"b\":", &cut));
+    Json::Value n;
+    ASSERT_TRUE(kova::ReadJson("7", &n));
+    EXPECT_EQ(7, n.asInt());
+  }
+}
+
 }  // namespace

@@ -40,7 +40,9 @@ class ParseBadInput : public testing::TestWithParam<int> {
   void Check(const std::string& what, const std::string& text, uint32_t outLen,
              uint8_t prefill = 0) {
     const int i = GetParam();
-    const ParseResult r = CallParse(kova::kParseNames[i].name, text.c_str(), outLen, prefill);
+    ParseOptions o;
+    o.prefill = prefill;
+    const ParseResult r = CallParse(kova::kParseNames[i].name, text.c_str(), outLen, o);
     const std::string v = ParseViolation(i, text, outLen, r);
     EXPECT_EQ("", v) << what << " (outLen " << outLen << ", returned " << r.ret << ")";
   }

@@ -62,20 +62,36 @@ EventResult CallEvents(const std::string& text, uint32_t len, bool byCallback) {
   return r;
 }
 
-ParseResult CallParse(const char* name, const char* text, uint32_t outLen, uint8_t prefill,
-                      int64_t pointedCount) {
-  GuardedBuffer out(outLen, prefill);
+ParseResult CallParse(const char* name, const char* text, uint32_t outLen,
+                      const ParseOptions& o) {
+  GuardedBuffer out(outLen, o.prefill);
+  const uint32_t recordSize = RecordSizeOf(name, true);
+  if (o.sizeWord >= 0) {
+    const uint32_t word = static_cast<uint32_t>(o.sizeWord);
+    const size_t stride = recordSize >= sizeof word ? recordSize : out.size();
+    for (size_t at = 0; at + sizeof word <= out.size() && at / stride < 64; at += stride) {
+      std::memcpy(out.data() + at, &word, sizeof word);
+    }
+  }
   PointedBuffers pointed;
-  pointed.Attach(name, out.data(), out.size(), RecordSizeOf(name, true), pointedCount,
-                 std::string());
-  const std::string before(out.chars(), out.size());
+  pointed.Attach(name, out.data(), out.size(), recordSize, o.pointedCount, std::string());
+  // A plain fill is checked in place after the call; anything else is
+  // compared with a copy.
+  const bool plain = o.sizeWord < 0 && pointed.empty();
+  const std::string before = plain ? std::string() : std::string(out.chars(), out.size());
+  // The text in a buffer of exactly its length, so that a read past its
+  // NUL is caught too.
+  const size_t textSize = std::strlen(text) + 1;
+  GuardedBuffer json(textSize);
+  std::memcpy(json.data(), text, textSize);
 
   ParseResult r;
-  r.ret = KOVA_ParseData(name, text, out.data(), outLen, &r.retLen);
-  r.guardsIntact = out.GuardsIntact() && pointed.GuardsIntact();
-  r.untouched = std::memcmp(before.data(), out.data(), out.size()) == 0;
-  r.bytes.assign(out.chars(), out.size());
-  r.bytes += pointed.Contents();
+  r.ret = KOVA_ParseData(name, json.chars(), out.data(), outLen, &r.retLen);
+  r.guardsIntact = out.GuardsIntact() && pointed.GuardsIntact() && json.GuardsIntact() &&
+                   std::memcmp(json.data(), text, textSize) == 0;
+  r.untouched = plain ? out.AllEqual(o.prefill)
+                      : std::memcmp(before.data(), out.data(), out.size()) == 0;
+  if (o.keepBytes) r.bytes = std::string(out.chars(), out.size()) + pointed.Contents();
   return r;
 }
 

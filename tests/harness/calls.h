@@ -15,16 +15,25 @@ constexpr uint8_t kUntouched = 0xA5;
 struct ParseResult {
   int ret = 0;
   uint32_t retLen = 0;       // starts at 0
-  bool guardsIntact = true;  // the record buffer's and every pointed buffer's
-  bool untouched = true;     // every byte still holds the prefill
-  std::string bytes;         // the record buffer and pointed buffers after the call
+  bool guardsIntact = true;  // the record's, the text's, every pointed buffer's; text unchanged
+  bool untouched = true;     // the record buffer still holds what it held before the call
+  std::string bytes;         // with keepBytes: the record buffer, then every pointed buffer
 };
 
-// KOVA_ParseData(name, text, buffer of `outLen` bytes filled with
-// `prefill`). Pointer fields of the records (see RecordPointer) are aimed at
-// zeroed buffers of `pointedCount` units first.
-ParseResult CallParse(const char* name, const char* text, uint32_t outLen, uint8_t prefill,
-                      int64_t pointedCount = 4096);
+struct ParseOptions {
+  uint8_t prefill = 0;          // byte the record buffer is filled with
+  int64_t pointedCount = 4096;  // units of each buffer a pointer field is aimed at
+  int64_t sizeWord = -1;        // when not negative: the leading uint32 of the first 64
+                                // records, as callers of records that carry their own
+                                // size set it
+  bool keepBytes = false;       // fill ParseResult::bytes
+};
+
+// KOVA_ParseData(name, copy of `text` in a buffer of exactly its length,
+// buffer of `outLen` bytes prepared as `o` says). Pointer fields of the
+// records (see RecordPointer) are aimed at zeroed buffers first.
+ParseResult CallParse(const char* name, const char* text, uint32_t outLen,
+                      const ParseOptions& o = ParseOptions());
 
 struct PackResult {
   int ret = 0;

@@ -71,6 +71,16 @@ int NextBuilt(uint32_t any, size_t count, Built built) {
 int NextBuiltParse(uint32_t any) { return NextBuilt(any, kParseNameCount, kova::ParseBuilt); }
 int NextBuiltPack(uint32_t any) { return NextBuilt(any, kPackNameCount, kova::PackBuilt); }
 
+NamePair NextBuiltBothWays(uint32_t any) {
+  static const std::vector<NamePair> pairs = BuiltBothWays();  // the tables never change
+  if (pairs.empty()) return {-1, -1};
+  const int wanted = static_cast<int>(any % kParseNameCount);
+  for (const NamePair& p : pairs) {
+    if (p.parse >= wanted) return p;
+  }
+  return pairs.front();
+}
+
 std::string TestLabel(const char* name) {
   std::string out;
   for (const char* p = name; *p != '\0'; ++p) {

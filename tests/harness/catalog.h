@@ -50,6 +50,10 @@ std::vector<NamePair> BuiltBothWays();
 int NextBuiltParse(uint32_t any);
 int NextBuiltPack(uint32_t any);
 
+// The same for names built in both directions, chosen by parse list index;
+// {-1, -1} when there is none.
+NamePair NextBuiltBothWays(uint32_t any);
+
 // `name` made usable in a test's name (letters, digits and '_').
 std::string TestLabel(const char* name);
 
@@ -92,6 +96,7 @@ class PointedBuffers {
   void Attach(const char* name, uint8_t* records, size_t length, uint32_t recordSize,
               int64_t count, const std::string& content);
   bool GuardsIntact() const;
+  bool empty() const { return buffers_.empty(); }
   // Bytes of every attached buffer, in order (for comparing two runs).
   std::string Contents() const;
 

@@ -30,8 +30,9 @@ struct Task {
 uint64_t Outcome(const Task& t) {
   switch (t.kind) {
     case Task::kParse: {
-      const ParseResult r =
-          CallParse(kova::kParseNames[t.index].name, t.input.c_str(), t.outLen, 0);
+      ParseOptions o;
+      o.keepBytes = true;
+      const ParseResult r = CallParse(kova::kParseNames[t.index].name, t.input.c_str(), t.outLen, o);
       uint64_t h = Digest(&r.ret, sizeof r.ret);
       h = Digest(&r.retLen, sizeof r.retLen, h);
       return Digest(r.bytes.data(), r.bytes.size(), h ^ r.guardsIntact);

@@ -1,0 +1,73 @@
+// kova_bench: every benchmark, then the ratio of each measured case to its
+// floor. See bench/README.md for how to read the numbers.
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "bench/bench_cases.h"
+#include "harness/documents.h"
+
+namespace kova_bench {
+
+namespace {
+
+std::vector<Pair>& MutablePairs() {
+  static std::vector<Pair> pairs;
+  return pairs;
+}
+
+// The console report, remembering each benchmark's real time in ns.
+class RatioReporter : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& r : runs) {
+      if (r.error_occurred || !r.aggregate_name.empty()) continue;
+      nanoseconds_[r.benchmark_name()] =
+          r.GetAdjustedRealTime() * 1e9 / benchmark::GetTimeUnitMultiplier(r.time_unit);
+    }
+    ConsoleReporter::ReportRuns(runs);
+  }
+
+  void PrintRatios() const {
+    std::printf("\n%-8s %-32s %14s %14s %8s\n", "", "", "ours (ns)", "floor (ns)", "ratio");
+    for (const Pair& p : Pairs()) {
+      const auto ours = nanoseconds_.find(p.ours);
+      const auto floor = nanoseconds_.find(p.floor);
+      if (ours == nanoseconds_.end() || floor == nanoseconds_.end()) continue;
+      std::printf("%-8s %-32s %14.0f %14.0f %8.2f\n", p.what.c_str(), p.subject.c_str(),
+                  ours->second, floor->second, ours->second / floor->second);
+    }
+  }
+
+ private:
+  std::map<std::string, double> nanoseconds_;
+};
+
+}  // namespace
+
+void AddPair(const std::string& what, const std::string& subject, const std::string& ours,
+             const std::string& floor) {
+  MutablePairs().push_back({what, subject, ours, floor});
+}
+
+const std::vector<Pair>& Pairs() { return MutablePairs(); }
+
+}  // namespace kova_bench
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  const std::vector<kova_harness::SampleDocument> samples =
+      kova_harness::LoadSampleDocuments({KOVA_SAMPLES_DIR, KOVA_FIXTURES_DIR});
+  kova_bench::RegisterTranslatorBenchmarks(samples);
+  kova_bench::RegisterWriterBenchmarks(samples);
+  kova_bench::RegisterEventBenchmarks(samples);
+  kova_bench::RatioReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  reporter.PrintRatios();
+  benchmark::Shutdown();
+  return 0;
+}

@@ -1,0 +1,33 @@
+// The event stream and parse-by-callback: fuzzed event documents, in a
+// buffer of exactly their length, with a length argument that may lie. The
+// callback reads every byte of every record it is given and holds the
+// callback contract of the analyzer events.
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "fuzz_input.h"
+#include "json_mutator.h"
+#include "harness/calls.h"
+
+using namespace kova_fuzz;
+using namespace kova_harness;
+
+extern "C" size_t LLVMFuzzerCustomMutator(uint8_t* data, size_t size, size_t maxSize,
+                                          unsigned int seed) {
+  static JsonMutator mutator(KOVA_FUZZ_DICT);
+  return mutator.Mutate(data, size, maxSize, seed, 3);
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+  FuzzInput in(data, size);
+  const uint8_t flags = in.Byte();
+  const uint16_t len = in.Word();
+  const std::string text = in.Rest();
+
+  const bool byCallback = (flags & 1) != 0;
+  const uint32_t length = (flags & 2) != 0 ? len : static_cast<uint32_t>(text.size());
+  const EventResult r = CallEvents(text, length, byCallback);
+  if (!r.violation.empty()) Fail(byCallback ? "by-callback" : "events", "", r.violation);
+  return 0;
+}

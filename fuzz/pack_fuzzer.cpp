@@ -1,0 +1,87 @@
+// Pack: the input chooses a name, the input length (one record, one byte
+// less, several, none), the size of the text buffer (one byte up to 16 MiB)
+// and how the record is filled (its own bytes, 0xFF, 0x7F, 0x7FFFFFFF
+// counts, zeros, or a pattern overlaid with its bytes). The record sits in
+// a buffer of exactly the input length between poisoned guard zones; the
+// packer must read nothing past it, write nothing outside the text buffer,
+// leave NUL-terminated text on success (whole or nothing) and a clean buffer
+// on failure.
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "api/dispatch.h"
+#include "fuzz_input.h"
+#include "harness/calls.h"
+#include "harness/catalog.h"
+
+using namespace kova_fuzz;
+using namespace kova_harness;
+
+namespace {
+
+uint32_t ChooseInLen(uint8_t selector, uint32_t recordSize, uint16_t extra, size_t payload) {
+  const uint32_t r = recordSize != 0 ? recordSize : kUnknownRecordSize;
+  switch (selector % 8) {
+    case 0: return r;
+    case 1: return r - 1;
+    case 2: return 0;
+    case 3: return r * (2 + extra % 3);
+    case 4: return r + 1 + extra % 16;
+    case 5: return static_cast<uint32_t>(payload < kHugeBuffer ? payload : kHugeBuffer);
+    case 6: return 2 * r - 1;
+    default: return extra;
+  }
+}
+
+uint32_t ChooseOutLen(uint8_t selector, uint16_t extra) {
+  if (selector == 255 && (extra & 0xF) == 0) return kHugeBuffer;  // rarely: see ChooseSize
+  const uint32_t kSizes[] = {64u << 10, 1, 1u + extra, 1u << 20, 2u + extra % 64, 4096,
+                             256u << 10, 16};
+  return kSizes[selector % 8];
+}
+
+std::string MakeRecord(uint32_t inLen, uint8_t fill, uint16_t extra, const std::string& payload) {
+  std::string record(inLen, '\0');
+  uint8_t* p = reinterpret_cast<uint8_t*>(&record[0]);
+  switch (fill % 6) {
+    case 0:  // the payload, repeated
+      for (size_t j = 0; !payload.empty() && j < record.size(); ++j) {
+        record[j] = payload[j % payload.size()];
+      }
+      break;
+    case 1: FillRecord(p, record.size(), Fill::kAllFF, 0); break;
+    case 2: FillRecord(p, record.size(), Fill::kAll7F, 0); break;
+    case 3: FillRecord(p, record.size(), Fill::kMaxCounts, 0); break;
+    case 4: break;
+    default: {  // a pattern with the payload laid over it somewhere
+      FillRecord(p, record.size(), static_cast<Fill>((fill >> 3) % 4 + 1), extra);
+      const size_t at = record.empty() ? 0 : extra % record.size();
+      for (size_t j = 0; j < payload.size() && at + j < record.size(); ++j) {
+        record[at + j] = payload[j];
+      }
+      break;
+    }
+  }
+  return record;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+  FuzzInput in(data, size);
+  const Header h = ReadHeader(&in);
+  const std::string payload = in.Rest();
+
+  const int k = NextBuiltPack(h.name);
+  const char* listed = kova::kPackNames[k].name;
+  const std::string name = NameVariant(listed, h.flags);
+  const uint32_t inLen = ChooseInLen(h.size, PackSize(k), h.extra, payload.size());
+  const uint32_t outLen = ChooseOutLen(h.other, h.extra);
+  const std::string record = MakeRecord(inLen, static_cast<uint8_t>(h.flags >> 2), h.extra, payload);
+
+  const PackResult r = CallPack(name.c_str(), record, inLen, outLen, payload);
+  const std::string v = PackViolation(k, record, inLen, outLen, r, payload);
+  if (!v.empty()) Fail("pack", listed, v);
+  return 0;
+}
