@@ -136,7 +136,7 @@ typedef struct EncodeFormat {
   int32_t audioEnable;  // "AudioEnable": 0 or 1
   int32_t snapEnable;   // "SnapEnable": 0 or 1
   int32_t reservedValue;
-  AudioFormat audio;    // "Audio"
+  AudioFormat audio;  // "Audio"
 } EncodeFormat;
 
 // One channel of "Encode". The caller's buffer holds an array of these; the
@@ -216,9 +216,9 @@ typedef struct EncodeRoiConfig {
 // `encodeModeMask` video compression i.
 
 enum {
-  kDspMaskListMax = 32,   // one entry per image size a 32-bit mask can name
-  kDspImageSizeMax = 64,  // names in "ImageSize" / "ImageSize_Assi"
-  kDspResolutionMax = 64, // entries in "Resolution" / "Resolution_1"
+  kDspMaskListMax = 32,    // one entry per image size a 32-bit mask can name
+  kDspImageSizeMax = 64,   // names in "ImageSize" / "ImageSize_Assi"
+  kDspResolutionMax = 64,  // entries in "Resolution" / "Resolution_1"
 };
 
 // One element of "Resolution": {"Width": w, "Height": h}.
@@ -237,18 +237,18 @@ typedef struct DspEncodeCapRecord {
   uint32_t imageSizeMask;      // "ImageSizeMask": main-stream image sizes
   uint32_t encodeCap;          // "EncodeCap": device-defined encode capability level
   uint32_t streamCap;          // "StreamCap": bit 0 main, bits 1-3 extra 1-3, bit 4 snapshot
-  uint32_t imageSizeMaskAssiCount;  // elements held in `imageSizeMaskAssi`
-  uint32_t imageSizeMaskAssi[kDspMaskListMax];  // "ImageSizeMask_Assi": element i, the extra-
-                                                // stream sizes allowed with main size i
-  uint32_t maxFrameOfImageSizeCount;            // elements held in `maxFrameOfImageSize`
-  uint32_t maxFrameOfImageSize[kDspMaskListMax];  // "MaxFrameOfImageSize": element i, the
-                                                  // highest frame rate at image size i
-  uint32_t imageSizeCount;                   // names held in `imageSize`
-  int32_t imageSize[kDspImageSizeMax];       // "ImageSize": main-stream sizes by name
-  uint32_t imageSizeAssiCount;               // names held in `imageSizeAssi`
-  int32_t imageSizeAssi[kDspImageSizeMax];   // "ImageSize_Assi": extra-stream sizes by name
-  int32_t resolutionNum;                     // "ResolutionNum", as the device gives it
-  uint32_t resolutionCount;                  // elements held in `resolution`
+  uint32_t imageSizeMaskAssiCount;                  // elements held in `imageSizeMaskAssi`
+  uint32_t imageSizeMaskAssi[kDspMaskListMax];      // "ImageSizeMask_Assi": element i, the extra-
+                                                    // stream sizes allowed with main size i
+  uint32_t maxFrameOfImageSizeCount;                // elements held in `maxFrameOfImageSize`
+  uint32_t maxFrameOfImageSize[kDspMaskListMax];    // "MaxFrameOfImageSize": element i, the
+                                                    // highest frame rate at image size i
+  uint32_t imageSizeCount;                          // names held in `imageSize`
+  int32_t imageSize[kDspImageSizeMax];              // "ImageSize": main-stream sizes by name
+  uint32_t imageSizeAssiCount;                      // names held in `imageSizeAssi`
+  int32_t imageSizeAssi[kDspImageSizeMax];          // "ImageSize_Assi": extra-stream sizes by name
+  int32_t resolutionNum;                            // "ResolutionNum", as the device gives it
+  uint32_t resolutionCount;                         // elements held in `resolution`
   EncodeResolution resolution[kDspResolutionMax];   // "Resolution": main-stream resolutions
   int32_t resolutionNum1;                           // "ResolutionNum_1"
   uint32_t resolution1Count;                        // elements held in `resolution1`

@@ -51,8 +51,7 @@ struct ListField {
   }
 
 const ListField kListFields[] = {
-    KOVA_DSP_LIST("ImageSizeMask_Assi", ListKind::kUInt, imageSizeMaskAssiCount,
-                  imageSizeMaskAssi),
+    KOVA_DSP_LIST("ImageSizeMask_Assi", ListKind::kUInt, imageSizeMaskAssiCount, imageSizeMaskAssi),
     KOVA_DSP_LIST("MaxFrameOfImageSize", ListKind::kUInt, maxFrameOfImageSizeCount,
                   maxFrameOfImageSize),
     KOVA_DSP_LIST("ImageSize", ListKind::kImageSize, imageSizeCount, imageSize),
@@ -93,8 +92,8 @@ void PackList(const unsigned char* record, const ListField& l, Json::Value& cap)
   Json::Value& list = SetMember(cap, l.key);
   list = Json::Value(Json::arrayValue);
   // The count comes from the caller: never past the list's capacity.
-  const uint32_t n = std::min(static_cast<uint32_t>(LoadInt(record + l.countOffset, 4, false)),
-                              l.capacity);
+  const uint32_t n =
+      std::min(static_cast<uint32_t>(LoadInt(record + l.countOffset, 4, false)), l.capacity);
   for (uint32_t i = 0; i < n; ++i) {
     const unsigned char* p = record + l.offset + i * ElementSize(l.kind);
     Json::Value& e = SetElement(list, i);

@@ -45,8 +45,8 @@ int ParseEncodeAdapt(const char* jsonText, void* outBuf, uint32_t outLen, uint32
     SetReturnedLength(retLen, 0);
     return 1;
   }
-  const uint32_t n = WalkChannels(*table, static_cast<unsigned char*>(outBuf), outLen,
-                                  kRecordSize, ParseAdaptRecord);
+  const uint32_t n = WalkChannels(*table, static_cast<unsigned char*>(outBuf), outLen, kRecordSize,
+                                  ParseAdaptRecord);
   SetReturnedLength(retLen, static_cast<uint64_t>(n) * kRecordSize);
   return 1;
 }

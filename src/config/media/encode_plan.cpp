@@ -57,8 +57,8 @@ int ParseEncodePlan(const char* jsonText, void* outBuf, uint32_t outLen, uint32_
     SetReturnedLength(retLen, 0);
     return 1;
   }
-  const uint32_t n = WalkChannels(*table, static_cast<unsigned char*>(outBuf), outLen,
-                                  kEntrySize, ParseEntry);
+  const uint32_t n =
+      WalkChannels(*table, static_cast<unsigned char*>(outBuf), outLen, kEntrySize, ParseEntry);
   SetReturnedLength(retLen, static_cast<uint64_t>(n) * kEntrySize);
   return 1;
 }

@@ -14,8 +14,8 @@ bool ReadResponse(const char* jsonText, bool checkResult, Json::Value* root,
   return true;
 }
 
-uint32_t WalkChannels(const Json::Value& table, unsigned char* out, uint32_t outLen,
-                      uint32_t size, ChannelFill fill) {
+uint32_t WalkChannels(const Json::Value& table, unsigned char* out, uint32_t outLen, uint32_t size,
+                      ChannelFill fill) {
   if (size == 0 || outLen < size) return 0;
   if (!table.isArray()) {
     fill(table, out);
@@ -30,8 +30,8 @@ void SetReturnedLength(uint32_t* retLen, uint64_t bytes) {
   if (retLen != nullptr) *retLen = static_cast<uint32_t>(bytes);
 }
 
-int PackChannels(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen,
-                 uint32_t size, RecordPacker packer) {
+int PackChannels(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen, uint32_t size,
+                 RecordPacker packer) {
   if (inBuf == nullptr || outJson == nullptr || outLen == 0 || inLen < size) return 0;
   return PackTableDriver(inBuf, inLen, outJson, outLen, packer, size, 0, 1);
 }

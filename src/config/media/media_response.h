@@ -22,8 +22,8 @@ bool ReadResponse(const char* jsonText, bool checkResult, Json::Value* root,
 // record 0 when it is not an array. Null elements are handed to `fill` like
 // any other. Returns the number of records walked.
 using ChannelFill = void (*)(const Json::Value& channel, unsigned char* record);
-uint32_t WalkChannels(const Json::Value& table, unsigned char* out, uint32_t outLen,
-                      uint32_t size, ChannelFill fill);
+uint32_t WalkChannels(const Json::Value& table, unsigned char* out, uint32_t outLen, uint32_t size,
+                      ChannelFill fill);
 
 // Stores `bytes` into `*retLen` when it is not null.
 void SetReturnedLength(uint32_t* retLen, uint64_t bytes);
@@ -31,8 +31,8 @@ void SetReturnedLength(uint32_t* retLen, uint64_t bytes);
 // Packs inLen / size records with `packer`: one record as an object, several
 // as an array. Less than one record is refused. The text is copied with its
 // terminating zero only when it fits.
-int PackChannels(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen,
-                 uint32_t size, RecordPacker packer);
+int PackChannels(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen, uint32_t size,
+                 RecordPacker packer);
 
 }  // namespace kova
 

@@ -37,8 +37,8 @@ int ParseSmartEncode(const char* jsonText, void* outBuf, uint32_t outLen, uint32
     SetReturnedLength(retLen, 0);
     return 1;
   }
-  const uint32_t n = WalkChannels(*table, static_cast<unsigned char*>(outBuf), outLen,
-                                  kRecordSize, ParseSmartRecord);
+  const uint32_t n = WalkChannels(*table, static_cast<unsigned char*>(outBuf), outLen, kRecordSize,
+                                  ParseSmartRecord);
   SetReturnedLength(retLen, static_cast<uint64_t>(n) * kRecordSize);
   return 1;
 }
