@@ -236,7 +236,8 @@ TEST(EventHandler, PackerReadsNoFurtherThanTheRecordWhateverItHolds) {
   EXPECT_EQ(1024u, kova::ToText(Member(out, "JpegSummary")).size());
   EXPECT_EQ(8u, Count(Member(out, "TimeSection")));
 
-  // Huge counts are honoured only as far as the arrays extend.
+  // Huge counts are honoured only as far as the arrays extend, except the
+  // two that packing leaves uncut, which stop at the end of the record.
   std::memset(r.get(), 0x7F, sizeof *r);
   r->ptzLinkCount = r->snapshotTitleCount = r->videoTitleCount = r->monitorTourCount = r->dbCount =
       r->accessControlCount = r->destinationCount = 0x7FFFFFFF;
@@ -249,8 +250,29 @@ TEST(EventHandler, PackerReadsNoFurtherThanTheRecordWhateverItHolds) {
   EXPECT_EQ(64u, kova::ToText(Member(Element(Member(out, "VideoTitle"), 255), "Text")).size());
   EXPECT_EQ(256u, Count(Member(Element(Member(out, "MonitorTour"), 255), "Channels")));
   EXPECT_EQ(64u, Count(Member(out, "DB")));
-  EXPECT_EQ(8u, Count(Member(Member(out, "PSTNAlarmServer"), "Destination")));
+  EXPECT_EQ(sizeof(EventHandlerRecord) - offsetof(EventHandlerRecord, destinations),
+            Count(Member(Member(out, "PSTNAlarmServer"), "Destination")));
   EXPECT_EQ(260u, kova::ToText(Member(Member(out, "Voice"), "AudioFileName")).size());
+}
+
+TEST(EventHandler, UncutPackCountsReadOnToTheRecordEnd) {
+  auto r = Zeroed();
+  r->pstnAlarmServerPresent = 1;
+  r->destinationCount = 12;
+  for (int i = 0; i < 8; ++i) r->destinations[i] = static_cast<uint8_t>(i + 1);
+  r->present[KOVA_EH_PTZ_LINK] = 1;
+  r->ptzLinkCount = 257;
+  r->ptzLinks[255].type = KOVA_PTZ_LINK_TOUR;
+  r->snapshotTitleCount = KOVA_PTZ_LINK_PRESET;  // read as entry 256's type
+  Json::Value out;
+  kova::PackEventHandler(*r, out);
+  const Json::Value& dest = Member(Member(out, "PSTNAlarmServer"), "Destination");
+  ASSERT_EQ(12u, Count(dest));
+  EXPECT_EQ(8, kova::ToInt32(Element(dest, 7)));
+  const Json::Value& links = Member(out, "PtzLink");
+  ASSERT_EQ(257u, Count(links));
+  EXPECT_EQ("Tour", kova::ToText(Element(Element(links, 255), 0)));
+  EXPECT_EQ("Preset", kova::ToText(Element(Element(links, 256), 0)));
 }
 
 }  // namespace
