@@ -42,6 +42,7 @@ void ParseOne(const Json::Value& v, unsigned char* p, const Field& f) {
       StoreInt(p, f.size, ToBool(v) ? 1 : 0);
       break;
     case FieldKind::kInt:
+    case FieldKind::kIntBoolIsOne:
       StoreInt(p, f.size, ToInt32(v));
       break;
     case FieldKind::kUInt:
@@ -60,7 +61,8 @@ void ParseOne(const Json::Value& v, unsigned char* p, const Field& f) {
     case FieldKind::kTextRaw:
       GetJsonString(v, reinterpret_cast<char*>(p), f.size, f.kind == FieldKind::kText);
       break;
-    case FieldKind::kEnum: {
+    case FieldKind::kEnum:
+    case FieldKind::kEnumOrFirst: {
       int32_t value = 0;
       if (f.names == nullptr) break;
       if (EnumValue(*f.names, v, &value)) {
@@ -79,6 +81,7 @@ void PackOne(const unsigned char* p, Json::Value& obj, const Field& f) {
       SetMember(obj, f.key) = LoadInt(p, f.size, false) != 0;
       break;
     case FieldKind::kBoolIsOne:
+    case FieldKind::kIntBoolIsOne:
       SetMember(obj, f.key) = LoadInt(p, f.size, false) == 1;
       break;
     case FieldKind::kInt:
@@ -111,6 +114,13 @@ void PackOne(const unsigned char* p, Json::Value& obj, const Field& f) {
       } else if (!f.names->omitUnknown) {
         SetMember(obj, f.key) = "";
       }
+      break;
+    }
+    case FieldKind::kEnumOrFirst: {
+      if (f.names == nullptr || f.names->count == 0) break;
+      const char* name = EnumName(*f.names, LoadInt(p, f.size, true));
+      if (name == nullptr) name = f.names->names[0];
+      SetMember(obj, f.key) = name != nullptr ? name : "";
       break;
     }
   }
