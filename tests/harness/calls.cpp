@@ -132,7 +132,8 @@ std::string ParseViolation(int i, const std::string& text, uint32_t outLen,
 }
 
 std::string PackViolation(int k, const std::string& record, uint32_t inLen, uint32_t outLen,
-                          const PackResult& r, const std::string& pointed) {
+                          const PackResult& r, const std::string& pointed,
+                          bool probeCopyRule) {
   if (!r.guardsIntact) return "wrote outside the text buffer or into its input";
   if (!kova::PackBuilt(k)) {
     return r.ret == 0 && r.clean ? std::string()
@@ -160,6 +161,7 @@ std::string PackViolation(int k, const std::string& record, uint32_t inLen, uint
     }
     return std::string();
   }
+  if (!probeCopyRule) return std::string();
   const PackResult exact = CallPack(name, record, inLen, length, pointed);
   if (!exact.guardsIntact) return "wrote outside a buffer of the text's exact length";
   if (exact.ret == 0 ? !exact.clean : (exact.terminated || exact.text != r.text)) {

@@ -55,9 +55,13 @@ PackResult CallPack(const char* name, const std::string& record, uint32_t inLen,
 std::string ParseViolation(int i, const std::string& text, uint32_t outLen,
                            const ParseResult& r);
 // The same for pack name `k`. A successful pack that fills its buffer
-// exactly without a NUL is judged by calling again with one byte more.
+// exactly without a NUL is judged by calling again with one byte more; with
+// `probeCopyRule`, any other successful pack is called again with buffers
+// of the text's exact length and one byte more, which must refuse cleanly
+// (or, under the "at most" copy rule, fill without NUL) and succeed.
 std::string PackViolation(int k, const std::string& record, uint32_t inLen, uint32_t outLen,
-                          const PackResult& r, const std::string& pointed = std::string());
+                          const PackResult& r, const std::string& pointed = std::string(),
+                          bool probeCopyRule = true);
 
 struct EventResult {
   int ret = 0;
