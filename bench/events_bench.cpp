@@ -22,9 +22,9 @@ void Events(benchmark::State& state, const std::string* doc, bool byCallback) {
   int64_t delivered = 0;
   const uint32_t len = static_cast<uint32_t>(doc->size());
   for (auto _ : state) {
-    benchmark::DoNotOptimize(byCallback
-                                 ? KOVA_ParseDataByCallback(doc->c_str(), len, Count, &delivered)
-                                 : KOVA_ParseAnalyzerEventData(doc->c_str(), len, Count, &delivered));
+    benchmark::DoNotOptimize(
+        byCallback ? KOVA_ParseDataByCallback(doc->c_str(), len, Count, &delivered)
+                   : KOVA_ParseAnalyzerEventData(doc->c_str(), len, Count, &delivered));
   }
   const double iterations = static_cast<double>(state.iterations());
   state.counters["events/s"] = benchmark::Counter(128 * iterations, benchmark::Counter::kIsRate);
@@ -37,7 +37,8 @@ void Events(benchmark::State& state, const std::string* doc, bool byCallback) {
 void RegisterEventBenchmarks(const std::vector<kova_harness::SampleDocument>& samples) {
   // The largest of the made documents is the notification of 130 events.
   static std::string doc;
-  for (const std::string& d : kova_harness::EventDocuments(std::vector<kova_harness::SampleDocument>())) {
+  for (const std::string& d :
+       kova_harness::EventDocuments(std::vector<kova_harness::SampleDocument>())) {
     if (d.size() > doc.size()) doc = d;
   }
   benchmark::RegisterBenchmark("events/analyzer", Events, &doc, false);

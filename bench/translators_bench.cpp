@@ -30,17 +30,18 @@ namespace {
 // Everything one name's benchmarks share, made once.
 struct NameCase {
   std::string name;
-  std::string doc;           // the realistic document parsed
-  uint32_t outLen = 0;       // record bytes the document fills
-  std::string record;        // those records, for pack
-  uint32_t textLen = 0;      // text buffer for pack: twice the packed text
-  std::string packedTable;   // the packed text, to rebuild the floor's tree
+  std::string doc;          // the realistic document parsed
+  uint32_t outLen = 0;      // record bytes the document fills
+  std::string record;       // those records, for pack
+  uint32_t textLen = 0;     // text buffer for pack: twice the packed text
+  std::string packedTable;  // the packed text, to rebuild the floor's tree
 };
 
 std::unique_ptr<GuardedBuffer> RecordBuffer(const NameCase& c, PointedBuffers* pointed) {
   auto buf = std::make_unique<GuardedBuffer>(c.outLen);
-  pointed->Attach(c.name.c_str(), buf->data(), buf->size(), kova_harness::ParseSize(
-                      kova::FindParseName(c.name.c_str())), 1 << 18, std::string());
+  pointed->Attach(c.name.c_str(), buf->data(), buf->size(),
+                  kova_harness::ParseSize(kova::FindParseName(c.name.c_str())), 1 << 18,
+                  std::string());
   return buf;
 }
 
@@ -109,8 +110,8 @@ void Pack(benchmark::State& state, const NameCase* c) {
                  kova_harness::PackSize(kova::FindPackName(c->name.c_str())), -1, std::string());
   std::vector<char> text(c->textLen);
   for (auto _ : state) {
-    benchmark::DoNotOptimize(KOVA_PacketData(c->name.c_str(), in.data(), c->outLen, text.data(),
-                                             c->textLen));
+    benchmark::DoNotOptimize(
+        KOVA_PacketData(c->name.c_str(), in.data(), c->outLen, text.data(), c->textLen));
     benchmark::ClobberMemory();
   }
 }

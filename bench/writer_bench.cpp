@@ -78,8 +78,8 @@ void JsoncppCompact(benchmark::State& state, const Json::Value* tree) {
 void RegisterWriterBenchmarks(const std::vector<kova_harness::SampleDocument>& samples) {
   static const Json::Value made = MadeTree();
   static const Json::Value documents = DocumentsTree(samples);
-  for (const auto& [label, tree] : {std::make_pair("made", &made),
-                                    std::make_pair("documents", &documents)}) {
+  for (const auto& [label, tree] :
+       {std::make_pair("made", &made), std::make_pair("documents", &documents)}) {
     const std::string ours = std::string("writer/kova/") + label;
     const std::string floor = std::string("writer/jsoncpp_compact/") + label;
     benchmark::RegisterBenchmark(ours.c_str(), Ours, tree);

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "fuzz_input.h"
-#include "json_mutator.h"
 #include "harness/calls.h"
+#include "json_mutator.h"
 
 using namespace kova_fuzz;
 using namespace kova_harness;

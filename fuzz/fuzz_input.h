@@ -41,11 +41,11 @@ class FuzzInput {
 
 // The header written in front of a payload; the seed maker writes the same.
 struct Header {
-  uint16_t name = 0;      // list index
-  uint8_t size = 0;       // size selector (see ChooseSize)
-  uint8_t other = 0;      // second selector: pack output size, or fill
-  uint8_t flags = 0;      // name letter case (bits 0-1), prefill choices (bits 2-3)
-  uint16_t extra = 0;     // free number the selectors draw on
+  uint16_t name = 0;   // list index
+  uint8_t size = 0;    // size selector (see ChooseSize)
+  uint8_t other = 0;   // second selector: pack output size, or fill
+  uint8_t flags = 0;   // name letter case (bits 0-1), prefill choices (bits 2-3)
+  uint16_t extra = 0;  // free number the selectors draw on
 };
 constexpr size_t kHeaderSize = 7;
 
@@ -77,14 +77,30 @@ inline uint32_t ChooseSize(uint8_t selector, uint32_t recordSize, uint16_t extra
   const uint64_t r = recordSize != 0 ? recordSize : kova_harness::kUnknownRecordSize;
   uint64_t n = r;
   switch (selector % 8) {
-    case 0: n = r; break;
-    case 1: n = r - 1; break;
-    case 2: n = r + 1; break;
-    case 3: n = r * (2 + extra % 6); break;
-    case 4: n = 1; break;
-    case 5: n = 1 + extra; break;
-    case 6: n = r + extra % 64; break;
-    case 7: n = 2 * r - 1; break;
+    case 0:
+      n = r;
+      break;
+    case 1:
+      n = r - 1;
+      break;
+    case 2:
+      n = r + 1;
+      break;
+    case 3:
+      n = r * (2 + extra % 6);
+      break;
+    case 4:
+      n = 1;
+      break;
+    case 5:
+      n = 1 + extra;
+      break;
+    case 6:
+      n = r + extra % 64;
+      break;
+    case 7:
+      n = 2 * r - 1;
+      break;
   }
   if (n == 0) n = 1;
   return static_cast<uint32_t>(n < kHugeBuffer ? n : kHugeBuffer);

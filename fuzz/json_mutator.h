@@ -55,10 +55,18 @@ class JsonMutator {
     }
     std::string s(reinterpret_cast<const char*>(data) + header, size - header);
     switch (rng() % 4) {
-      case 0: ReplaceAfter(&s, ":[,", Token(rng), rng); break;
-      case 1: ReplaceKey(&s, rng); break;
-      case 2: InsertAfter(&s, '{', Pick(rng) + ":" + Token(rng) + ",", rng); break;
-      default: InsertAfter(&s, '[', Token(rng) + ",", rng); break;
+      case 0:
+        ReplaceAfter(&s, ":[,", Token(rng), rng);
+        break;
+      case 1:
+        ReplaceKey(&s, rng);
+        break;
+      case 2:
+        InsertAfter(&s, '{', Pick(rng) + ":" + Token(rng) + ",", rng);
+        break;
+      default:
+        InsertAfter(&s, '[', Token(rng) + ",", rng);
+        break;
     }
     if (header + s.size() > maxSize) return LLVMFuzzerMutate(data, size, maxSize);
     std::copy(s.begin(), s.end(), data + header);
@@ -69,11 +77,41 @@ class JsonMutator {
   const std::string& Pick(std::minstd_rand& rng) { return texts_[rng() % texts_.size()]; }
 
   std::string Token(std::minstd_rand& rng) {
-    static const char* const kValues[] = {
-        "null", "true", "false", "0", "1", "2", "3", "-1", "7", "16", "32", "128", "255", "256",
-        "1024", "65535", "2147483647", "2147483648", "-2147483648", "4294967295", "4294967296",
-        "18446744073709551615", "1e400", "-1e400", "0.5", "-0.0", "1e-400", "[]", "{}", "[1,2]",
-        "[[0,0],[8191,8191]]", "\"\"", "\"1 00:00:00-23:59:59\"", "[\"a\",\"b\"]", "{\"a\":[]}"};
+    static const char* const kValues[] = {"null",
+                                          "true",
+                                          "false",
+                                          "0",
+                                          "1",
+                                          "2",
+                                          "3",
+                                          "-1",
+                                          "7",
+                                          "16",
+                                          "32",
+                                          "128",
+                                          "255",
+                                          "256",
+                                          "1024",
+                                          "65535",
+                                          "2147483647",
+                                          "2147483648",
+                                          "-2147483648",
+                                          "4294967295",
+                                          "4294967296",
+                                          "18446744073709551615",
+                                          "1e400",
+                                          "-1e400",
+                                          "0.5",
+                                          "-0.0",
+                                          "1e-400",
+                                          "[]",
+                                          "{}",
+                                          "[1,2]",
+                                          "[[0,0],[8191,8191]]",
+                                          "\"\"",
+                                          "\"1 00:00:00-23:59:59\"",
+                                          "[\"a\",\"b\"]",
+                                          "{\"a\":[]}"};
     const size_t n = sizeof kValues / sizeof kValues[0];
     if (rng() % 2 == 0) return Pick(rng);
     if (rng() % 8 == 0) return std::to_string(static_cast<int32_t>(rng()));
@@ -85,8 +123,10 @@ class JsonMutator {
     if (b >= s.size()) return b;
     if (s[b] == '"') {
       for (size_t i = b + 1; i < s.size(); ++i) {
-        if (s[i] == '\\') ++i;
-        else if (s[i] == '"') return i + 1;
+        if (s[i] == '\\')
+          ++i;
+        else if (s[i] == '"')
+          return i + 1;
       }
       return s.size();
     }
@@ -130,8 +170,8 @@ class JsonMutator {
     const size_t colon = RandomPosition(*s, ":", rng);
     if (colon == std::string::npos) return;
     const size_t close = s->rfind('"', colon);
-    const size_t open = close == std::string::npos || close == 0 ? std::string::npos
-                                                                  : s->rfind('"', close - 1);
+    const size_t open =
+        close == std::string::npos || close == 0 ? std::string::npos : s->rfind('"', close - 1);
     if (open == std::string::npos) return;
     s->replace(open, close + 1 - open, Pick(rng));
   }

@@ -23,21 +23,29 @@ namespace {
 uint32_t ChooseInLen(uint8_t selector, uint32_t recordSize, uint16_t extra, size_t payload) {
   const uint32_t r = recordSize != 0 ? recordSize : kUnknownRecordSize;
   switch (selector % 8) {
-    case 0: return r;
-    case 1: return r - 1;
-    case 2: return 0;
-    case 3: return r * (2 + extra % 3);
-    case 4: return r + 1 + extra % 16;
-    case 5: return static_cast<uint32_t>(payload < kHugeBuffer ? payload : kHugeBuffer);
-    case 6: return 2 * r - 1;
-    default: return extra;
+    case 0:
+      return r;
+    case 1:
+      return r - 1;
+    case 2:
+      return 0;
+    case 3:
+      return r * (2 + extra % 3);
+    case 4:
+      return r + 1 + extra % 16;
+    case 5:
+      return static_cast<uint32_t>(payload < kHugeBuffer ? payload : kHugeBuffer);
+    case 6:
+      return 2 * r - 1;
+    default:
+      return extra;
   }
 }
 
 uint32_t ChooseOutLen(uint8_t selector, uint16_t extra) {
   if (selector == 255 && (extra & 0xF) == 0) return kHugeBuffer;  // rarely: see ChooseSize
-  const uint32_t kSizes[] = {64u << 10, 1, 1u + extra, 1u << 20, 2u + extra % 64, 4096,
-                             256u << 10, 16};
+  const uint32_t kSizes[] = {64u << 10,       1,    1u + extra, 1u << 20,
+                             2u + extra % 64, 4096, 256u << 10, 16};
   return kSizes[selector % 8];
 }
 
@@ -50,10 +58,17 @@ std::string MakeRecord(uint32_t inLen, uint8_t fill, uint16_t extra, const std::
         record[j] = payload[j % payload.size()];
       }
       break;
-    case 1: FillRecord(p, record.size(), Fill::kAllFF, 0); break;
-    case 2: FillRecord(p, record.size(), Fill::kAll7F, 0); break;
-    case 3: FillRecord(p, record.size(), Fill::kMaxCounts, 0); break;
-    case 4: break;
+    case 1:
+      FillRecord(p, record.size(), Fill::kAllFF, 0);
+      break;
+    case 2:
+      FillRecord(p, record.size(), Fill::kAll7F, 0);
+      break;
+    case 3:
+      FillRecord(p, record.size(), Fill::kMaxCounts, 0);
+      break;
+    case 4:
+      break;
     default: {  // a pattern with the payload laid over it somewhere
       FillRecord(p, record.size(), static_cast<Fill>((fill >> 3) % 4 + 1), extra);
       const size_t at = record.empty() ? 0 : extra % record.size();
@@ -78,7 +93,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const std::string name = NameVariant(listed, h.flags);
   const uint32_t inLen = ChooseInLen(h.size, PackSize(k), h.extra, payload.size());
   const uint32_t outLen = ChooseOutLen(h.other, h.extra);
-  const std::string record = MakeRecord(inLen, static_cast<uint8_t>(h.flags >> 2), h.extra, payload);
+  const std::string record =
+      MakeRecord(inLen, static_cast<uint8_t>(h.flags >> 2), h.extra, payload);
 
   const PackResult r = CallPack(name.c_str(), record, inLen, outLen, payload);
   // The copy rule takes two more calls to probe: one input in four does.

@@ -10,9 +10,9 @@
 
 #include "api/dispatch.h"
 #include "fuzz_input.h"
-#include "json_mutator.h"
 #include "harness/calls.h"
 #include "harness/catalog.h"
+#include "json_mutator.h"
 
 using namespace kova_fuzz;
 using namespace kova_harness;

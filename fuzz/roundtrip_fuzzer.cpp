@@ -8,10 +8,10 @@
 
 #include "api/dispatch.h"
 #include "fuzz_input.h"
-#include "json_mutator.h"
 #include "harness/calls.h"
 #include "harness/catalog.h"
 #include "harness/documents.h"
+#include "json_mutator.h"
 
 using namespace kova_fuzz;
 using namespace kova_harness;

@@ -52,9 +52,8 @@ template <typename Entry>
 std::vector<int> FoldedOrder(const Entry* list, size_t count) {
   std::vector<int> order(count);
   for (size_t i = 0; i < count; ++i) order[i] = static_cast<int>(i);
-  std::stable_sort(order.begin(), order.end(), [list](int a, int b) {
-    return FoldedCompare(list[a].name, list[b].name) < 0;
-  });
+  std::stable_sort(order.begin(), order.end(),
+                   [list](int a, int b) { return FoldedCompare(list[a].name, list[b].name) < 0; });
   return order;
 }
 

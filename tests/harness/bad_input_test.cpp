@@ -79,8 +79,8 @@ TEST_P(ParseBadInput, KeepsWithinItsBufferAndRefusesWhatDoesNotParse) {
     Check(label + " as params", "{\"result\":true,\"params\":" + v + "}", size);
     Check(label + " as table", Envelope(v), size);
     for (size_t d = 0; d < shapes; ++d) {
-      Check(label + " in every scalar of document " + std::to_string(d),
-            ReplaceScalars(docs[d], v), size);
+      Check(label + " in every scalar of document " + std::to_string(d), ReplaceScalars(docs[d], v),
+            size);
       const std::string swapped = ReplaceContainers(docs[d], v);
       if (!swapped.empty()) {
         Check(label + " for every object and array of document " + std::to_string(d), swapped,
@@ -100,8 +100,7 @@ INSTANTIATE_TEST_SUITE_P(EveryName, ParseBadInput,
 
 class PackBadInput : public testing::TestWithParam<int> {
  protected:
-  void Check(const std::string& what, const std::string& record, uint32_t inLen,
-             uint32_t outLen) {
+  void Check(const std::string& what, const std::string& record, uint32_t inLen, uint32_t outLen) {
     const int k = GetParam();
     const PackResult r = CallPack(kova::kPackNames[k].name, record, inLen, outLen, record);
     const std::string v = PackViolation(k, record, inLen, outLen, r, record);

@@ -46,24 +46,32 @@ int KOVA_CALL OnEvent(uint32_t code, const void* info, uint32_t infoSize, const 
 }  // namespace
 
 uint64_t Digest(const void* p, size_t n, uint64_t h) {
-  const size_t bytes = std::hash<std::string_view>()(std::string_view(static_cast<const char*>(p), n));
+  const size_t bytes =
+      std::hash<std::string_view>()(std::string_view(static_cast<const char*>(p), n));
   return (h ^ bytes) * 1099511628211ull;
+}
+
+EventResult CallEventsInPlace(const char* text, uint32_t len, bool byCallback) {
+  EventResult r;
+  EventContext c{&r, byCallback};
+  r.ret = byCallback ? KOVA_ParseDataByCallback(text, len, OnEvent, &c)
+                     : KOVA_ParseAnalyzerEventData(text, len, OnEvent, &c);
+  if (r.violation.empty() && !byCallback && r.ret != 1) r.violation = "did not return 1";
+  return r;
 }
 
 EventResult CallEvents(const std::string& text, uint32_t len, bool byCallback) {
   GuardedBuffer buf(text.size() + 1);
   std::memcpy(buf.data(), text.c_str(), text.size() + 1);
-  EventResult r;
-  EventContext c{&r, byCallback};
-  r.ret = byCallback ? KOVA_ParseDataByCallback(buf.chars(), len, OnEvent, &c)
-                     : KOVA_ParseAnalyzerEventData(buf.chars(), len, OnEvent, &c);
-  if (r.violation.empty() && !buf.GuardsIntact()) r.violation = "wrote around the event text";
-  if (r.violation.empty() && !byCallback && r.ret != 1) r.violation = "did not return 1";
+  EventResult r = CallEventsInPlace(buf.chars(), len, byCallback);
+  if (r.violation.empty() &&
+      (!buf.GuardsIntact() || std::memcmp(buf.data(), text.c_str(), text.size() + 1) != 0)) {
+    r.violation = "wrote into or around the event text";
+  }
   return r;
 }
 
-ParseResult CallParse(const char* name, const char* text, uint32_t outLen,
-                      const ParseOptions& o) {
+ParseResult CallParse(const char* name, const char* text, uint32_t outLen, const ParseOptions& o) {
   GuardedBuffer out(outLen, o.prefill);
   const uint32_t recordSize = RecordSizeOf(name, true);
   if (o.sizeWord >= 0) {
@@ -89,8 +97,8 @@ ParseResult CallParse(const char* name, const char* text, uint32_t outLen,
   r.ret = KOVA_ParseData(name, json.chars(), out.data(), outLen, &r.retLen);
   r.guardsIntact = out.GuardsIntact() && pointed.GuardsIntact() && json.GuardsIntact() &&
                    std::memcmp(json.data(), text, textSize) == 0;
-  r.untouched = plain ? out.AllEqual(o.prefill)
-                      : std::memcmp(before.data(), out.data(), out.size()) == 0;
+  r.untouched =
+      plain ? out.AllEqual(o.prefill) : std::memcmp(before.data(), out.data(), out.size()) == 0;
   if (o.keepBytes) r.bytes = std::string(out.chars(), out.size()) + pointed.Contents();
   return r;
 }
@@ -111,13 +119,12 @@ PackResult CallPack(const char* name, const std::string& record, uint32_t inLen,
   r.clean = out.AllEqual(0) || out.AllEqual(kUntouched);
   const void* nul = std::memchr(out.data(), 0, out.size());
   r.terminated = nul != nullptr;
-  r.text.assign(out.chars(), nul != nullptr ? static_cast<const char*>(nul) - out.chars()
-                                            : out.size());
+  r.text.assign(out.chars(),
+                nul != nullptr ? static_cast<const char*>(nul) - out.chars() : out.size());
   return r;
 }
 
-std::string ParseViolation(int i, const std::string& text, uint32_t outLen,
-                           const ParseResult& r) {
+std::string ParseViolation(int i, const std::string& text, uint32_t outLen, const ParseResult& r) {
   if (!r.guardsIntact) return "wrote outside the record buffer or a pointed buffer";
   if (r.retLen > outLen) return "reported more bytes than the buffer holds";
   if (!kova::ParseBuilt(i) && (r.ret != 0 || !r.untouched)) {
@@ -132,8 +139,7 @@ std::string ParseViolation(int i, const std::string& text, uint32_t outLen,
 }
 
 std::string PackViolation(int k, const std::string& record, uint32_t inLen, uint32_t outLen,
-                          const PackResult& r, const std::string& pointed,
-                          bool probeCopyRule) {
+                          const PackResult& r, const std::string& pointed, bool probeCopyRule) {
   if (!r.guardsIntact) return "wrote outside the text buffer or into its input";
   if (!kova::PackBuilt(k)) {
     return r.ret == 0 && r.clean ? std::string()

@@ -52,8 +52,7 @@ PackResult CallPack(const char* name, const std::string& record, uint32_t inLen,
 
 // What a parse call broke of the rules every translator keeps; "" when
 // nothing. `i` is the parse list index of the name called.
-std::string ParseViolation(int i, const std::string& text, uint32_t outLen,
-                           const ParseResult& r);
+std::string ParseViolation(int i, const std::string& text, uint32_t outLen, const ParseResult& r);
 // The same for pack name `k`. A successful pack that fills its buffer
 // exactly without a NUL is judged by calling again with one byte more; with
 // `probeCopyRule`, any other successful pack is called again with buffers
@@ -76,6 +75,8 @@ struct EventResult {
 // it also holds the contract: at most 128 events, a null record exactly
 // when its size is 0, the reserved pointer null and its size 0.
 EventResult CallEvents(const std::string& text, uint32_t len, bool byCallback);
+// The same on the caller's own text, not a copy.
+EventResult CallEventsInPlace(const char* text, uint32_t len, bool byCallback);
 
 // A hash of `n` bytes, chained onto `h`.
 uint64_t Digest(const void* p, size_t n, uint64_t h = 14695981039346656037ull);

@@ -93,8 +93,8 @@ class PointedBuffers {
   // buffer stays within kMaxBytes, writes it back, and aims the pointer at a
   // guarded buffer of that many units, filled with `content` repeated (zeros
   // when empty).
-  void Attach(const char* name, uint8_t* records, size_t length, uint32_t recordSize,
-              int64_t count, const std::string& content);
+  void Attach(const char* name, uint8_t* records, size_t length, uint32_t recordSize, int64_t count,
+              const std::string& content);
   bool GuardsIntact() const;
   bool empty() const { return buffers_.empty(); }
   // Bytes of every attached buffer, in order (for comparing two runs).

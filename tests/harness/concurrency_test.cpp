@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -15,41 +16,67 @@
 #include "harness/calls.h"
 #include "harness/catalog.h"
 #include "harness/documents.h"
+#include "harness/guarded_buffer.h"
+#include "kova/kova.h"
 
 namespace kova_harness {
 namespace {
 
+// One call and its inputs. The inputs are shared by every thread and only
+// read; each call writes into buffers of its own.
 struct Task {
   enum Kind { kParse, kPack, kEvents, kByCallback } kind;
-  int index;          // list index (parse, pack) or document index (events)
-  std::string input;  // JSON text or record bytes
-  uint32_t inLen;
+  int index;                                // list index (parse, pack) or document index
+  std::string text;                         // JSON text (parse, events)
+  std::shared_ptr<GuardedBuffer> record;    // records (pack), pointer fields aimed already
+  std::shared_ptr<PointedBuffers> pointed;  // what those pointer fields point at
   uint32_t outLen;
 };
 
 uint64_t Outcome(const Task& t) {
   switch (t.kind) {
     case Task::kParse: {
-      ParseOptions o;
-      o.keepBytes = true;
-      const ParseResult r = CallParse(kova::kParseNames[t.index].name, t.input.c_str(), t.outLen, o);
-      uint64_t h = Digest(&r.ret, sizeof r.ret);
-      h = Digest(&r.retLen, sizeof r.retLen, h);
-      return Digest(r.bytes.data(), r.bytes.size(), h ^ r.guardsIntact);
+      const char* name = kova::kParseNames[t.index].name;
+      GuardedBuffer out(t.outLen);
+      PointedBuffers pointed;
+      pointed.Attach(name, out.data(), out.size(), ParseSize(t.index), 4096, std::string());
+      uint32_t retLen = 0;
+      const int ret = KOVA_ParseData(name, t.text.c_str(), out.data(), t.outLen, &retLen);
+      uint64_t h = Digest(&ret, sizeof ret, out.GuardsIntact());
+      h = Digest(&retLen, sizeof retLen, h);
+      h = Digest(out.data(), out.size(), h);
+      const std::string contents = pointed.Contents();
+      return Digest(contents.data(), contents.size(), h);
     }
     case Task::kPack: {
-      const PackResult r =
-          CallPack(kova::kPackNames[t.index].name, t.input, t.inLen, t.outLen, t.input);
-      return Digest(r.text.data(), r.text.size(), Digest(&r.ret, sizeof r.ret) ^ r.guardsIntact);
+      GuardedBuffer out(t.outLen);
+      const int ret =
+          KOVA_PacketData(kova::kPackNames[t.index].name, t.record->data(),
+                          static_cast<uint32_t>(t.record->size()), out.chars(), t.outLen);
+      return Digest(out.data(), out.size(), Digest(&ret, sizeof ret, out.GuardsIntact()));
     }
     case Task::kEvents:
     case Task::kByCallback: {
-      const EventResult r = CallEvents(t.input, static_cast<uint32_t>(t.input.size()),
-                                       t.kind == Task::kByCallback);
+      const EventResult r = CallEventsInPlace(t.text.c_str(), static_cast<uint32_t>(t.text.size()),
+                                              t.kind == Task::kByCallback);
       return r.digest ^ (static_cast<uint64_t>(r.calls) << 32) ^ static_cast<uint64_t>(r.ret);
     }
   }
   return 0;
+}
+
+std::string Describe(const Task& t) {
+  switch (t.kind) {
+    case Task::kParse:
+      return std::string("parse ") + kova::kParseNames[t.index].name;
+    case Task::kPack:
+      return std::string("pack ") + kova::kPackNames[t.index].name;
+    case Task::kEvents:
+      return "analyzer events, document " + std::to_string(t.index);
+    case Task::kByCallback:
+      return "parse by callback, document " + std::to_string(t.index);
+  }
+  return std::string();
 }
 
 std::vector<Task> AllTasks() {
@@ -62,22 +89,25 @@ std::vector<Task> AllTasks() {
     std::vector<std::string> docs = RealisticDocuments(i, samples);
     docs.resize(std::min<size_t>(docs.size(), 2));
     docs.push_back(ReplaceScalars(docs.front(), "2147483648"));
-    for (const std::string& d : docs) tasks.push_back({Task::kParse, i, d, 0, size});
+    for (const std::string& d : docs) tasks.push_back({Task::kParse, i, d, nullptr, nullptr, size});
   }
   for (int k = 0; k < static_cast<int>(kova::kPackNameCount); ++k) {
     const bool built = kova::PackBuilt(k);
     const uint32_t size = built ? PackSizeOrDefault(k) : 64;
     const uint32_t textSize = built ? std::min(4u << 20, (64u << 10) + 2 * size) : 64;
     for (Fill fill : {Fill::kZero, Fill::kAll7F, Fill::kRandom}) {
-      std::string record(size, '\0');
-      FillRecord(reinterpret_cast<uint8_t*>(&record[0]), record.size(), fill, 1);
-      tasks.push_back({Task::kPack, k, record, size, textSize});
+      auto record = std::make_shared<GuardedBuffer>(size);
+      FillRecord(record->data(), record->size(), fill, 1);
+      auto pointed = std::make_shared<PointedBuffers>();
+      pointed->Attach(kova::kPackNames[k].name, record->data(), size, PackSize(k), -1, "kova");
+      tasks.push_back({Task::kPack, k, std::string(), record, pointed, textSize});
     }
   }
   const std::vector<std::string> events = EventDocuments(samples);
   for (size_t d = 0; d < events.size(); ++d) {
-    tasks.push_back({Task::kEvents, static_cast<int>(d), events[d], 0, 0});
-    tasks.push_back({Task::kByCallback, static_cast<int>(d), events[d], 0, 0});
+    const int n = static_cast<int>(d);
+    tasks.push_back({Task::kEvents, n, events[d], nullptr, nullptr, 0});
+    tasks.push_back({Task::kByCallback, n, events[d], nullptr, nullptr, 0});
   }
   return tasks;
 }
@@ -104,14 +134,13 @@ TEST(Concurrency, EveryNameGivesTheSameResultsFromManyThreadsAtOnce) {
           if (Outcome(tasks[t]) == alone[t]) continue;
           ++mismatches;
           std::lock_guard<std::mutex> hold(firstLock);
-          if (first.empty()) first = std::to_string(tasks[t].kind) + "/" +
-                                     std::to_string(tasks[t].index);
+          if (first.empty()) first = Describe(tasks[t]);
         }
       }
     });
   }
   for (std::thread& t : threads) t.join();
-  EXPECT_EQ(0, mismatches.load()) << "first differing task (kind/index): " << first;
+  EXPECT_EQ(0, mismatches.load()) << "first differing call: " << first;
 }
 
 }  // namespace

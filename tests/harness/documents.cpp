@@ -47,23 +47,41 @@ std::string WriteWithValue(const Json::Value& root, const std::string& value) {
   Json::StreamWriterBuilder builder;
   builder["indentation"] = "";
   builder["emitUTF8"] = true;
-  std::string text = Json::writeString(builder, root);
+  const std::string text = Json::writeString(builder, root);
   const std::string quoted = Json::writeString(builder, Json::Value(kMarker));
-  for (size_t at = text.find(quoted); at != std::string::npos;
-       at = text.find(quoted, at + value.size())) {
-    text.replace(at, quoted.size(), value);
+  std::string out;
+  size_t from = 0;
+  for (size_t at = text.find(quoted); at != std::string::npos; at = text.find(quoted, from)) {
+    out.append(text, from, at - from).append(value);
+    from = at + quoted.size();
   }
-  return text;
+  return out.append(text, from, std::string::npos);
 }
 
-void MarkScalars(Json::Value& v) {
+// Marks every `stride`-th scalar (counting in `seen`), or only counts them
+// when `stride` is 0.
+void MarkScalars(Json::Value& v, size_t stride, size_t* seen) {
   if (v.isObject()) {
-    for (const std::string& key : v.getMemberNames()) MarkScalars(v[key]);
+    for (const std::string& key : v.getMemberNames()) MarkScalars(v[key], stride, seen);
   } else if (v.isArray()) {
-    for (Json::ArrayIndex i = 0; i < v.size(); ++i) MarkScalars(v[i]);
-  } else {
+    for (Json::ArrayIndex i = 0; i < v.size(); ++i) MarkScalars(v[i], stride, seen);
+  } else if (stride != 0 && (*seen)++ % stride == 0) {
     v = kMarker;
+  } else if (stride == 0) {
+    ++*seen;
   }
+}
+
+// Marks the scalars of `v` for `value`: all of them, unless copies of a
+// long value would make the document larger than a few hundred KiB (a
+// document of megabytes only slows the suite down); then evenly spaced ones.
+void MarkScalarsFor(Json::Value& v, const std::string& value) {
+  const size_t kBudget = 256u << 10;
+  size_t count = 0;
+  MarkScalars(v, 0, &count);
+  const size_t stride = std::max<size_t>(1, count * value.size() / kBudget + 1);
+  size_t seen = 0;
+  MarkScalars(v, stride, &seen);
 }
 
 void MarkChildContainers(Json::Value& v) {
@@ -140,7 +158,7 @@ std::vector<std::string> PackedShapes(int k) {
   if (!kova::PackBuilt(k)) return out;
   const char* name = kova::kPackNames[k].name;
   const uint32_t size = PackSizeOrDefault(k);
-  for (Fill fill : {Fill::kZero, Fill::kAll7F}) {
+  for (Fill fill : {Fill::kAll7F, Fill::kZero}) {
     GuardedBuffer record(size);
     FillRecord(record.data(), record.size(), fill, 0);
     PointedBuffers pointed;
@@ -176,15 +194,55 @@ std::vector<std::string> RealisticDocuments(int i, const std::vector<SampleDocum
 
 const std::vector<std::string>& HostileValues() {
   static const std::vector<std::string> kValues = {
-      "null", "true", "false", "0", "-1", "1", "2147483647", "2147483648", "-2147483648",
-      "-2147483649", "4294967295", "4294967296", "9223372036854775807", "-9223372036854775808",
-      "18446744073709551615", "18446744073709551616", "1" + std::string(400, '0'), "1e400",
-      "-1e400", "1e-400", "4.9e-324", "1.7976931348623157e308", "-0.0", "0.5", "-0.5",
-      "123e45678", "-2147483648.5", "4294967295.9", "\"\"", "\"x\"", "\"12\"", "\"-1\"",
-      "\"" + std::string(70000, 'A') + "\"", "\"\xff\xfe\xc3\x28\xe2\x82\x28\xed\xa0\x80\"",
-      "\"a\\u0000b\"", "\"\\ud83d\\ude00\"", "\"%s%n%x%d%p\"", "\"a/b\\\\c\\\"d\\n\\t\"", "[]",
-      "[1,2,3]", "[\"a\",\"b\"]", "[[[[[1]]]]]", "[null,null]", "{}", "{\"a\":1}",
-      "[" + Repeat("2147483647,", 300) + "0]", "[" + Repeat("{},", 300) + "{}]",
+      "null",
+      "true",
+      "false",
+      "0",
+      "-1",
+      "1",
+      "2147483647",
+      "2147483648",
+      "-2147483648",
+      "-2147483649",
+      "4294967295",
+      "4294967296",
+      "9223372036854775807",
+      "-9223372036854775808",
+      "18446744073709551615",
+      "18446744073709551616",
+      "1" + std::string(400, '0'),
+      "1e400",
+      "-1e400",
+      "1e-400",
+      "4.9e-324",
+      "1.7976931348623157e308",
+      "-0.0",
+      "0.5",
+      "-0.5",
+      "123e45678",
+      "NaN",
+      "-Infinity",
+      "-2147483648.5",
+      "4294967295.9",
+      "\"\"",
+      "\"x\"",
+      "\"12\"",
+      "\"-1\"",
+      "\"" + std::string(70000, 'A') + "\"",
+      "\"\xff\xfe\xc3\x28\xe2\x82\x28\xed\xa0\x80\"",
+      "\"a\\u0000b\"",
+      "\"\\ud83d\\ude00\"",
+      "\"%s%n%x%d%p\"",
+      "\"a/b\\\\c\\\"d\\n\\t\"",
+      "[]",
+      "[1,2,3]",
+      "[\"a\",\"b\"]",
+      "[[[[[1]]]]]",
+      "[null,null]",
+      "{}",
+      "{\"a\":1}",
+      "[" + Repeat("2147483647,", 300) + "0]",
+      "[" + Repeat("{},", 300) + "{}]",
       "[" + Repeat("\"" + std::string(300, 'z') + "\",", 100) + "\"\"]"};
   return kValues;
 }
@@ -193,13 +251,13 @@ std::string ReplaceScalars(const std::string& doc, const std::string& value) {
   Json::Value root;
   if (!ParseTree(doc, &root)) return std::string();
   if (Json::Value* table = TableOf(root)) {
-    MarkScalars(*table);
+    MarkScalarsFor(*table, value);
   } else if (root.isObject()) {
     for (const std::string& key : root.getMemberNames()) {
-      if (key != "result") MarkScalars(root[key]);
+      if (key != "result") MarkScalarsFor(root[key], value);
     }
   } else {
-    MarkScalars(root);
+    MarkScalarsFor(root, value);
   }
   return WriteWithValue(root, value);
 }
@@ -220,15 +278,27 @@ std::string ReplaceContainers(const std::string& doc, const std::string& value) 
 std::vector<std::string> MalformedTexts(const std::string& realistic) {
   static const std::vector<std::string> kFixed = [] {
     const size_t deep = 100000;
-    std::vector<std::string> v = {
-        "", " \t\r\n ", "{", "}", "[", "nul", "tru", "\"unterminated", "\xff\xfe\xfd",
-        "{\"result\":true,\"params\":{\"table\":", "{\"result\" true}", "{'result':true}",
-        "{\"result\":true,\"params\":{\"table\":{\"a\":}}}", "{\"result\":true,\"params\":{\"table\":[1,2}}}",
-        "{\"result\":\"\\ud800\"}", "{\"result\":tru}", "{\"result\":1e}",
-        "{\"result\":true,\"params\":{\"table\":\"\\x41\"}}",
-        std::string(deep, '[') + std::string(deep, ']'),
-        Repeat("{\"a\":", deep) + "1" + std::string(deep, '}'),
-        Envelope(std::string(deep, '[') + std::string(deep, ']'))};
+    std::vector<std::string> v = {"",
+                                  " \t\r\n ",
+                                  "{",
+                                  "}",
+                                  "[",
+                                  "nul",
+                                  "tru",
+                                  "\"unterminated",
+                                  "\xff\xfe\xfd",
+                                  "{\"result\":true,\"params\":{\"table\":",
+                                  "{\"result\" true}",
+                                  "{'result':true}",
+                                  "{\"result\":true,\"params\":{\"table\":{\"a\":}}}",
+                                  "{\"result\":true,\"params\":{\"table\":[1,2}}}",
+                                  "{\"result\":\"\\ud800\"}",
+                                  "{\"result\":tru}",
+                                  "{\"result\":1e}",
+                                  "{\"result\":true,\"params\":{\"table\":\"\\x41\"}}",
+                                  std::string(deep, '[') + std::string(deep, ']'),
+                                  Repeat("{\"a\":", deep) + "1" + std::string(deep, '}'),
+                                  Envelope(std::string(deep, '[') + std::string(deep, ']'))};
     return v;
   }();
   std::vector<std::string> out = kFixed;

@@ -28,9 +28,10 @@ std::string NameOfSampleFile(const std::string& path);
 // {"result":true,"params":{"table":TABLE}}
 std::string Envelope(const std::string& table);
 
-// Packed texts (newline removed) of typical records of pack name `k`: an
-// all-zero record and a patterned one. Empty when the name has no packer or
-// packing fails.
+// Packed texts (newline removed) of typical records of pack name `k`: a
+// record full of 0x7F bytes (every presence flag set, every count at its
+// cap), then an all-zero one. Empty when the name has no packer or packing
+// fails.
 std::vector<std::string> PackedShapes(int k);
 
 // Realistic documents for parse name `i`: its samples, then envelopes of
@@ -45,8 +46,9 @@ std::vector<std::string> RealisticDocuments(int i, const std::vector<SampleDocum
 const std::vector<std::string>& HostileValues();
 
 // `doc` with every scalar of its table (or of the whole document when it
-// has no "params"."table") replaced by the JSON text `value`. "result" is
-// kept. Returns "" when `doc` does not parse.
+// has no "params"."table") replaced by the JSON text `value`; for a long
+// value, evenly spaced scalars, so that the document stays within a few
+// hundred KiB. "result" is kept. Returns "" when `doc` does not parse.
 std::string ReplaceScalars(const std::string& doc, const std::string& value);
 // `doc` with every object and array inside its table's records replaced by
 // `value`: every member keeps its key but gets the wrong type.
