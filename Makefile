@@ -36,9 +36,9 @@ build: deps
 test: build
 	cmake -S . -B $(ASAN_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DKOVA_SANITIZE=ON >/dev/null
 	cmake --build $(ASAN_BUILD) -j $(JOBS)
-	cd $(BUILD) && ctest --output-on-failure
+	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
 	cd $(ASAN_BUILD) && ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1 \
-	  ctest --output-on-failure
+	  ctest --output-on-failure -j $(JOBS)
 	@if [ -f fuzz/CMakeLists.txt ]; then $(MAKE) --no-print-directory fuzz-short; fi
 
 demo: build

@@ -1,7 +1,7 @@
 // Pack: the input chooses a name, the input length (one record, one byte
 // less, several, none), the size of the text buffer (one byte up to 16 MiB)
 // and how the record is filled (its own bytes, 0xFF, 0x7F, 0x7FFFFFFF
-// counts, zeros, or a pattern overlaid with its bytes). The record sits in
+// counts, zeros, or zeros or a pattern with its bytes laid over). The record sits in
 // a buffer of exactly the input length between poisoned guard zones; the
 // packer must read nothing past it, write nothing outside the text buffer,
 // leave NUL-terminated text on success (whole or nothing) and a clean buffer
@@ -69,8 +69,8 @@ std::string MakeRecord(uint32_t inLen, uint8_t fill, uint16_t extra, const std::
       break;
     case 4:
       break;
-    default: {  // a pattern with the payload laid over it somewhere
-      FillRecord(p, record.size(), static_cast<Fill>((fill >> 3) % 4 + 1), extra);
+    default: {  // zeros or a pattern, with the payload laid over it somewhere
+      FillRecord(p, record.size(), static_cast<Fill>((fill >> 3) % 5), extra);
       const size_t at = record.empty() ? 0 : extra % record.size();
       for (size_t j = 0; j < payload.size() && at + j < record.size(); ++j) {
         record[at + j] = payload[j];

@@ -24,7 +24,7 @@ for share in parse:35 pack:30 roundtrip:20 events:15; do
   log="$out/logs/$name.log"
   mkdir -p "$corpus"
   "$out/fuzz_$name" "$corpus" "$seeds/$name" -dict="$root/fuzz/kova.dict" \
-    -max_total_time="$seconds" -timeout=30 -rss_limit_mb=4096 \
+    -max_total_time="$seconds" -max_len=65536 -timeout=30 -rss_limit_mb=4096 \
     -artifact_prefix="$out/artifacts/$name-" -print_final_stats=1 >"$log" 2>&1
   rc=$?
   runs=$(awk '/stat::number_of_executed_units/ {print $2}' "$log")

@@ -60,7 +60,9 @@ TEST_P(ParseBadInput, KeepsWithinItsBufferAndRefusesWhatDoesNotParse) {
 
   for (size_t d = 0; d < docs.size(); ++d) {
     Check("realistic document " + std::to_string(d), docs[d], size);
-    Check("realistic document " + std::to_string(d), docs[d], 2 * size + 1);
+    if (docs[d].size() <= kSmallDocument) {
+      Check("realistic document " + std::to_string(d), docs[d], 2 * size + 1);
+    }
   }
   Check("realistic document in 16 MiB", doc, kHugeBuffer);
 
@@ -69,8 +71,15 @@ TEST_P(ParseBadInput, KeepsWithinItsBufferAndRefusesWhatDoesNotParse) {
     Check("malformed text " + std::to_string(m), malformed[m], size);
   }
 
+  // Every hostile value in every member of up to three short documents (or
+  // of the shortest one when all are long, a few values only).
+  std::vector<size_t> shapes;
+  for (size_t d = 0; d < docs.size() && shapes.size() < 3; ++d) {
+    if (docs[d].size() <= kSmallDocument) shapes.push_back(d);
+  }
+  const bool allLong = shapes.empty();
+  if (allLong) shapes.push_back(0);
   const std::vector<std::string>& hostile = HostileValues();
-  const size_t shapes = std::min<size_t>(docs.size(), 3);
   for (size_t h = 0; h < hostile.size(); ++h) {
     const std::string& v = hostile[h];
     const std::string label = "hostile value " + std::to_string(h);
@@ -78,7 +87,8 @@ TEST_P(ParseBadInput, KeepsWithinItsBufferAndRefusesWhatDoesNotParse) {
     Check(label + " as result", "{\"result\":" + v + ",\"params\":{\"table\":{}}}", size);
     Check(label + " as params", "{\"result\":true,\"params\":" + v + "}", size);
     Check(label + " as table", Envelope(v), size);
-    for (size_t d = 0; d < shapes; ++d) {
+    if (allLong && h % 8 != 0) continue;
+    for (size_t d : shapes) {
       Check(label + " in every scalar of document " + std::to_string(d), ReplaceScalars(docs[d], v),
             size);
       const std::string swapped = ReplaceContainers(docs[d], v);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstring>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -83,21 +84,33 @@ std::vector<Task> AllTasks() {
   const std::vector<SampleDocument> samples =
       LoadSampleDocuments({KOVA_SAMPLES_DIR, KOVA_FIXTURES_DIR});
   std::vector<Task> tasks;
+  // Per name: its shortest realistic document and a hostile variant of it;
+  // per packer: a record of zeros and the record that document parses into.
+  std::vector<std::string> shortest(kova::kParseNameCount);
   for (int i = 0; i < static_cast<int>(kova::kParseNameCount); ++i) {
     // A name without translator refuses at once: a small buffer will do.
     const uint32_t size = kova::ParseBuilt(i) ? ParseSizeOrDefault(i) : 64;
-    std::vector<std::string> docs = RealisticDocuments(i, samples);
-    docs.resize(std::min<size_t>(docs.size(), 2));
-    docs.push_back(ReplaceScalars(docs.front(), "2147483648"));
-    for (const std::string& d : docs) tasks.push_back({Task::kParse, i, d, nullptr, nullptr, size});
+    const std::vector<std::string> docs = RealisticDocuments(i, samples);
+    shortest[i] = *std::min_element(
+        docs.begin(), docs.end(),
+        [](const std::string& a, const std::string& b) { return a.size() < b.size(); });
+    for (const std::string& d : {shortest[i], ReplaceScalars(shortest[i], "2147483648")}) {
+      tasks.push_back({Task::kParse, i, d, nullptr, nullptr, size});
+    }
   }
   for (int k = 0; k < static_cast<int>(kova::kPackNameCount); ++k) {
     const bool built = kova::PackBuilt(k);
     const uint32_t size = built ? PackSizeOrDefault(k) : 64;
     const uint32_t textSize = built ? std::min(4u << 20, (64u << 10) + 2 * size) : 64;
-    for (Fill fill : {Fill::kZero, Fill::kAll7F, Fill::kRandom}) {
+    const int i = kova::FindParseName(kova::kPackNames[k].name);
+    for (bool parsed : {false, true}) {
       auto record = std::make_shared<GuardedBuffer>(size);
-      FillRecord(record->data(), record->size(), fill, 1);
+      if (parsed && i >= 0 && built && kova::ParseBuilt(i)) {
+        ParseOptions o;
+        o.keepBytes = true;
+        const ParseResult r = CallParse(kova::kPackNames[k].name, shortest[i].c_str(), size, o);
+        std::memcpy(record->data(), r.bytes.data(), size);
+      }
       auto pointed = std::make_shared<PointedBuffers>();
       pointed->Attach(kova::kPackNames[k].name, record->data(), size, PackSize(k), -1, "kova");
       tasks.push_back({Task::kPack, k, std::string(), record, pointed, textSize});

@@ -182,9 +182,12 @@ std::vector<std::string> RealisticDocuments(int i, const std::vector<SampleDocum
     if (kova::NameEquals(d.name.c_str(), name)) out.push_back(d.text);
   }
   const int k = kova::FindPackName(name);
-  if (k >= 0) {
-    for (const std::string& shape : PackedShapes(k)) {
-      out.push_back(Envelope(shape));
+  std::vector<std::string> shapes = k >= 0 ? PackedShapes(k) : std::vector<std::string>();
+  std::sort(shapes.begin(), shapes.end(),
+            [](const std::string& a, const std::string& b) { return a.size() < b.size(); });
+  for (const std::string& shape : shapes) {
+    out.push_back(Envelope(shape));
+    if (shape.size() <= kSmallDocument / 2) {
       out.push_back(Envelope("[" + shape + "," + shape + "]"));
     }
   }
@@ -199,7 +202,6 @@ const std::vector<std::string>& HostileValues() {
       "false",
       "0",
       "-1",
-      "1",
       "2147483647",
       "2147483648",
       "-2147483648",
@@ -217,9 +219,7 @@ const std::vector<std::string>& HostileValues() {
       "4.9e-324",
       "1.7976931348623157e308",
       "-0.0",
-      "0.5",
       "-0.5",
-      "123e45678",
       "NaN",
       "-Infinity",
       "-2147483648.5",
@@ -227,7 +227,6 @@ const std::vector<std::string>& HostileValues() {
       "\"\"",
       "\"x\"",
       "\"12\"",
-      "\"-1\"",
       "\"" + std::string(70000, 'A') + "\"",
       "\"\xff\xfe\xc3\x28\xe2\x82\x28\xed\xa0\x80\"",
       "\"a\\u0000b\"",
@@ -236,7 +235,6 @@ const std::vector<std::string>& HostileValues() {
       "\"a/b\\\\c\\\"d\\n\\t\"",
       "[]",
       "[1,2,3]",
-      "[\"a\",\"b\"]",
       "[[[[[1]]]]]",
       "[null,null]",
       "{}",

@@ -4,6 +4,7 @@
 #ifndef KOVA_TESTS_HARNESS_DOCUMENTS_H_
 #define KOVA_TESTS_HARNESS_DOCUMENTS_H_
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -34,10 +35,15 @@ std::string Envelope(const std::string& table);
 // fails.
 std::vector<std::string> PackedShapes(int k);
 
+// Documents up to this size are cheap enough to vary in many ways; the
+// packed shape of a large record (a linkage block of every channel) can be
+// a megabyte of text.
+constexpr size_t kSmallDocument = 64u << 10;
+
 // Realistic documents for parse name `i`: its samples, then envelopes of
-// the packed shapes of the same name (one record, and an array of two).
-// Never empty: an envelope with an empty table stands in when nothing else
-// is known.
+// the packed shapes of the same name, shorter first (one record, and for
+// short ones an array of two). Never empty: an envelope with an empty table
+// stands in when nothing else is known.
 std::vector<std::string> RealisticDocuments(int i, const std::vector<SampleDocument>& samples);
 
 // JSON texts of values of every type and of awkward ranges: huge, negative,

@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <vector>
 
 #if defined(__SANITIZE_ADDRESS__)
 #define KOVA_HARNESS_ASAN 1
@@ -33,10 +34,8 @@ class GuardedBuffer {
   static constexpr uint8_t kGuardByte = 0xE7;
 
   explicit GuardedBuffer(size_t size, uint8_t fill = 0) : size_(size) {
-    const size_t total = (size + 2 * kGuard + 63) / 64 * 64;
-    base_ = static_cast<uint8_t*>(std::aligned_alloc(64, total));
-    if (base_ == nullptr) throw std::bad_alloc();
-    total_ = total;
+    total_ = (size + 2 * kGuard + 63) / 64 * 64;
+    base_ = Blocks().Take(total_);
     data_ = base_ + kGuard;
     std::memset(base_, kGuardByte, total_);
     std::memset(data_, fill, size_);
@@ -44,7 +43,7 @@ class GuardedBuffer {
   }
   ~GuardedBuffer() {
     Poison(false);
-    std::free(base_);
+    Blocks().Give(base_, total_);
   }
   GuardedBuffer(const GuardedBuffer&) = delete;
   GuardedBuffer& operator=(const GuardedBuffer&) = delete;
@@ -84,6 +83,49 @@ class GuardedBuffer {
 #else
     (void)on;
 #endif
+  }
+
+  // A few freed blocks kept per thread for the next buffer of the same
+  // size: the suites call translators of large records thousands of times,
+  // and fresh pages for each call cost more than the call.
+  class BlockCache {
+   public:
+    ~BlockCache() {
+      for (const Block& b : blocks_) std::free(b.base);
+    }
+    uint8_t* Take(size_t total) {
+      for (size_t i = 0; i < blocks_.size(); ++i) {
+        if (blocks_[i].total != total) continue;
+        uint8_t* base = blocks_[i].base;
+        blocks_.erase(blocks_.begin() + static_cast<std::ptrdiff_t>(i));
+        return base;
+      }
+      void* p = std::aligned_alloc(64, total);
+      if (p == nullptr) throw std::bad_alloc();
+      return static_cast<uint8_t*>(p);
+    }
+    void Give(uint8_t* base, size_t total) {
+      if (total > (4u << 20)) {
+        std::free(base);
+        return;
+      }
+      if (blocks_.size() == 8) {
+        std::free(blocks_.front().base);
+        blocks_.erase(blocks_.begin());
+      }
+      blocks_.push_back({base, total});
+    }
+
+   private:
+    struct Block {
+      uint8_t* base;
+      size_t total;
+    };
+    std::vector<Block> blocks_;
+  };
+  static BlockCache& Blocks() {
+    thread_local BlockCache cache;
+    return cache;
   }
 
   uint8_t* base_ = nullptr;
