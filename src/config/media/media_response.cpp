@@ -26,6 +26,21 @@ uint32_t WalkChannels(const Json::Value& table, unsigned char* out, uint32_t out
   return n;
 }
 
+int ParseChannels(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen,
+                  uint32_t size, bool checkResult, ChannelFill fill) {
+  if (jsonText == nullptr || outBuf == nullptr || size == 0 || outLen < size) return 0;
+  Json::Value root;
+  const Json::Value* table = nullptr;
+  if (!ReadResponse(jsonText, checkResult, &root, &table)) return 0;
+  if (table->isNull()) {
+    SetReturnedLength(retLen, 0);
+    return 1;
+  }
+  const uint32_t n = WalkChannels(*table, static_cast<unsigned char*>(outBuf), outLen, size, fill);
+  SetReturnedLength(retLen, static_cast<uint64_t>(n) * size);
+  return 1;
+}
+
 void SetReturnedLength(uint32_t* retLen, uint64_t bytes) {
   if (retLen != nullptr) *retLen = static_cast<uint32_t>(bytes);
 }
