@@ -131,7 +131,7 @@ const PackName kPackNames[] = {
     {"InfraredBoard", nullptr, 0},
     {"DeviceKeepAlive", nullptr, 0},
     {"VideoInExposure", nullptr, 0},
-    {"AccessControlGeneral", nullptr, 0},
+    {"AccessControlGeneral", PackAccessControlGeneral, sizeof(AccessGeneralRecord)},
     {"AccessControl", nullptr, 0},
     {"Wireless", nullptr, 0},
     {"AlarmServer", nullptr, 0},

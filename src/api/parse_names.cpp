@@ -162,7 +162,7 @@ const ParseName kParseNames[] = {
     {"InfraredBoard", nullptr, 0},
     {"DeviceKeepAlive", nullptr, 0},
     {"VideoInExposure", nullptr, 0},
-    {"AccessControlGeneral", nullptr, 0},
+    {"AccessControlGeneral", ParseAccessControlGeneral, sizeof(AccessGeneralRecord)},
     {"AccessControl", nullptr, 0},
     {"Wireless", nullptr, 0},
     {"AlarmServer", nullptr, 0},

@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+#include "kova/records/alarm.h"
+
 namespace kova {
 
 // Table-driver routines of "AlarmLamp" and "DefenceArmMode".
