@@ -4,6 +4,12 @@
 //   kova parse NAME FILE [-o RECORD.bin] [--size N]
 //   kova pack NAME RECORD.bin [--size N]
 //   kova roundtrip NAME FILE [--size N]
+//
+// `--log FILE`, before or after the command, opens the library's error log
+// at FILE for the run: every report a translator makes (malformed data, a
+// name not built yet) is appended there as one line.
+#include "kova/kova.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -13,7 +19,7 @@
 #include <vector>
 
 #include "api/dispatch.h"
-#include "kova/kova.h"
+#include "common/log.h"
 
 namespace {
 
@@ -24,7 +30,8 @@ int Usage() {
                "usage: kova names\n"
                "       kova parse NAME FILE [-o RECORD.bin] [--size N]\n"
                "       kova pack NAME RECORD.bin [--size N]\n"
-               "       kova roundtrip NAME FILE [--size N]\n");
+               "       kova roundtrip NAME FILE [--size N]\n"
+               "option: --log FILE  append the library's error reports to FILE\n");
   return 2;
 }
 
@@ -115,9 +122,23 @@ int Pack(const std::string& name, const void* in, uint32_t inLen, uint32_t outLe
   return 0;
 }
 
-}  // namespace
+// Takes every "--log FILE" out of the arguments; the last one names the log.
+// Returns false when "--log" has no FILE after it.
+bool TakeLogOption(std::vector<char*>* args, std::string* logPath) {
+  for (size_t i = 1; i < args->size();) {
+    if (std::strcmp((*args)[i], "--log") != 0) {
+      ++i;
+      continue;
+    }
+    if (i + 1 >= args->size()) return false;
+    *logPath = (*args)[i + 1];
+    args->erase(args->begin() + static_cast<std::ptrdiff_t>(i),
+                args->begin() + static_cast<std::ptrdiff_t>(i + 2));
+  }
+  return true;
+}
 
-int main(int argc, char** argv) {
+int Run(int argc, char** argv) {
   if (argc < 2) return Usage();
   const std::string cmd = argv[1];
   const Options o = ParseOptions(argc, argv);
@@ -159,4 +180,24 @@ int main(int argc, char** argv) {
     return Pack(o.args[0], record.data(), retLen, o.size);
   }
   return Usage();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::vector<char*> args(argv, argv + argc);
+  std::string logPath;
+  if (!TakeLogOption(&args, &logPath)) return Usage();
+  if (!logPath.empty()) {
+    LogSettings settings = {};
+    std::snprintf(settings.path, sizeof(settings.path), "%s", logPath.c_str());
+    if (logPath.size() >= sizeof(settings.path) || !kova::OpenLogger(&settings)) {
+      kova::CloseLogger();
+      std::fprintf(stderr, "kova: cannot open log file %s\n", logPath.c_str());
+      return 1;
+    }
+  }
+  const int rc = Run(static_cast<int>(args.size()), args.data());
+  kova::CloseLogger();
+  return rc;
 }

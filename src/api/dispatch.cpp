@@ -1,5 +1,7 @@
 #include "api/dispatch.h"
 
+#include "common/log.h"
+
 namespace kova {
 
 namespace {
@@ -13,8 +15,11 @@ int DriverIndex(int i, size_t listCount) {
 }
 
 // A name whose translator is not built yet fails: never a silent success
-// with an empty record.
-int NotBuilt(const char* name, const char* direction) { return 0; }
+// with an empty record. One line to the error log says which.
+int NotBuilt(const char* name, const char* direction) {
+  KOVA_REPORT(kErrBadParameter, "%s of [%s] is not built yet", direction, name);
+  return 0;
+}
 
 }  // namespace
 

@@ -42,6 +42,7 @@ void ParseOne(const Json::Value& v, unsigned char* p, const Field& f) {
       StoreInt(p, f.size, ToBool(v) ? 1 : 0);
       break;
     case FieldKind::kInt:
+    case FieldKind::kIntBoolIsOne:
       StoreInt(p, f.size, ToInt32(v));
       break;
     case FieldKind::kUInt:
@@ -79,6 +80,7 @@ void PackOne(const unsigned char* p, Json::Value& obj, const Field& f) {
       SetMember(obj, f.key) = LoadInt(p, f.size, false) != 0;
       break;
     case FieldKind::kBoolIsOne:
+    case FieldKind::kIntBoolIsOne:
       SetMember(obj, f.key) = LoadInt(p, f.size, false) == 1;
       break;
     case FieldKind::kInt:

@@ -30,6 +30,7 @@ enum class FieldKind : uint8_t {
   kText,       // fixed text field, converted between UTF-8 and the local code page
   kTextRaw,    // fixed text field, bytes copied unchanged
   kEnum,       // a name from an EnumNames table, stored as its value in an int field
+  kIntBoolIsOne,  // signed conversion as kInt on parse; packs as a boolean, true only when 1
 };
 
 // An enumeration held as text in JSON and as a number in the record.

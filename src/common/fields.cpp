@@ -1,27 +1,51 @@
 #include "common/fields.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "common/json.h"
+#include "common/log.h"
+#include "common/platform.h"
 
 namespace kova {
 
-// Code-page conversion is not wired yet: text passes unchanged (UTF-8 as
-// the local code page).
+namespace {
+
+// An unknown KOVA_CODEPAGE is reported once per name, not on every field.
+platform::Mutex gCodePageMu;
+std::string gReportedCodePage;
+
+void NoteFallback(const platform::Conversion& c) {
+  if (!c.fellBack) return;
+  {
+    platform::MutexLock lock(&gCodePageMu);
+    if (gReportedCodePage == c.unknownName) return;
+    gReportedCodePage = c.unknownName;
+  }
+  KOVA_REPORT(kErrBadParameter, "unknown code page [%s] in KOVA_CODEPAGE, using UTF-8",
+              c.unknownName.c_str());
+}
+
+}  // namespace
+
 int32_t Utf8ToAnsi(const char* src, int32_t srcLen, char* dst, int32_t cap) {
   if (src == nullptr || dst == nullptr || srcLen < 1 || cap < 1) return 0;
-  const size_t n = std::min<size_t>(std::strlen(src), static_cast<size_t>(cap));
-  std::memcpy(dst, src, n);
-  return static_cast<int32_t>(n);
+  // The length converted is the text's own; `srcLen` is only checked.
+  const platform::Conversion c =
+      platform::Utf8ToLocal(src, std::strlen(src), dst, static_cast<size_t>(cap));
+  NoteFallback(c);
+  return static_cast<int32_t>(c.written);
 }
 
 int32_t AnsiToUtf8(const char* src, int32_t srcLen, char* dst, int32_t cap) {
   if (src == nullptr || dst == nullptr || srcLen < 1 || cap < 1) return 0;
-  const size_t n = std::min<size_t>(static_cast<size_t>(srcLen), static_cast<size_t>(cap - 1));
-  std::memcpy(dst, src, n);
-  dst[n] = '\0';
-  return static_cast<int32_t>(n);
+  const platform::Conversion c =
+      platform::LocalToUtf8(src, static_cast<size_t>(srcLen), dst, static_cast<size_t>(cap - 1));
+  NoteFallback(c);
+  dst[c.written] = '\0';
+  return static_cast<int32_t>(c.written);
 }
 
 bool GetJsonString(const Json::Value& v, char* dst, uint32_t cap, uint8_t convert) {
@@ -30,8 +54,12 @@ bool GetJsonString(const Json::Value& v, char* dst, uint32_t cap, uint8_t conver
   if (!v.isString()) return false;
   const std::string text = ToText(v);
   if (convert) {
-    Utf8ToAnsi(text.c_str(), static_cast<int32_t>(text.size()), dst, static_cast<int32_t>(cap - 1));
+    // The capacity handed on is below INT32_MAX for any real record field.
+    const uint32_t room = cap - 1 > 0x7FFFFFFFu ? 0x7FFFFFFFu : cap - 1;
+    const size_t len = std::min<size_t>(text.size(), 0x7FFFFFFFu);
+    Utf8ToAnsi(text.c_str(), static_cast<int32_t>(len), dst, static_cast<int32_t>(room));
   } else {
+    // Cut without regard to characters: a multi-byte character may be split.
     std::memcpy(dst, text.data(), std::min<size_t>(text.size(), cap - 1));
   }
   return true;
@@ -44,7 +72,20 @@ void GetJsonStringIfPresent(const Json::Value& v, char* dst, uint32_t cap) {
 
 bool SetJsonString(Json::Value& v, const char* src, uint8_t convert) {
   if (src == nullptr) return false;
-  v = src;
+  if (!convert) {
+    v = src;
+    return true;
+  }
+  // The UTF-8 form is given room for one and a half times the local form;
+  // a text that grows more than that (e.g. two-byte GBK becoming three-byte
+  // UTF-8 throughout) is cut there. The bound is deliberate and kept.
+  const size_t n = std::strlen(src);
+  const size_t size = (3 * n) / 2 + 1;
+  std::vector<char> scratch(size, '\0');
+  if (n <= 0x7FFFFFFFu && size <= 0x7FFFFFFFu) {
+    AnsiToUtf8(src, static_cast<int32_t>(n), scratch.data(), static_cast<int32_t>(size));
+  }
+  v = scratch.data();
   return true;
 }
 

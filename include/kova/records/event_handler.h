@@ -65,12 +65,12 @@ enum {
 
 // Capacities. Longer device arrays are cut to these on parse.
 enum {
-  KOVA_EH_MAX_CHANNELS = 512,        // channels of one channel set
-  KOVA_EH_MASK_WORDS = 16,           // 32-bit words of one channel set
+  KOVA_EH_MAX_CHANNELS = 512,  // channels of one channel set
+  KOVA_EH_MASK_WORDS = 16,     // 32-bit words of one channel set
   KOVA_EH_MAX_PTZ_LINKS = 256,
-  KOVA_EH_MAX_TITLES = 256,          // "SnapshotTitle" and "VideoTitle" each
+  KOVA_EH_MAX_TITLES = 256,  // "SnapshotTitle" and "VideoTitle" each
   KOVA_EH_MAX_MONITOR_TOURS = 256,
-  KOVA_EH_MAX_TOUR_CHANNELS = 256,   // "Channels" of one monitor tour
+  KOVA_EH_MAX_TOUR_CHANNELS = 256,  // "Channels" of one monitor tour
   KOVA_EH_MAX_DB = 64,
   KOVA_EH_DB_LENGTH = 64,
   KOVA_EH_JPEG_SUMMARY_LENGTH = 1024,
@@ -126,79 +126,79 @@ typedef struct MonitorTourEntry {
 // words, channel c being bit c % 32 of word c / 32; on the device it is an
 // array of channel numbers.
 typedef struct EventHandlerRecord {
-  uint8_t present[42];           // presence flags, indices KOVA_EH_*
-  int32_t sdkRecordChannel;      // "SDK_RecordChannel" (parse only)
-  int32_t sdkAlarmOutChannel;    // "SDK_AlarmOutChannel" (parse only)
-  uint32_t recordChannels[16];   // "RecordChannels"; empty is not written
-  int32_t recordEnable;          // "RecordEnable"; always read (missing is 0) and written
-  int32_t recordLatch;           // "RecordLatch", seconds, unchecked
-  uint32_t alarmOutChannels[16];  // "AlarmOutChannels"; empty is written as null
-  int32_t alarmOutEnable;        // "AlarmOutEnable"; always read (missing is 0) and written
-  int32_t alarmOutLatch;         // "AlarmOutLatch", seconds
+  uint8_t present[42];              // presence flags, indices KOVA_EH_*
+  int32_t sdkRecordChannel;         // "SDK_RecordChannel" (parse only)
+  int32_t sdkAlarmOutChannel;       // "SDK_AlarmOutChannel" (parse only)
+  uint32_t recordChannels[16];      // "RecordChannels"; empty is not written
+  int32_t recordEnable;             // "RecordEnable"; always read and flagged (missing reads 0)
+  int32_t recordLatch;              // "RecordLatch", seconds, unchecked
+  uint32_t alarmOutChannels[16];    // "AlarmOutChannels"; empty is written as null
+  int32_t alarmOutEnable;           // "AlarmOutEnable"; always read and flagged (missing reads 0)
+  int32_t alarmOutLatch;            // "AlarmOutLatch", seconds
   uint32_t exAlarmOutChannels[16];  // "ExAlarmOutChannels"; empty is written as null
-  int32_t exAlarmOutEnable;      // "ExAlarmOutEnable"
-  int32_t reserved[512];         // never read or written
-  int32_t ptzLinkEnable;         // "PtzLinkEnable"
+  int32_t exAlarmOutEnable;         // "ExAlarmOutEnable"
+  int32_t reserved[512];            // never read or written
+  int32_t ptzLinkEnable;            // "PtzLinkEnable"
   // "TourChannels": channels -31..-1 set bit 32 + c of the first word (the
   // device's own wrap, kept); empty is not written.
   uint32_t tourChannels[16];
-  int32_t tourEnable;            // "TourEnable"; packed true only when 1
+  int32_t tourEnable;             // "TourEnable"; packed true only when 1
   uint32_t snapshotChannels[16];  // "SnapshotChannels"; empty is not written
-  int32_t snapshotEnable;        // "SnapshotEnable"
-  int32_t snapshotPeriod;        // "SnapshotPeriod"
-  int32_t snapshotTimes;         // "SnapshotTimes"
-  int32_t tipEnable;             // "TipEnable"
-  int32_t mailEnable;            // "MailEnable"
-  int32_t messageEnable;         // "MessageEnable"
-  int32_t beepEnable;            // "BeepEnable"
-  int32_t voiceEnable;           // "VoiceEnable"
-  uint32_t matrixChannels[16];   // "MatrixChannels", as "TourChannels"
-  int32_t matrixEnable;          // "MatrixEnable", read as an integer; packed true only when 1
-  int32_t dejitter;              // "Dejitter", seconds
-  int32_t logEnable;             // "LogEnable"
-  int32_t delay;                 // "Delay", seconds
-  int32_t onVideoMessageEnable;  // "OnVideoMessageEn" (pack only); packed true only when 1
-  int32_t mmsEnable;             // "MMSEnable"
-  int32_t messageToNetEnable;    // "MessageToNetEnable", read as an integer; packed true only when 1
-  int32_t tourSplit;             // "TourSplit" (parse only): 0 = "Split1", 1 = "Split8"
-  int32_t snapshotTitleEnable;   // "SnapshotTitleEnable"
-  int32_t ptzLinkCount;          // "PtzLink" entries (at most 256 on parse)
-  PtzLinkEntry ptzLinks[256];    // "PtzLink"; malformed entries stay zero
-  int32_t snapshotTitleCount;    // "SnapshotTitle" entries (at most 256)
-  TitleOverlay snapshotTitles[256];  // "SnapshotTitle"
-  int32_t mailAttachmentType;    // "MailDetail"."AttachmentType": 0 "picture", 1 "video"
-  int32_t mailMaxSize;           // "MailDetail"."MaxSize"
-  int32_t mailMaxTimeLength;     // "MailDetail"."MaxTimeLength"
-  int32_t videoTitleEnable;      // "VideoTitleEnable"
-  int32_t videoTitleCount;       // "VideoTitle" entries (at most 256)
-  TitleOverlay videoTitles[256];  // "VideoTitle"
-  int32_t monitorTourCount;      // "MonitorTour" entries (at most 256)
+  int32_t snapshotEnable;         // "SnapshotEnable"
+  int32_t snapshotPeriod;         // "SnapshotPeriod"
+  int32_t snapshotTimes;          // "SnapshotTimes"
+  int32_t tipEnable;              // "TipEnable"
+  int32_t mailEnable;             // "MailEnable"
+  int32_t messageEnable;          // "MessageEnable"
+  int32_t beepEnable;             // "BeepEnable"
+  int32_t voiceEnable;            // "VoiceEnable"
+  uint32_t matrixChannels[16];    // "MatrixChannels", as "TourChannels"
+  int32_t matrixEnable;           // "MatrixEnable", read as an integer; packed true only when 1
+  int32_t dejitter;               // "Dejitter", seconds
+  int32_t logEnable;              // "LogEnable"
+  int32_t delay;                  // "Delay", seconds
+  int32_t onVideoMessageEnable;   // "OnVideoMessageEn" (pack only); packed true only when 1
+  int32_t mmsEnable;              // "MMSEnable"
+  int32_t messageToNetEnable;   // "MessageToNetEnable", read as an integer; packed true only when 1
+  int32_t tourSplit;            // "TourSplit" (parse only): 0 = "Split1", 1 = "Split8"
+  int32_t snapshotTitleEnable;  // "SnapshotTitleEnable"
+  int32_t ptzLinkCount;         // "PtzLink" entries (at most 256 on parse)
+  PtzLinkEntry ptzLinks[256];   // "PtzLink"; malformed entries stay zero
+  int32_t snapshotTitleCount;   // "SnapshotTitle" entries (at most 256)
+  TitleOverlay snapshotTitles[256];    // "SnapshotTitle"
+  int32_t mailAttachmentType;          // "MailDetail"."AttachmentType": 0 "picture", 1 "video"
+  int32_t mailMaxSize;                 // "MailDetail"."MaxSize"
+  int32_t mailMaxTimeLength;           // "MailDetail"."MaxTimeLength"
+  int32_t videoTitleEnable;            // "VideoTitleEnable"
+  int32_t videoTitleCount;             // "VideoTitle" entries (at most 256)
+  TitleOverlay videoTitles[256];       // "VideoTitle"
+  int32_t monitorTourCount;            // "MonitorTour" entries (at most 256)
   MonitorTourEntry monitorTours[256];  // "MonitorTour"
-  int32_t dbCount;               // "DB" strings (at most 64)
-  char db[64][64];               // "DB", local code page
-  char jpegSummary[1024];        // "JpegSummary", bytes unchanged (no code-page conversion)
-  int32_t flashEnable;           // "FlashEnable"; packed true only when 1
-  int32_t flashLatch;            // "FlashLatch"
-  uint8_t voicePresent;          // "Voice"."AudioFileName" was given
+  int32_t dbCount;                     // "DB" strings (at most 64)
+  char db[64][64];                     // "DB", local code page
+  char jpegSummary[1024];              // "JpegSummary", bytes unchanged (no code-page conversion)
+  int32_t flashEnable;                 // "FlashEnable"; packed true only when 1
+  int32_t flashLatch;                  // "FlashLatch"
+  uint8_t voicePresent;                // "Voice"."AudioFileName" was given
   uint8_t alarmBellEnablePresent;      // "AlarmBellEnable" was given
   uint8_t accessControlEnablePresent;  // "AccessControlEnable" was given
   uint8_t accessControlsPresent;       // "AccessControls" was given
-  char audioFileName[260];       // "Voice"."AudioFileName", local code page
-  int32_t alarmBellEnable;       // "AlarmBellEnable"
-  int32_t accessControlEnable;   // "AccessControlEnable"
-  int32_t accessControlCount;    // "AccessControls" entries (at most 8)
+  char audioFileName[260];             // "Voice"."AudioFileName", local code page
+  int32_t alarmBellEnable;             // "AlarmBellEnable"
+  int32_t accessControlEnable;         // "AccessControlEnable"
+  int32_t accessControlCount;          // "AccessControls" entries (at most 8)
   int32_t accessControlOperations[8];  // "AccessControls"[i]."Operation", KOVA_DOOR_*
-  int32_t talkbackPresent;       // "Talkback" was given
-  int32_t callEnable;            // "Talkback"."CallEnable"
-  int32_t caller;                // "Talkback"."Caller": 0 = "Device"
-  int32_t callProtocol;          // "Talkback"."CallProtocol": 0 = "Cellular"
-  int32_t pstnAlarmServerPresent;  // "PSTNAlarmServer" was given
-  int32_t needReport;            // "PSTNAlarmServer"."NeedReport"
-  int32_t destinationCount;      // "PSTNAlarmServer"."Destination" entries (at most 8 on parse)
-  uint8_t destinations[8];       // "PSTNAlarmServer"."Destination", each cut to one byte
-  HolidaySchedule schedule;      // "TimeSection", always written
+  int32_t talkbackPresent;             // "Talkback" was given
+  int32_t callEnable;                  // "Talkback"."CallEnable"
+  int32_t caller;                      // "Talkback"."Caller": 0 = "Device"
+  int32_t callProtocol;                // "Talkback"."CallProtocol": 0 = "Cellular"
+  int32_t pstnAlarmServerPresent;      // "PSTNAlarmServer" was given
+  int32_t needReport;                  // "PSTNAlarmServer"."NeedReport"
+  int32_t destinationCount;       // "PSTNAlarmServer"."Destination" entries (at most 8 on parse)
+  uint8_t destinations[8];        // "PSTNAlarmServer"."Destination", each cut to one byte
+  HolidaySchedule schedule;       // "TimeSection", always written
   int32_t alarmBellLatchPresent;  // "AlarmBellLatch" was given
-  int32_t alarmBellLatch;        // "AlarmBellLatch", seconds
+  int32_t alarmBellLatch;         // "AlarmBellLatch", seconds
 } EventHandlerRecord;
 
 #ifdef __cplusplus

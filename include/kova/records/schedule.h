@@ -33,7 +33,7 @@ typedef struct TimeSectionRecord {
 // Grid sizes in use.
 enum {
   KOVA_WEEK_DAYS = 7,
-  KOVA_HOLIDAY_DAYS = 8,        // the week plus the holiday (day index 7)
+  KOVA_HOLIDAY_DAYS = 8,  // the week plus the holiday (day index 7)
   KOVA_SECTIONS_PER_DAY = 6,
   KOVA_ANALYSE_SECTIONS_PER_DAY = 10,
 };

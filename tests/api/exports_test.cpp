@@ -1,0 +1,103 @@
+// Argument checks of the four exported functions and the dispatch rules
+// that hold for every name.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <vector>
+
+#include "api/dispatch.h"
+#include "kova/kova.h"
+
+namespace {
+
+const char kLampJson[] = R"({"result":true,"params":{"table":{"Mode":1}}})";
+
+int CountingCallback(uint32_t, const void*, uint32_t, const void*, uint32_t, void* user) {
+  ++*static_cast<int*>(user);
+  return 0;
+}
+
+TEST(Exports, ParseRefusesMissingArgumentsWithoutWriting) {
+  unsigned char buf[8];
+  std::memset(buf, 0xAB, sizeof buf);
+  uint32_t ret = 7;
+  EXPECT_EQ(0, KOVA_ParseData(nullptr, kLampJson, buf, sizeof buf, &ret));
+  EXPECT_EQ(0, KOVA_ParseData("AlarmLamp", nullptr, buf, sizeof buf, &ret));
+  EXPECT_EQ(0, KOVA_ParseData("AlarmLamp", kLampJson, nullptr, sizeof buf, &ret));
+  EXPECT_EQ(0, KOVA_ParseData("AlarmLamp", kLampJson, buf, 0, &ret));
+  EXPECT_EQ(0, KOVA_ParseData("NoSuchConfig", kLampJson, buf, sizeof buf, &ret));
+  for (unsigned char b : buf) EXPECT_EQ(0xAB, b);
+  EXPECT_EQ(7u, ret);
+}
+
+TEST(Exports, ParseAddsToRetLenAndAcceptsNullRetLen) {
+  int32_t mode = 0;
+  uint32_t ret = 100;
+  EXPECT_EQ(1, KOVA_ParseData("AlarmLamp", kLampJson, &mode, sizeof mode, &ret));
+  EXPECT_EQ(104u, ret);
+  EXPECT_EQ(1, KOVA_ParseData("ALARMLAMP", kLampJson, &mode, sizeof mode, nullptr));
+  EXPECT_EQ(1, mode);
+}
+
+TEST(Exports, PackRefusesMissingArgumentsButLeavesInLenToThePacker) {
+  const int32_t mode = 1;
+  char out[32];
+  std::memset(out, 'x', sizeof out);
+  EXPECT_EQ(0, KOVA_PacketData(nullptr, &mode, sizeof mode, out, sizeof out));
+  EXPECT_EQ(0, KOVA_PacketData("AlarmLamp", nullptr, sizeof mode, out, sizeof out));
+  EXPECT_EQ(0, KOVA_PacketData("AlarmLamp", &mode, sizeof mode, nullptr, sizeof out));
+  EXPECT_EQ(0, KOVA_PacketData("AlarmLamp", &mode, sizeof mode, out, 0));
+  EXPECT_EQ(0, KOVA_PacketData("NoSuchConfig", &mode, sizeof mode, out, sizeof out));
+  for (char c : out) EXPECT_EQ('x', c);
+  // inLen 0 reaches the packer, which judges it (one record needed here).
+  EXPECT_EQ(0, KOVA_PacketData("AlarmLamp", &mode, 0, out, sizeof out));
+}
+
+TEST(Exports, DirectionOnlyNamesAreRefusedTheOtherWay) {
+  char out[64] = {};
+  unsigned char rec[64] = {};
+  EXPECT_EQ(0, KOVA_PacketData("devVideoAnalyse.getCaps", rec, sizeof rec, out, sizeof out));
+  EXPECT_EQ(0, KOVA_ParseData("VideoDiagnosisRealProject", "{}", rec, sizeof rec, nullptr));
+}
+
+TEST(Exports, NamesWithoutTranslatorFailWithoutTouchingTheBuffers) {
+  for (size_t i = 0; i < kova::kParseNameCount; ++i) {
+    if (kova::ParseBuilt(static_cast<int>(i))) continue;
+    std::vector<unsigned char> buf(256, 0xCD);
+    uint32_t ret = 5;
+    EXPECT_EQ(0, KOVA_ParseData(kova::kParseNames[i].name, kLampJson, buf.data(),
+                                static_cast<uint32_t>(buf.size()), &ret))
+        << kova::kParseNames[i].name;
+    EXPECT_EQ(5u, ret);
+    EXPECT_EQ(std::vector<unsigned char>(256, 0xCD), buf) << kova::kParseNames[i].name;
+  }
+  for (size_t i = 0; i < kova::kPackNameCount; ++i) {
+    if (kova::PackBuilt(static_cast<int>(i))) continue;
+    std::vector<unsigned char> rec(256, 0);
+    std::vector<char> out(256, 'x');
+    EXPECT_EQ(0, KOVA_PacketData(kova::kPackNames[i].name, rec.data(), 256, out.data(), 256))
+        << kova::kPackNames[i].name;
+    EXPECT_EQ(std::vector<char>(256, 'x'), out) << kova::kPackNames[i].name;
+  }
+}
+
+TEST(Exports, CallbackEntriesCheckBufferAndCallbackOnly) {
+  int calls = 0;
+  EXPECT_EQ(0, KOVA_ParseAnalyzerEventData(nullptr, 10, CountingCallback, &calls));
+  EXPECT_EQ(0, KOVA_ParseAnalyzerEventData("{}", 2, nullptr, &calls));
+  EXPECT_EQ(1, KOVA_ParseAnalyzerEventData("{}", 0, CountingCallback, &calls));
+  EXPECT_EQ(1, KOVA_ParseAnalyzerEventData("not json", 8, CountingCallback, nullptr));
+  EXPECT_EQ(0, KOVA_ParseDataByCallback(nullptr, 10, CountingCallback, &calls));
+  EXPECT_EQ(0, KOVA_ParseDataByCallback("{}", 2, nullptr, &calls));
+  EXPECT_NE(0, KOVA_ParseDataByCallback("{}", 0, CountingCallback, &calls));
+  EXPECT_EQ(0, calls);
+}
+
+TEST(Exports, NestingBeyondTheReaderLimitFailsInsteadOfThrowing) {
+  std::string deep = R"({"result":true,"params":{"table":)";
+  deep += std::string(5000, '[') + std::string(5000, ']') + "}}";
+  int32_t mode = 9;
+  EXPECT_EQ(0, KOVA_ParseData("AlarmLamp", deep.c_str(), &mode, sizeof mode, nullptr));
+}
+
+}  // namespace

@@ -1,0 +1,240 @@
+// The table drivers with a test record: envelope truth, mode choice,
+// clamping, null elements, retLen accumulation, and the pack copy rule.
+#include "drivers/table_driver.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "common/json.h"
+
+namespace {
+
+struct Pair {
+  int32_t a;
+  int32_t b;
+};
+
+int ParsePair(const Json::Value& v, void* rec) {
+  Pair p{kova::ToInt32(kova::Member(v, "A")), kova::ToInt32(kova::Member(v, "B"))};
+  // An inner array (depth-2 configurations) counts its elements into A.
+  if (v.isArray()) p.a = static_cast<int32_t>(v.size()), p.b = -1;
+  std::memcpy(rec, &p, sizeof p);
+  return 1;
+}
+
+int PackPair(const void* rec, Json::Value& out) {
+  Pair p;
+  std::memcpy(&p, rec, sizeof p);
+  kova::SetMember(out, "A") = p.a;
+  kova::SetMember(out, "B") = p.b;
+  return 1;
+}
+
+std::string Envelope(const std::string& result, const std::string& table) {
+  return R"({"id":3,"result":)" + result + R"(,"params":{"table":)" + table + "}}";
+}
+
+struct ParseRun {
+  int rc;
+  std::vector<Pair> recs;
+  uint32_t ret;
+};
+
+ParseRun Parse(const std::string& json, size_t records, int32_t depthMinusOne = 0,
+               uint8_t array = 1, uint8_t zero = 1, uint32_t extraBytes = 0) {
+  ParseRun r;
+  r.recs.assign(records + 1, Pair{-7, -7});
+  r.ret = 0;
+  r.rc = kova::ParseTableDriver(json.c_str(), r.recs.data(),
+                                static_cast<uint32_t>(records * sizeof(Pair) + extraBytes), &r.ret,
+                                ParsePair, sizeof(Pair), depthMinusOne, array, zero);
+  return r;
+}
+
+TEST(ParseTableDriver, SingleObjectFillsTheFirstRecord) {
+  ParseRun r = Parse(Envelope("true", R"({"A":1,"B":2})"), 3);
+  EXPECT_EQ(1, r.rc);
+  EXPECT_EQ(1, r.recs[0].a);
+  EXPECT_EQ(2, r.recs[0].b);
+  EXPECT_EQ(0, r.recs[1].a);  // zero-filled
+  EXPECT_EQ(8u, r.ret);
+  EXPECT_EQ(-7, r.recs[3].a);  // beyond outLen: untouched
+}
+
+TEST(ParseTableDriver, ArrayIsClampedToTheBuffer) {
+  ParseRun r = Parse(Envelope("true", R"([{"A":1},{"A":2},{"A":3}])"), 2);
+  EXPECT_EQ(1, r.rc);
+  EXPECT_EQ(1, r.recs[0].a);
+  EXPECT_EQ(2, r.recs[1].a);
+  EXPECT_EQ(-7, r.recs[2].a);
+  EXPECT_EQ(16u, r.ret);
+  // A partial record at the end of the buffer does not count.
+  ParseRun p = Parse(Envelope("true", R"([{"A":1},{"A":2},{"A":3}])"), 2, 0, 1, 1, 7);
+  EXPECT_EQ(16u, p.ret);
+  EXPECT_EQ(0, p.recs[2].a);  // zero-filled as part of outLen, not parsed
+}
+
+TEST(ParseTableDriver, NullElementKeepsItsSlotAndIsNotCounted) {
+  ParseRun r = Parse(Envelope("true", R"([{"A":1},null,{"A":3}])"), 3);
+  EXPECT_EQ(1, r.rc);
+  EXPECT_EQ(1, r.recs[0].a);
+  EXPECT_EQ(0, r.recs[1].a);
+  EXPECT_EQ(3, r.recs[2].a);
+  EXPECT_EQ(16u, r.ret);
+}
+
+TEST(ParseTableDriver, RetLenIsAddedTo) {
+  std::vector<Pair> recs(2);
+  uint32_t ret = 1000;
+  const std::string json = Envelope("true", R"([{"A":1},{"A":2}])");
+  ASSERT_EQ(1, kova::ParseTableDriver(json.c_str(), recs.data(), 16, &ret, ParsePair, 8, 0, 1, 1));
+  EXPECT_EQ(1016u, ret);
+  ASSERT_EQ(1, kova::ParseTableDriver(json.c_str(), recs.data(), 16, nullptr, ParsePair, 8, 0, 1, 1));
+}
+
+TEST(ParseTableDriver, ResultTruthRules) {
+  for (const char* yes : {"true", "1", "-3", "0.5", "\"ok\"", "[0]", "{\"a\":0}",
+                          "18446744073709551615"}) {
+    EXPECT_EQ(1, Parse(Envelope(yes, R"({"A":1})"), 1).rc) << yes;
+  }
+  for (const char* no : {"false", "0", "0.0", "\"\"", "[]", "{}", "null"}) {
+    ParseRun r = Parse(Envelope(no, R"({"A":1})"), 1);
+    EXPECT_EQ(0, r.rc) << no;
+    EXPECT_EQ(0, r.recs[0].a) << "zero-fill happens before the envelope is judged";
+    EXPECT_EQ(0u, r.ret);
+  }
+  EXPECT_EQ(0, Parse(R"({"params":{"table":{"A":1}}})", 1).rc);
+}
+
+TEST(ParseTableDriver, FailureRowsLeaveTheDocumentedState) {
+  // Buffer smaller than one record: untouched.
+  Pair p{-7, -7};
+  uint32_t ret = 0;
+  EXPECT_EQ(0, kova::ParseTableDriver(Envelope("true", "{}").c_str(), &p, 7, &ret, ParsePair, 8, 0,
+                                      1, 1));
+  EXPECT_EQ(-7, p.a);
+  // Text that does not parse: zero-filled, 0.
+  ParseRun bad = Parse("{\"result\":true,", 1);
+  EXPECT_EQ(0, bad.rc);
+  EXPECT_EQ(0, bad.recs[0].a);
+  // Without zero-fill the bytes stay.
+  ParseRun keep = Parse("nonsense", 1, 0, 1, 0);
+  EXPECT_EQ(-7, keep.recs[0].a);
+  // Missing params or table: success, nothing written, retLen unchanged.
+  for (const char* doc : {R"({"result":true})", R"({"result":true,"params":{}})",
+                          R"({"result":true,"params":5})", R"({"result":true,"params":{"table":null}})"}) {
+    ParseRun r = Parse(doc, 2);
+    EXPECT_EQ(1, r.rc) << doc;
+    EXPECT_EQ(0u, r.ret) << doc;
+    EXPECT_EQ(0, r.recs[0].a) << doc;
+  }
+}
+
+TEST(ParseTableDriver, ModeFollowsTheExpectedDepth) {
+  // Depth 2 configuration: an array of arrays is walked element by element.
+  ParseRun deep = Parse(Envelope("true", R"([[{},{}],[{}],[{},{},{}]])"), 4, 1);
+  EXPECT_EQ(1, deep.rc);
+  EXPECT_EQ(2, deep.recs[0].a);
+  EXPECT_EQ(1, deep.recs[1].a);
+  EXPECT_EQ(3, deep.recs[2].a);
+  EXPECT_EQ(24u, deep.ret);
+  // An empty inner array has depth 0, so the table is no longer of depth 2.
+  ParseRun empty = Parse(Envelope("true", R"([[{}],[]])"), 4, 1);
+  EXPECT_EQ(2, empty.recs[0].a);
+  EXPECT_EQ(8u, empty.ret);
+  // A plain array of objects has depth 1: one record that receives the whole array.
+  ParseRun flat = Parse(Envelope("true", R"([{"A":1},{"A":2},{"A":3}])"), 4, 1);
+  EXPECT_EQ(3, flat.recs[0].a);
+  EXPECT_EQ(-1, flat.recs[0].b);
+  EXPECT_EQ(8u, flat.ret);
+  // Array mode off: the array is one record.
+  ParseRun off = Parse(Envelope("true", R"([{"A":1},{"A":2}])"), 4, 0, 0);
+  EXPECT_EQ(2, off.recs[0].a);
+  EXPECT_EQ(8u, off.ret);
+}
+
+TEST(ArrayDepth, CountsNestedArraysAtTheTop) {
+  auto depth = [](const char* text) {
+    Json::Value v;
+    EXPECT_TRUE(kova::ReadJson(text, &v)) << text;
+    return kova::ArrayDepth(v, 4);
+  };
+  EXPECT_EQ(-1, kova::ArrayDepth(Json::Value(), 4));
+  EXPECT_EQ(0, depth("{}"));
+  EXPECT_EQ(0, depth("5"));
+  EXPECT_EQ(0, depth("[]"));
+  EXPECT_EQ(1, depth("[{}]"));
+  EXPECT_EQ(2, depth("[[{}],[{}]]"));
+  EXPECT_EQ(3, depth("[[[1]]]"));
+  EXPECT_EQ(0, depth("[null]"));
+  EXPECT_EQ(1, depth("[null,{}]"));     // a sampled non-array returns 1 at once
+  EXPECT_EQ(1, depth("[{},[[1]]]"));    // element 0 decides the minimum
+  EXPECT_EQ(1, depth("[[1],{}]"));      // early return for a later object
+  EXPECT_EQ(2, depth("[[1],[[1]]]"));   // minimum of the samples
+  EXPECT_EQ(0, depth("[{},null]"));     // a later null lowers the minimum below 1
+  EXPECT_EQ(1, depth("[{},null,{}]"));  // ...unless a later object returns early
+  EXPECT_EQ(-1, kova::ArrayDepth(Json::Value(Json::arrayValue), -1));
+}
+
+TEST(ArrayDepth, LongArraysAreSampled) {
+  // 32 elements, shift 4: step 3, so elements 0, 3, 6, ... 30 are looked at.
+  Json::Value v(Json::arrayValue);
+  for (int i = 0; i < 32; ++i) v.append(Json::Value(Json::arrayValue)).append(1);
+  v[1] = 7;  // not sampled: ignored
+  EXPECT_EQ(2, kova::ArrayDepth(v, 4));
+  v[3] = 7;  // sampled: the early return
+  EXPECT_EQ(1, kova::ArrayDepth(v, 4));
+  // 100 000 elements are decided from a handful of samples.
+  Json::Value big(Json::arrayValue);
+  big.resize(100000);
+  for (Json::ArrayIndex i = 0; i < big.size(); ++i) big[i] = Json::Value(Json::objectValue);
+  EXPECT_EQ(1, kova::ArrayDepth(big, 4));
+  EXPECT_EQ(-1, kova::ArrayDepth(big, -1));
+}
+
+std::string Pack(const std::vector<Pair>& recs, uint32_t inLen, uint8_t array, uint32_t outLen,
+                 int* rc) {
+  std::vector<char> out(outLen + 4, 'x');
+  *rc = kova::PackTableDriver(recs.data(), inLen, out.data(), outLen, PackPair, sizeof(Pair), 0,
+                              array);
+  EXPECT_EQ(std::string(4, 'x'), std::string(out.end() - 4, out.end()));
+  return std::string(out.data(), strnlen(out.data(), outLen));
+}
+
+TEST(PackTableDriver, OneRecordIsAnObjectSeveralAnArray) {
+  const std::vector<Pair> recs = {{1, 2}, {3, 4}, {5, 6}};
+  int rc = 0;
+  EXPECT_EQ("{ \"A\" : 1, \"B\" : 2 }\n", Pack(recs, 8, 1, 256, &rc));
+  EXPECT_EQ(1, rc);
+  EXPECT_EQ("[ { \"A\" : 1, \"B\" : 2 }, { \"A\" : 3, \"B\" : 4 } ]\n", Pack(recs, 20, 1, 256, &rc));
+  EXPECT_EQ(1, rc);
+  // Array mode off: exactly one record whatever inLen holds.
+  EXPECT_EQ("{ \"A\" : 1, \"B\" : 2 }\n", Pack(recs, 24, 0, 256, &rc));
+  EXPECT_EQ(1, rc);
+}
+
+TEST(PackTableDriver, ShortInput) {
+  const std::vector<Pair> recs = {{1, 2}};
+  int rc = 0;
+  EXPECT_EQ("null\n", Pack(recs, 7, 1, 256, &rc));
+  EXPECT_EQ(1, rc);
+  EXPECT_EQ("", Pack(recs, 7, 0, 256, &rc));
+  EXPECT_EQ(0, rc);
+}
+
+TEST(PackTableDriver, TextMustFitWithItsTerminator) {
+  const std::vector<Pair> recs = {{1, 2}};
+  const std::string text = "{ \"A\" : 1, \"B\" : 2 }\n";
+  int rc = 0;
+  EXPECT_EQ(text, Pack(recs, 8, 0, static_cast<uint32_t>(text.size() + 1), &rc));
+  EXPECT_EQ(1, rc);
+  std::vector<char> out(text.size(), 'x');
+  EXPECT_EQ(0, kova::PackTableDriver(recs.data(), 8, out.data(), static_cast<uint32_t>(out.size()),
+                                     PackPair, 8, 0, 0));
+  EXPECT_EQ(std::vector<char>(text.size(), 0), out);
+}
+
+}  // namespace

@@ -1,0 +1,37 @@
+#!/bin/sh
+# Runs the command-line tool over every shipped device response: each file
+# samples/NAME.json is parsed as NAME into records, and the records are
+# packed back into the text the device expects.
+set -u
+tool="$1"
+dir="$2"
+total=0
+ok=0
+built_parse=$("$tool" names | awk '$3 == "built"' | wc -l)
+built_pack=$("$tool" names | awk '$5 == "built"' | wc -l)
+echo "kova demo: $built_parse parse and $built_pack pack translators built"
+echo
+for f in "$dir"/*.json; do
+  [ -e "$f" ] || continue
+  name=$(basename "$f" .json)
+  total=$((total + 1))
+  echo "== $name  ($f)"
+  out=$("$tool" roundtrip "$name" "$f" 2>&1)
+  rc=$?
+  echo "$out" | head -n 1
+  packed=$(echo "$out" | tail -n +2)
+  if [ $rc -eq 0 ]; then
+    ok=$((ok + 1))
+    len=$(printf '%s' "$packed" | wc -c)
+    if [ "$len" -gt 300 ]; then
+      printf '   packed (%d bytes): %.300s ...\n' "$len" "$packed"
+    else
+      printf '   packed: %s\n' "$packed"
+    fi
+  else
+    echo "   FAILED: $packed"
+  fi
+done
+echo
+echo "$ok of $total samples parsed and packed back"
+[ "$ok" -eq "$total" ]
