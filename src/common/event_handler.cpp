@@ -193,10 +193,13 @@ void PackPstnAlarmServer(const R& r, Json::Value& obj) {
   SetMember(server, "NeedReport") = r.needReport != 0;
   Json::Value& destinations = SetMember(server, "Destination");
   destinations = Json::Value(Json::arrayValue);
-  // The device's count is not cut to 8 when packing, but the record holds
-  // only 8 destinations: nothing beyond them is read.
-  const uint32_t n = CutCount(r.destinationCount, KOVA_EH_MAX_DESTINATIONS);
-  for (uint32_t i = 0; i < n; ++i) destinations.append(Json::Value(r.destinations[i]));
+  // The count is deliberately not cut to 8 when packing: bytes beyond the
+  // eight destinations are taken from what follows them, but never from
+  // beyond the end of the record.
+  const size_t at = offsetof(EventHandlerRecord, destinations);
+  const uint32_t n = CutCount(r.destinationCount, EntriesToRecordEnd(at, 1));
+  const unsigned char* base = reinterpret_cast<const unsigned char*>(&r);
+  for (uint32_t i = 0; i < n; ++i) destinations.append(Json::Value(base[at + i]));
 }
 
 bool Given(const Json::Value& v) { return !v.isNull(); }

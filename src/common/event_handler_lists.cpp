@@ -40,6 +40,10 @@ Json::Value IntArray(const int32_t* values, uint32_t n) {
 
 }  // namespace
 
+uint32_t EntriesToRecordEnd(size_t offset, size_t entrySize) {
+  return static_cast<uint32_t>((sizeof(EventHandlerRecord) - offset) / entrySize);
+}
+
 uint32_t CutCount(int32_t count, uint32_t capacity) {
   if (count <= 0) return 0;
   return static_cast<uint32_t>(count) < capacity ? static_cast<uint32_t>(count) : capacity;
@@ -62,14 +66,18 @@ void ParsePtzLinks(const Json::Value& links, EventHandlerRecord* r) {
 }
 
 void PackPtzLinks(const EventHandlerRecord& r, Json::Value& obj) {
-  // The device's own count is not cut to 256 when packing, but nothing past
-  // the record's 256 entries exists to be read.
-  const uint32_t n = CutCount(r.ptzLinkCount, KOVA_EH_MAX_PTZ_LINKS);
+  // The count is deliberately not cut to 256 when packing: entries beyond
+  // the array are taken from the bytes that follow it, but never from
+  // beyond the end of the record.
+  const uint32_t n = CutCount(r.ptzLinkCount, EntriesToRecordEnd(offsetof(EventHandlerRecord, ptzLinks),
+                                                                sizeof(PtzLinkEntry)));
   if (n == 0) return;
   Json::Value& links = SetMember(obj, "PtzLink");
   links = Json::Value(Json::arrayValue);
+  const unsigned char* base = reinterpret_cast<const unsigned char*>(&r);
   for (uint32_t i = 0; i < n; ++i) {
-    const PtzLinkEntry& e = r.ptzLinks[i];
+    PtzLinkEntry e;
+    std::memcpy(&e, base + offsetof(EventHandlerRecord, ptzLinks) + i * sizeof e, sizeof e);
     const char* name = EnumName(kPtzLinkTypes, e.type);
     if (name == nullptr) continue;  // an unknown type leaves null at its index
     Json::Value& item = SetElement(links, i);

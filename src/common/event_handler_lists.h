@@ -35,6 +35,10 @@ Json::Value PackAccessControls(const EventHandlerRecord& r);
 // A record count cut to [0, capacity].
 uint32_t CutCount(int32_t count, uint32_t capacity);
 
+// How many entries of `entrySize` bytes fit between `offset` and the end of
+// an EventHandlerRecord: the bound for the counts that packing leaves uncut.
+uint32_t EntriesToRecordEnd(size_t offset, size_t entrySize);
+
 }  // namespace kova
 
 #endif  // KOVA_COMMON_EVENT_HANDLER_LISTS_H_

@@ -1,0 +1,278 @@
+// The alarm linkage block on device-shaped "EventHandler" objects: a full
+// block from a recorder, the awkward cases, and records that lie.
+#include "common/event_handler.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <fstream>
+#include <memory>
+#include <sstream>
+
+#include "common/json.h"
+#include "common/json_writer.h"
+
+namespace {
+
+using kova::Count;
+using kova::Element;
+using kova::Member;
+
+Json::Value Doc(const std::string& text) {
+  Json::Value v;
+  EXPECT_TRUE(kova::ReadJson(text.c_str(), &v)) << text;
+  return v;
+}
+
+Json::Value Fixture(const char* name) {
+  std::ifstream in(std::string(KOVA_FIXTURES_DIR) + "/" + name);
+  std::stringstream text;
+  text << in.rdbuf();
+  return Doc(text.str());
+}
+
+// The record is 337 KB: keep it off the stack.
+std::unique_ptr<EventHandlerRecord> Zeroed() {
+  std::unique_ptr<EventHandlerRecord> r(new EventHandlerRecord);
+  std::memset(r.get(), 0, sizeof *r);
+  return r;
+}
+
+std::unique_ptr<EventHandlerRecord> Parse(const Json::Value& eh) {
+  auto r = Zeroed();
+  EXPECT_TRUE(kova::ParseEventHandler(eh, r.get()));
+  return r;
+}
+
+// The packed object without its (always written) schedule, as device text.
+std::string PackedWithoutSchedule(const EventHandlerRecord& r) {
+  Json::Value out;
+  kova::PackEventHandler(r, out);
+  EXPECT_TRUE(out.isMember("TimeSection"));
+  out.removeMember("TimeSection");
+  return kova::WriteJson(out);
+}
+
+TEST(EventHandler, RecorderBlockReadsEveryMember) {
+  auto r = Parse(Fixture("event_handler_recorder.json"));
+  EXPECT_EQ(1, r->schedule.holidayEnabled);
+  EXPECT_EQ(8, r->schedule.sections[1][1].beginHour);
+  EXPECT_EQ(16, r->schedule.sections[7][0].endHour);
+  EXPECT_EQ(0x5u, r->recordChannels[0]);
+  EXPECT_EQ(0x2u, r->recordChannels[1]);
+  EXPECT_EQ(1, r->present[KOVA_EH_EX_ALARM_OUT_CHANNELS]);  // empty, but given
+  EXPECT_EQ(2, r->sdkRecordChannel);
+  EXPECT_EQ(1, r->tourSplit);
+  EXPECT_EQ(3, r->ptzLinkCount);
+  EXPECT_EQ(KOVA_PTZ_LINK_TOUR, r->ptzLinks[1].type);
+  EXPECT_EQ(2, r->ptzLinks[1].values[1]);
+  EXPECT_STREQ("Yard", r->videoTitles[1].text);
+  EXPECT_EQ(512, r->videoTitles[1].point[1]);
+  EXPECT_EQ(24.0f, r->snapshotTitles[0].size[0]);
+  EXPECT_EQ(128, r->snapshotTitles[0].backColor[3]);
+  EXPECT_EQ(1, r->mailAttachmentType);
+  EXPECT_EQ(0, r->monitorTours[0].split);  // no split-mode names yet
+  EXPECT_EQ(4, r->monitorTours[0].channelCount);
+  EXPECT_STREQ("plates", r->db[1]);
+  EXPECT_STREQ("CAM-03|north gate", r->jpegSummary);
+  EXPECT_STREQ("/mnt/mtd/audio/alarm.wav", r->audioFileName);
+  EXPECT_EQ(KOVA_DOOR_OPEN, r->accessControlOperations[0]);
+  EXPECT_EQ(KOVA_DOOR_CLOSE_ALWAYS, r->accessControlOperations[2]);
+  EXPECT_EQ(1, r->alarmBellLatchPresent);
+  EXPECT_EQ(30, r->alarmBellLatch);
+  EXPECT_EQ(2, r->destinationCount);
+  EXPECT_EQ(3, r->destinations[1]);
+}
+
+TEST(EventHandler, ParsePackParseGivesTheSameRecord) {
+  auto first = Parse(Fixture("event_handler_recorder.json"));
+  Json::Value packed;
+  kova::PackEventHandler(*first, packed);
+  // Through the device text, so that reals and escapes travel too.
+  auto second = Parse(Doc(kova::WriteJson(packed)));
+  // Members the device reports but does not take back.
+  for (EventHandlerRecord* r : {first.get(), second.get()}) {
+    r->sdkRecordChannel = r->sdkAlarmOutChannel = r->tourSplit = 0;
+    r->present[KOVA_EH_TOUR_SPLIT] = 0;
+  }
+  // An empty output set travels as null, which reads back as not given.
+  EXPECT_EQ(0, second->present[KOVA_EH_EX_ALARM_OUT_CHANNELS]);
+  first->present[KOVA_EH_EX_ALARM_OUT_CHANNELS] = 0;
+  const unsigned char* a = reinterpret_cast<const unsigned char*>(first.get());
+  const unsigned char* b = reinterpret_cast<const unsigned char*>(second.get());
+  for (size_t i = 0; i < sizeof *first; ++i) ASSERT_EQ(a[i], b[i]) << "byte " << i;
+  EXPECT_FALSE(packed.isMember("SDK_RecordChannel"));
+  EXPECT_FALSE(packed.isMember("TourSplit"));
+  EXPECT_TRUE(Member(packed, "ExAlarmOutChannels").isNull());
+  EXPECT_TRUE(packed.isMember("ExAlarmOutChannels"));
+}
+
+TEST(EventHandler, ChannelSetsFollowTwoRules) {
+  auto r = Parse(Doc(R"({"RecordChannels": [0, 31, 32, 511, 512, -1],
+                         "TourChannels": [-1, -32, 512, 511], "MatrixChannels": "3",
+                         "SnapshotChannels": "3", "AlarmOutChannels": []})"));
+  EXPECT_EQ(0x80000001u, r->recordChannels[0]);
+  EXPECT_EQ(0x1u, r->recordChannels[1]);
+  EXPECT_EQ(0x80000000u, r->recordChannels[15]);
+  EXPECT_EQ(0x80000000u, r->tourChannels[0]);  // -1 wraps into the first word
+  EXPECT_EQ(0x80000000u, r->tourChannels[15]);
+  EXPECT_EQ(1, r->present[KOVA_EH_MATRIX_CHANNELS]);    // given, not an array
+  EXPECT_EQ(0, r->present[KOVA_EH_SNAPSHOT_CHANNELS]);  // must be an array
+  EXPECT_EQ(
+      "{ \"AlarmOutChannels\" : null, \"AlarmOutEnable\" : false, \"RecordChannels\" : [ 0, 31, "
+      "32, 511 ], \"RecordEnable\" : false, \"TourChannels\" : [ 31, 511 ] }\n",
+      PackedWithoutSchedule(*r));
+}
+
+TEST(EventHandler, AwkwardMembers) {
+  auto r = Parse(Doc(R"({
+      "TimeSection": {"Monday": []},
+      "PtzLink": [["Preset", 0, 3, 0, 0], ["Tour", 1, 2], ["pattern", 1, 2, 3, 4]],
+      "Talkback": {"CallEnable": 1, "Caller": "Phone", "CallProtocol": "cellular"},
+      "AccessControls": [{"Operation": "open"}, {"Operation": "Auto"}, null, {"Operation": 4}],
+      "PSTNAlarmServer": {"Destination": [257, -5, 3.9]},
+      "SnapshotTitle": [{"Text": "T", "Point": [1, 2, 3], "Size": [7, 8], "FrontColor": [1]}],
+      "MailDetail": {"AttachmentType": "audio", "MaxSize": 5},
+      "TourSplit": "Split4", "MatrixEnable": 2, "FlashEnable": 3, "TourEnable": "yes"})"));
+  EXPECT_EQ(0, r->schedule.holidayEnabled);
+  EXPECT_EQ(3, r->ptzLinkCount);
+  EXPECT_EQ(KOVA_PTZ_LINK_PRESET, r->ptzLinks[0].type);
+  EXPECT_EQ(0, r->ptzLinks[1].type);  // three items: the entry stays zero
+  EXPECT_EQ(KOVA_PTZ_LINK_PATTERN, r->ptzLinks[2].type);
+  EXPECT_EQ(0, r->caller);
+  EXPECT_EQ(0, r->callProtocol);
+  EXPECT_EQ(0, r->accessControlOperations[0]);  // compared exactly
+  EXPECT_EQ(KOVA_DOOR_AUTO, r->accessControlOperations[1]);
+  EXPECT_EQ(4, r->accessControlCount);
+  EXPECT_EQ(1, r->destinations[0]);
+  EXPECT_EQ(0, r->destinations[1]);
+  EXPECT_EQ(3, r->destinations[2]);
+  EXPECT_EQ(0, r->snapshotTitles[0].point[0]);  // wrong length: skipped
+  EXPECT_EQ(8.0f, r->snapshotTitles[0].size[1]);
+  EXPECT_EQ(0, r->tourSplit);
+  EXPECT_EQ(1, r->present[KOVA_EH_TOUR_SPLIT]);
+  EXPECT_EQ(2, r->matrixEnable);
+  EXPECT_EQ(1, r->flashEnable);
+  EXPECT_EQ(1, r->tourEnable);
+
+  r->accessControlOperations[2] = 9;  // no name: nothing at its index
+  r->flashEnable = 2;
+  r->present[KOVA_EH_ON_VIDEO_MESSAGE_EN] = 1;
+  r->onVideoMessageEnable = 1;
+  Json::Value out;
+  kova::PackEventHandler(*r, out);
+  EXPECT_EQ("[ \"Preset\", 0, 3, 0, 0 ]\n", kova::WriteJson(Element(Member(out, "PtzLink"), 0)));
+  EXPECT_EQ("[ \"None\", 0, 0, 0, 0 ]\n", kova::WriteJson(Element(Member(out, "PtzLink"), 1)));
+  EXPECT_EQ("{ \"CallEnable\" : true, \"CallProtocol\" : \"Cellular\", \"Caller\" : \"Device\" }\n",
+            kova::WriteJson(Member(out, "Talkback")));
+  EXPECT_EQ(
+      "[ { \"Operation\" : null }, { \"Operation\" : \"Auto\" }, null, { \"Operation\" : "
+      "null } ]\n",
+      kova::WriteJson(Member(out, "AccessControls")));
+  // "audio" left the type at 0.
+  EXPECT_EQ("{ \"AttachmentType\" : \"picture\", \"MaxSize\" : 5, \"MaxTimeLength\" : 0 }\n",
+            kova::WriteJson(Member(out, "MailDetail")));
+  EXPECT_FALSE(kova::ToBool(Member(out, "MatrixEnable")));  // 2 is not 1
+  EXPECT_FALSE(kova::ToBool(Member(out, "FlashEnable")));
+  EXPECT_TRUE(kova::ToBool(Member(out, "OnVideoMessageEn")));
+  EXPECT_EQ(7u, Count(Member(out, "TimeSection")));
+}
+
+TEST(EventHandler, LongArraysAreCutToTheRecord) {
+  std::string channels, links, strings, doors;
+  for (int i = 0; i < 600; ++i) {
+    channels += (i ? "," : "") + std::to_string(600 - i);
+    links += std::string(i ? "," : "") + "[\"Tour\", " + std::to_string(i) + ", 0, 0, 0]";
+    strings += std::string(i ? "," : "") + "\"db" + std::to_string(i) + "\"";
+    doors += std::string(i ? "," : "") + "{\"Operation\": \"Close\"}";
+  }
+  auto r = Parse(Doc("{\"RecordChannels\": [" + channels + "], \"PtzLink\": [" + links +
+                     "], \"DB\": [" + strings + "], \"AccessControls\": [" + doors +
+                     "], \"MonitorTour\": [{\"Channels\": [" + channels +
+                     "]}], \"PSTNAlarmServer\": {\"Destination\": [" + channels + "]}}"));
+  // Only the first 512 items are read: 600 down to 89.
+  EXPECT_EQ(0u, r->recordChannels[0]);
+  EXPECT_EQ(0xFE000000u, r->recordChannels[2]);
+  EXPECT_EQ(256, r->ptzLinkCount);
+  EXPECT_EQ(255, r->ptzLinks[255].values[0]);
+  EXPECT_EQ(64, r->dbCount);
+  EXPECT_EQ(8, r->accessControlCount);
+  EXPECT_EQ(256, r->monitorTours[0].channelCount);
+  EXPECT_EQ(345, r->monitorTours[0].channels[255]);
+  EXPECT_EQ(8, r->destinationCount);
+}
+
+TEST(EventHandler, WithWeekReadsTheSevenDayGridBesideTheRecord) {
+  auto r = Zeroed();
+  std::memset(r.get(), 0x33, sizeof *r);
+  WeekSchedule7x6 week;
+  std::memset(&week, 0x33, sizeof week);
+  ASSERT_TRUE(kova::ParseEventHandlerWithWeek(
+      Doc(R"({"TimeSection": [["1 08:00:00-18:00:00", "bad", "1 123:00:00-01:00:00"], 5,
+                             [], [], [], [], ["0 01:02:03-04:05:06"], ["1 00:00:00-24:00:00"]],
+              "RecordEnable": true})"),
+      r.get(), &week));
+  EXPECT_EQ(18, week.sections[0][0].endHour);
+  EXPECT_EQ(0, week.sections[0][1].enable);
+  EXPECT_EQ(12, week.sections[0][2].beginHour);  // two digits, then stopped
+  EXPECT_EQ(6, week.sections[6][0].endSecond);
+  EXPECT_EQ(1, r->recordEnable);
+  // The linkage block's own copy stops at "bad", keeping what it read.
+  EXPECT_EQ(0, r->schedule.holidayEnabled);
+  EXPECT_EQ(18, r->schedule.sections[0][0].endHour);
+  EXPECT_EQ(0, r->reserved[0]);
+  EXPECT_FALSE(kova::ParseEventHandlerWithWeek(Json::Value(), nullptr, &week));
+  EXPECT_FALSE(kova::ParseEventHandler(Json::Value(), nullptr));
+}
+
+TEST(EventHandler, PackerReadsNoFurtherThanTheRecordWhateverItHolds) {
+  // Every byte 0xFF: all flags set, counts -1, texts without terminators.
+  auto r = Zeroed();
+  std::memset(r.get(), 0xFF, sizeof *r);
+  Json::Value out;
+  kova::PackEventHandler(*r, out);
+  EXPECT_EQ(512u, Count(Member(out, "RecordChannels")));
+  EXPECT_EQ(0u, Count(Member(out, "DB")));
+  EXPECT_EQ(1024u, kova::ToText(Member(out, "JpegSummary")).size());
+  EXPECT_EQ(8u, Count(Member(out, "TimeSection")));
+
+  // Huge counts are honoured only as far as the arrays extend, except the
+  // two that packing leaves uncut, which stop at the end of the record.
+  std::memset(r.get(), 0x7F, sizeof *r);
+  r->ptzLinkCount = r->snapshotTitleCount = r->videoTitleCount = r->monitorTourCount = r->dbCount =
+      r->accessControlCount = r->destinationCount = 0x7FFFFFFF;
+  r->monitorTours[255].channelCount = 0x7FFFFFFF;
+  for (auto& link : r->ptzLinks) link.type = KOVA_PTZ_LINK_PATTERN;
+  out = Json::Value();
+  kova::PackEventHandler(*r, out);
+  EXPECT_EQ(256u, Count(Member(out, "PtzLink")));
+  EXPECT_EQ(256u, Count(Member(out, "SnapshotTitle")));
+  EXPECT_EQ(64u, kova::ToText(Member(Element(Member(out, "VideoTitle"), 255), "Text")).size());
+  EXPECT_EQ(256u, Count(Member(Element(Member(out, "MonitorTour"), 255), "Channels")));
+  EXPECT_EQ(64u, Count(Member(out, "DB")));
+  EXPECT_EQ(sizeof(EventHandlerRecord) - offsetof(EventHandlerRecord, destinations),
+            Count(Member(Member(out, "PSTNAlarmServer"), "Destination")));
+  EXPECT_EQ(260u, kova::ToText(Member(Member(out, "Voice"), "AudioFileName")).size());
+}
+
+TEST(EventHandler, UncutPackCountsReadOnToTheRecordEnd) {
+  auto r = Zeroed();
+  r->pstnAlarmServerPresent = 1;
+  r->destinationCount = 12;
+  for (int i = 0; i < 8; ++i) r->destinations[i] = static_cast<uint8_t>(i + 1);
+  r->present[KOVA_EH_PTZ_LINK] = 1;
+  r->ptzLinkCount = 257;
+  r->ptzLinks[255].type = KOVA_PTZ_LINK_TOUR;
+  r->snapshotTitleCount = KOVA_PTZ_LINK_PRESET;  // read as entry 256's type
+  Json::Value out;
+  kova::PackEventHandler(*r, out);
+  const Json::Value& dest = Member(Member(out, "PSTNAlarmServer"), "Destination");
+  ASSERT_EQ(12u, Count(dest));
+  EXPECT_EQ(8, kova::ToInt32(Element(dest, 7)));
+  const Json::Value& links = Member(out, "PtzLink");
+  ASSERT_EQ(257u, Count(links));
+  EXPECT_EQ("Tour", kova::ToText(Element(Element(links, 255), 0)));
+  EXPECT_EQ("Preset", kova::ToText(Element(Element(links, 256), 0)));
+}
+
+}  // namespace

@@ -1,0 +1,205 @@
+#include "common/fields.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "common/json.h"
+
+namespace kova {
+namespace {
+
+// Sets KOVA_CODEPAGE for one test and puts the previous value back after it.
+class CodePageTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    const char* old = std::getenv("KOVA_CODEPAGE");
+    hadOld_ = old != nullptr;
+    if (hadOld_) old_ = old;
+  }
+  void TearDown() override {
+    if (hadOld_) {
+      setenv("KOVA_CODEPAGE", old_.c_str(), 1);
+    } else {
+      unsetenv("KOVA_CODEPAGE");
+    }
+  }
+  static void Use(const char* codePage) { setenv("KOVA_CODEPAGE", codePage, 1); }
+
+  // Utf8ToAnsi into a buffer of `cap` bytes followed by sentinels.
+  static std::string ToLocal(const std::string& utf8, int32_t cap) {
+    std::vector<char> buf(static_cast<size_t>(cap) + 4, '#');
+    const int32_t n = Utf8ToAnsi(utf8.c_str(), static_cast<int32_t>(utf8.size()), buf.data(), cap);
+    EXPECT_EQ(std::string(4, '#'), std::string(buf.data() + cap, 4)) << "written past capacity";
+    return std::string(buf.data(), static_cast<size_t>(n));
+  }
+  static std::string ToUtf8(const std::string& local, int32_t cap) {
+    std::vector<char> buf(static_cast<size_t>(cap) + 4, '#');
+    const int32_t n = AnsiToUtf8(local.data(), static_cast<int32_t>(local.size()), buf.data(), cap);
+    EXPECT_EQ(std::string(4, '#'), std::string(buf.data() + cap, 4)) << "written past capacity";
+    EXPECT_EQ('\0', buf[static_cast<size_t>(n)]);
+    return std::string(buf.data(), static_cast<size_t>(n));
+  }
+
+ private:
+  bool hadOld_ = false;
+  std::string old_;
+};
+
+const std::string kZhongWen = "\xE4\xB8\xAD\xE6\x96\x87";  // two Chinese characters, UTF-8
+
+TEST(GetJsonString, NumberIsNotTextAndClearsField) {
+  char dst[16];
+  std::memset(dst, 'x', sizeof dst);
+  EXPECT_FALSE(GetJsonString(Json::Value(5), dst, sizeof dst, 1));
+  EXPECT_EQ(std::string(16, '\0'), std::string(dst, 16));
+}
+
+TEST(GetJsonString, LongTextCutToCapacityMinusOne) {
+  char dst[32];
+  std::memset(dst, 'x', sizeof dst);
+  EXPECT_TRUE(GetJsonString(Json::Value(std::string(40, 'a')), dst, sizeof dst, 1));
+  EXPECT_EQ(std::string(31, 'a'), std::string(dst));
+  EXPECT_EQ('\0', dst[31]);
+}
+
+TEST(GetJsonStringIfPresent, MissingMemberLeavesFieldAlone) {
+  char dst[8] = "kept";
+  Json::Value obj(Json::objectValue);
+  GetJsonStringIfPresent(Member(obj, "Name"), dst, sizeof dst);
+  EXPECT_STREQ("kept", dst);
+  GetJsonStringIfPresent(Json::Value(7), dst, sizeof dst);  // present but not text: cleared
+  EXPECT_EQ(std::string(8, '\0'), std::string(dst, 8));
+}
+
+TEST_F(CodePageTest, ChineseArrivesInGbkWhenConvertedAndUnchangedOtherwise) {
+  Use("GBK");
+  char dst[16];
+  ASSERT_TRUE(GetJsonString(Json::Value(kZhongWen), dst, sizeof dst, 1));
+  EXPECT_EQ("\xD6\xD0\xCE\xC4", std::string(dst));
+  ASSERT_TRUE(GetJsonString(Json::Value(kZhongWen), dst, sizeof dst, 0));
+  EXPECT_EQ(kZhongWen, std::string(dst));
+  // Unconverted text is cut by bytes: a character may be split.
+  ASSERT_TRUE(GetJsonString(Json::Value(kZhongWen), dst, 5, 0));
+  EXPECT_EQ(kZhongWen.substr(0, 4), std::string(dst));
+}
+
+TEST_F(CodePageTest, RoundTripsAndThreadCacheFollowsTheCodePage) {
+  struct Case {
+    const char* codePage;
+    std::string utf8;
+    std::string local;
+  };
+  const Case cases[] = {
+      {"GBK", kZhongWen + "abc",
+       "\xD6\xD0\xCE\xC4"
+       "abc"},
+      {"BIG5", kZhongWen, "\xA4\xA4\xA4\xE5"},
+      {"ISO-8859-1", "caf\xC3\xA9", "caf\xE9"},
+      {"CP936", kZhongWen, "\xD6\xD0\xCE\xC4"},
+      {"UTF-8", kZhongWen, kZhongWen},
+  };
+  // One thread, code page changed between conversions: each must be seen.
+  for (const Case& c : cases) {
+    Use(c.codePage);
+    EXPECT_EQ(c.local, ToLocal(c.utf8, 32)) << c.codePage;
+    EXPECT_EQ(c.utf8, ToUtf8(c.local, 32)) << c.codePage;
+    Json::Value v;
+    ASSERT_TRUE(SetJsonString(v, c.local.c_str(), 1));
+    EXPECT_EQ(c.utf8, ToText(v)) << c.codePage;
+  }
+}
+
+TEST_F(CodePageTest, UnsetCodePageInPlainLocaleLeavesTextUnchanged) {
+  unsetenv("KOVA_CODEPAGE");
+  const std::string odd = kZhongWen + "\xC3\xA9";
+  EXPECT_EQ(odd, ToLocal(odd, 32));
+  EXPECT_EQ(odd, ToUtf8(odd, 32));
+}
+
+TEST_F(CodePageTest, UnmappableCharactersBecomeQuestionMarks) {
+  Use("ISO-8859-1");
+  EXPECT_EQ("a?b", ToLocal("a" + kZhongWen.substr(0, 3) + "b", 32));
+  Use("GBK");
+  EXPECT_EQ("x?y", ToLocal("x\xF0\x9F\x98\x80y", 32));  // an emoji has no GBK form
+}
+
+TEST_F(CodePageTest, InvalidUtf8BecomesOneReplacementAndConversionGoesOn) {
+  Use("UTF-8");
+  const std::string fffd = "\xEF\xBF\xBD";
+  EXPECT_EQ("a" + fffd + "b", ToLocal("a\xFF"
+                                      "b",
+                                      32));
+  // A truncated sequence followed by a whole character: one replacement.
+  EXPECT_EQ(fffd + kZhongWen.substr(0, 3), ToLocal("\xE4\xB8" + kZhongWen.substr(0, 3), 32));
+  EXPECT_EQ("a" + fffd, ToLocal("a\xE4\xB8", 32));
+  EXPECT_EQ(fffd + fffd + "z", ToLocal("\xC0\xAF"
+                                       "z",
+                                       32));  // overlong '/': two bad bytes
+  Use("GBK");
+  EXPECT_EQ("a?\xD6\xD0", ToLocal("a\xE4\xB8" + kZhongWen.substr(0, 3), 32));
+  // A byte sequence that is not GBK becomes one U+FFFD on the way back.
+  EXPECT_EQ("a" + fffd + "b", ToUtf8("a\xFF"
+                                     "b",
+                                     32));
+}
+
+TEST_F(CodePageTest, CutAtCapacityWithoutSplittingACharacter) {
+  Use("GBK");
+  EXPECT_EQ("\xD6\xD0", ToLocal(kZhongWen, 3));
+  EXPECT_EQ("\xD6\xD0\xCE\xC4", ToLocal(kZhongWen, 4));
+  // AnsiToUtf8 keeps one byte of its capacity for the terminator.
+  EXPECT_EQ(kZhongWen.substr(0, 3), ToUtf8("\xD6\xD0\xCE\xC4", 6));
+  EXPECT_EQ(kZhongWen, ToUtf8("\xD6\xD0\xCE\xC4", 7));
+  char field[6];
+  ASSERT_TRUE(GetJsonString(Json::Value(kZhongWen + kZhongWen), field, sizeof field, 1));
+  EXPECT_EQ(std::string("\xD6\xD0\xCE\xC4\0\0", 6), std::string(field, 6));
+  Use("UTF-8");
+  EXPECT_EQ(kZhongWen.substr(0, 3), ToLocal(kZhongWen, 5));
+}
+
+TEST_F(CodePageTest, SetJsonStringCutsAtOneAndAHalfTimesTheLocalLength) {
+  Use("ISO-8859-1");
+  Json::Value v;
+  // Four Latin-1 bytes grow to eight UTF-8 bytes; the scratch holds 7 - 1.
+  ASSERT_TRUE(SetJsonString(v, "\xE9\xE9\xE9\xE9", 1));
+  EXPECT_EQ("\xC3\xA9\xC3\xA9\xC3\xA9", ToText(v));
+  ASSERT_TRUE(SetJsonString(v, "", 1));
+  EXPECT_EQ("", ToText(v));
+  Json::Value untouched("old");
+  EXPECT_FALSE(SetJsonString(untouched, nullptr, 1));
+  EXPECT_EQ("old", ToText(untouched));
+}
+
+TEST(Utf8ToAnsi, RefusesBadArguments) {
+  char dst[4];
+  EXPECT_EQ(0, Utf8ToAnsi(nullptr, 1, dst, 4));
+  EXPECT_EQ(0, Utf8ToAnsi("a", 0, dst, 4));
+  EXPECT_EQ(0, Utf8ToAnsi("a", 1, dst, 0));
+  EXPECT_EQ(0, AnsiToUtf8("a", 1, nullptr, 4));
+  EXPECT_EQ(0, AnsiToUtf8("a", -1, dst, 4));
+}
+
+TEST_F(CodePageTest, ThreadsConvertAtOnce) {
+  Use("GBK");
+  std::vector<std::thread> threads;
+  std::vector<int> good(4, 0);
+  for (int t = 0; t < 4; ++t) {
+    threads.emplace_back([t, &good] {
+      for (int i = 0; i < 200; ++i) {
+        char dst[8] = {0};
+        Utf8ToAnsi(kZhongWen.c_str(), 6, dst, 7);
+        good[static_cast<size_t>(t)] += std::string(dst) == "\xD6\xD0\xCE\xC4";
+      }
+    });
+  }
+  for (std::thread& th : threads) th.join();
+  for (int g : good) EXPECT_EQ(200, g);
+}
+
+}  // namespace
+}  // namespace kova

@@ -1,0 +1,223 @@
+#include "common/log.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <set>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "api/dispatch.h"
+#include "common/fields.h"
+#include "common/text_forms.h"
+#include "kova/kova.h"
+
+namespace kova {
+namespace {
+
+std::string ReadAll(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+// Each test runs in a fresh temporary directory (the default log path is
+// relative) and leaves no logger open behind it.
+class LogTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    char tmpl[] = "/tmp/kova_log_XXXXXX";
+    ASSERT_NE(nullptr, mkdtemp(tmpl));
+    dir_ = tmpl;
+    char cwd[4096];
+    ASSERT_NE(nullptr, getcwd(cwd, sizeof cwd));
+    oldCwd_ = cwd;
+    ASSERT_EQ(0, chdir(dir_.c_str()));
+  }
+  void TearDown() override {
+    CloseLogger();
+    EXPECT_EQ(0, chdir(oldCwd_.c_str()));
+    EXPECT_EQ(0, std::system(("rm -rf " + dir_).c_str()));
+  }
+  bool Exists(const std::string& rel) const {
+    return access((dir_ + "/" + rel).c_str(), F_OK) == 0;
+  }
+  std::string OpenAt(const std::string& name, uint32_t sizeLimit = 0, uint32_t kept = 0) {
+    LogSettings s = {};
+    const std::string path = dir_ + "/" + name;
+    std::snprintf(s.path, sizeof s.path, "%s", path.c_str());
+    s.sizeLimit = sizeLimit;
+    s.secondLimit = kept;
+    EXPECT_TRUE(OpenLogger(&s));
+    return path;
+  }
+
+  std::string dir_;
+  std::string oldCwd_;
+};
+
+const std::regex kLine(
+    R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{3}\[ERROR\]\[[0-9a-f]+\] log_test\.cpp:(\d+) )"
+    R"(code\[0x80000015\] t(\d+) n(\d+) at (\d+))");
+
+TEST_F(LogTest, NoLoggerMeansNoOutputAnywhere) {
+  ::testing::internal::CaptureStdout();
+  ::testing::internal::CaptureStderr();
+  RightItem* none = nullptr;
+  EXPECT_EQ(kErrBadParameter, ParseRightItem("1:a:b", 5, none));
+  KOVA_REPORT(kErrMalformedData, "dropped %d", 1);
+  EXPECT_EQ("", ::testing::internal::GetCapturedStdout());
+  EXPECT_EQ("", ::testing::internal::GetCapturedStderr());
+  EXPECT_FALSE(Exists("kovalog"));
+}
+
+TEST_F(LogTest, ThreadsWriteWholeLinesWithTheirOwnPositions) {
+  const std::string path = OpenAt("threads.log");
+  constexpr int kThreads = 6;
+  constexpr int kReports = 300;
+  std::vector<std::thread> threads;
+  for (int t = 0; t < kThreads; ++t) {
+    threads.emplace_back([t] {
+      for (int i = 0; i < kReports; ++i) {
+        // Two report sites: a position must never pair with another
+        // thread's report.
+        if (t % 2 == 0) {
+          KOVA_REPORT(kErrMalformedData, "t%d n%d at %d", t, i, __LINE__);
+        } else {
+          KOVA_REPORT(kErrMalformedData, "t%d n%d at %d", t, i, __LINE__);
+        }
+      }
+    });
+  }
+  for (std::thread& th : threads) th.join();
+  CloseLogger();
+
+  const std::string text = ReadAll(path);
+  std::set<std::pair<int, int>> seen;
+  size_t start = 0;
+  int lines = 0;
+  for (size_t end; (end = text.find("\r\n", start)) != std::string::npos; start = end + 2) {
+    const std::string line = text.substr(start, end - start);
+    std::smatch m;
+    ASSERT_TRUE(std::regex_match(line, m, kLine)) << line;
+    EXPECT_EQ(m[1].str(), m[4].str()) << line;
+    seen.insert({std::stoi(m[2].str()), std::stoi(m[3].str())});
+    ++lines;
+  }
+  EXPECT_EQ(text.size(), start) << "text after the last CR LF";
+  EXPECT_EQ(kThreads * kReports, lines);
+  EXPECT_EQ(static_cast<size_t>(kThreads * kReports), seen.size());
+}
+
+TEST_F(LogTest, RightItemMessagesKeepTheirWording) {
+  const std::string path = OpenAt("items.log");
+  RightItem item = {};
+  ParseRightItem(nullptr, 3, &item);
+  ParseRightItem("12:admin", 8, &item);
+  ParseRightItem("1:a:b:c", 7, &item);
+  const std::string memo = "1:a:" + std::string(40, 'm');
+  ParseRightItem(memo.c_str(), static_cast<int32_t>(memo.size()), &item);
+  const std::string name = "1:" + std::string(40, 'n') + ":";
+  ParseRightItem(name.c_str(), static_cast<int32_t>(name.size()), &item);
+  const std::string id = std::string(40, '1') + ":a:b";
+  ParseRightItem(id.c_str(), static_cast<int32_t>(id.size()), &item);
+  CloseLogger();
+  const std::string text = ReadAll(path);
+  EXPECT_NE(std::string::npos, text.find("code[0x80000007] ParseRightItem: invaild parameter, "
+                                         "input buf = (nil), rItem = 0x"));
+  EXPECT_NE(std::string::npos, text.find("code[0x80000015] ParseRightItem: parse data error!\r\n"));
+  EXPECT_NE(std::string::npos, text.find("ParseRightItem: unkonw item index 2\r\n"));
+  EXPECT_NE(std::string::npos, text.find("ParseRightItem: memo's length is max then 32!\r\n"));
+  EXPECT_NE(std::string::npos, text.find("ParseRightItem: name's length is max then 32!\r\n"));
+  EXPECT_NE(std::string::npos, text.find("ParseRightItem: return id length is max than 32\r\n"));
+  EXPECT_NE(std::string::npos, text.find("] text_forms.cpp:"));
+}
+
+TEST_F(LogTest, DefaultPathAndTheEmptyPathAsymmetry) {
+  LogSettings s = {};
+  // An empty path: the record learns the default, the logger keeps "".
+  EXPECT_FALSE(OpenLogger(&s));
+  EXPECT_STREQ("./kovalog/sdklog.log", s.path);
+  KOVA_REPORT(kErrMalformedData, "lost");
+  CloseLogger();
+  EXPECT_FALSE(Exists("kovalog/sdklog.log"));
+
+  EXPECT_TRUE(OpenLogger(nullptr));
+  KOVA_REPORT(kErrMalformedData, "kept");
+  CloseLogger();
+  EXPECT_NE(std::string::npos, ReadAll("kovalog/sdklog.log").find("kept\r\n"));
+}
+
+TEST_F(LogTest, ReopeningReplacesTheLoggerAndFullFilesMoveAside) {
+  const std::string first = OpenAt("first.log");
+  const std::string path = OpenAt("small.log", 1, 2);  // closes first.log
+  for (int i = 0; i < 60; ++i) KOVA_REPORT(kErrMalformedData, "t0 n%d at %d", i, __LINE__);
+  CloseLogger();
+  EXPECT_EQ("", ReadAll(first));
+  for (const std::string& f : {path, path + ".1", path + ".2"}) {
+    const std::string text = ReadAll(f);
+    EXPECT_FALSE(text.empty()) << f;
+    EXPECT_LE(text.size(), 1024u) << f;
+  }
+  EXPECT_FALSE(Exists("small.log.3"));
+  EXPECT_NE(std::string::npos, ReadAll(path).find(" n59 at "));
+}
+
+TEST_F(LogTest, ConsoleSinkPrintsTheShortForm) {
+  LogSettings s = {};
+  s.sinkKind = 2;
+  ::testing::internal::CaptureStdout();
+  EXPECT_TRUE(OpenLogger(&s));
+  KOVA_REPORT(kErrMalformedData, "to the console");
+  CloseLogger();
+  const std::string out = ::testing::internal::GetCapturedStdout();
+  EXPECT_TRUE(std::regex_match(
+      out, std::regex(R"(\S+ \S+\[ERROR\]\[[0-9a-f]+\]log_test\.cpp:\d+ code\[0x80000015\] )"
+                      R"(to the console\n)")))
+      << out;
+}
+
+TEST_F(LogTest, UnknownCodePageFallsBackToUtf8AndIsReportedOnce) {
+  const std::string path = OpenAt("codepage.log");
+  const char* old = std::getenv("KOVA_CODEPAGE");
+  const std::string saved = old != nullptr ? old : "";
+  setenv("KOVA_CODEPAGE", "NO-SUCH-CHARSET-KOVA", 1);
+  char dst[8] = {0};
+  EXPECT_EQ(3, Utf8ToAnsi("\xE4\xB8\xAD", 3, dst, 7));
+  EXPECT_STREQ("\xE4\xB8\xAD", dst);
+  std::thread([&] { Utf8ToAnsi("abc", 3, dst, 7); }).join();
+  if (old != nullptr) {
+    setenv("KOVA_CODEPAGE", saved.c_str(), 1);
+  } else {
+    unsetenv("KOVA_CODEPAGE");
+  }
+  CloseLogger();
+  const std::string text = ReadAll(path);
+  const size_t at = text.find("NO-SUCH-CHARSET-KOVA");
+  ASSERT_NE(std::string::npos, at);
+  EXPECT_EQ(std::string::npos, text.find("NO-SUCH-CHARSET-KOVA", at + 1));
+}
+
+TEST_F(LogTest, NameNotBuiltYetIsReported) {
+  const char* name = nullptr;
+  for (size_t i = 0; i < kParseNameCount && name == nullptr; ++i) {
+    if (!ParseBuilt(static_cast<int>(i))) name = kParseNames[i].name;
+  }
+  if (name == nullptr) GTEST_SKIP() << "every parse name is built";
+  const std::string path = OpenAt("names.log");
+  char buf[4096];
+  uint32_t ret = 0;
+  EXPECT_EQ(
+      0, KOVA_ParseData(name, R"({"result":true,"params":{"table":{}}})", buf, sizeof buf, &ret));
+  CloseLogger();
+  EXPECT_NE(std::string::npos,
+            ReadAll(path).find("parse of [" + std::string(name) + "] is not built yet\r\n"));
+}
+
+}  // namespace
+}  // namespace kova

@@ -1,0 +1,181 @@
+// Weekly schedules: the lenient grid form, the two-digit single-section form,
+// cuts to the grid and the holiday day.
+#include "common/time_schedule.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "common/json.h"
+#include "common/json_writer.h"
+
+namespace {
+
+using kova::ReadJson;
+
+Json::Value Doc(const char* text) {
+  Json::Value v;
+  EXPECT_TRUE(ReadJson(text, &v)) << text;
+  return v;
+}
+
+bool SameSection(const TimeSectionRecord& r, int e, int bh, int bm, int bs, int eh, int em,
+                 int es) {
+  return r.enable == e && r.beginHour == bh && r.beginMinute == bm && r.beginSecond == bs &&
+         r.endHour == eh && r.endMinute == em && r.endSecond == es;
+}
+
+TEST(TimeSectionGrid, OneDayFillsOneSectionAndLeavesTheRestZero) {
+  WeekSchedule7x6 week;
+  std::memset(&week, 0, sizeof week);
+  int32_t days = -1;
+  ASSERT_TRUE(kova::ParseTimeSectionGrid(Doc(R"([["1 00:00:00-24:00:00"]])"), &week.sections[0][0],
+                                         7, 6, &days));
+  EXPECT_EQ(1, days);
+  EXPECT_TRUE(SameSection(week.sections[0][0], 1, 0, 0, 0, 24, 0, 0));
+  WeekSchedule7x6 zero;
+  std::memset(&zero, 0, sizeof zero);
+  EXPECT_EQ(0, std::memcmp(&week.sections[0][1], &zero.sections[0][1],
+                           sizeof week - sizeof(TimeSectionRecord)));
+}
+
+TEST(TimeSectionGrid, CutsDaysAndSectionsAndSkipsNonArrayDays) {
+  // 9 days, day 1 is not an array, day 2 has 12 sections.
+  std::string text = "[[\"1 01:00:00-02:00:00\"], 5, [";
+  for (int s = 0; s < 12; ++s) text += (s ? ",\"" : "\"") + std::to_string(s) + " 3:0:0-4:0:0\"";
+  text += "], [], [], [], [], [], [\"1 09:00:00-10:00:00\"]]";
+  WeekSchedule7x6 week;
+  std::memset(&week, 0x11, sizeof week);  // a skipped day keeps what it held
+  int32_t days = 0;
+  ASSERT_TRUE(kova::ParseTimeSectionGrid(Doc(text.c_str()), &week.sections[0][0], 7, 6, &days));
+  EXPECT_EQ(7, days);
+  EXPECT_TRUE(SameSection(week.sections[0][0], 1, 1, 0, 0, 2, 0, 0));
+  EXPECT_EQ(0x11111111, week.sections[1][0].enable);
+  EXPECT_TRUE(SameSection(week.sections[2][5], 5, 3, 0, 0, 4, 0, 0));
+  EXPECT_EQ(0x11111111, week.sections[3][0].enable);
+}
+
+TEST(TimeSectionGrid, MalformedSectionStopsTheParseKeepingEarlierRecords) {
+  WeekSchedule7x6 week;
+  std::memset(&week, 0, sizeof week);
+  EXPECT_FALSE(
+      kova::ParseTimeSectionGrid(Doc(R"([["1 8:0:0-9:0:0", "1 00:00:00", "1 10:00:00-11:00:00"]])"),
+                                 &week.sections[0][0], 7, 6, nullptr));
+  EXPECT_TRUE(SameSection(week.sections[0][0], 1, 8, 0, 0, 9, 0, 0));
+  EXPECT_TRUE(SameSection(week.sections[0][1], 1, 0, 0, 0, 0, 0, 0));  // what converted
+  EXPECT_EQ(0, week.sections[0][2].enable);
+
+  EXPECT_FALSE(kova::ParseTimeSectionGrid(Doc("[]"), &week.sections[0][0], 7, 6, nullptr));
+  EXPECT_FALSE(kova::ParseTimeSectionGrid(Doc("{}"), &week.sections[0][0], 7, 6, nullptr));
+  EXPECT_FALSE(kova::ParseTimeSectionGrid(Doc("[[]]"), nullptr, 7, 6, nullptr));
+  EXPECT_FALSE(kova::ParseTimeSectionGrid(Doc("[[]]"), &week.sections[0][0], 0, 6, nullptr));
+  // A number where a string belongs reads as empty text.
+  EXPECT_FALSE(kova::ParseTimeSectionGrid(Doc("[[1]]"), &week.sections[0][0], 7, 6, nullptr));
+}
+
+TEST(TimeSectionGrid, NoRangeChecksAndWrittenFormPadsToTwoDigits) {
+  TimeSectionRecord r{};
+  ASSERT_TRUE(
+      kova::ParseTimeSectionGrid(Doc(R"([[" 7 25:61:99-  -1:+5:123"]])"), &r, 1, 1, nullptr));
+  EXPECT_TRUE(SameSection(r, 7, 25, 61, 99, -1, 5, 123));
+  Json::Value out;
+  ASSERT_TRUE(kova::PackTimeSectionGrid(out, &r, 1, 1));
+  EXPECT_EQ("[ [ \"7 25:61:99--1:05:123\" ] ]\n", kova::WriteJson(out));
+
+  r = TimeSectionRecord{1, 8, 0, 0, 9, 0, 0};
+  ASSERT_TRUE(kova::PackTimeSection(out, r));
+  EXPECT_EQ("1 08:00:00-09:00:00", kova::ToText(out));
+}
+
+TEST(TimeSectionGrid, ZeroGridPacksEverySection) {
+  WeekSchedule7x10 grid;
+  std::memset(&grid, 0, sizeof grid);
+  Json::Value out;
+  ASSERT_TRUE(kova::PackTimeSectionGrid(out, &grid.sections[0][0], 7, 10));
+  ASSERT_EQ(7u, kova::Count(out));
+  for (uint32_t d = 0; d < 7; ++d) {
+    ASSERT_EQ(10u, kova::Count(kova::Element(out, d)));
+    for (uint32_t s = 0; s < 10; ++s) {
+      EXPECT_EQ("0 00:00:00-00:00:00", kova::ToText(kova::Element(kova::Element(out, d), s)));
+    }
+  }
+  EXPECT_FALSE(kova::PackTimeSectionGrid(out, nullptr, 7, 10));
+  EXPECT_FALSE(kova::PackTimeSectionGrid(out, &grid.sections[0][0], 7, 0));
+}
+
+TEST(TimeSection, SingleSectionFormTakesTwoDigitsPerTimeField) {
+  TimeSectionRecord r{};
+  EXPECT_TRUE(kova::ParseTimeSection(Json::Value("1 8:30:00-17:45:00"), &r));
+  EXPECT_TRUE(SameSection(r, 1, 8, 30, 0, 17, 45, 0));
+  // "123" takes two digits, leaving "3" where ':' belongs.
+  r = TimeSectionRecord{};
+  EXPECT_FALSE(kova::ParseTimeSection(Json::Value("1 123:00:00-01:00:00"), &r));
+  EXPECT_EQ(12, r.beginHour);
+  EXPECT_FALSE(kova::ParseTimeSection(Json::Value(""), &r));
+  EXPECT_FALSE(kova::ParseTimeSection(Json::Value(5), &r));
+  EXPECT_FALSE(kova::ParseTimeSection(Json::Value("1 00:00:00"), &r));
+}
+
+TEST(TimeSection, SizedSectionPacksOnlyWithItsOwnSize) {
+  SizedTimeSection sized{28, 1, 0, 0, 0, 24, 0, 0};
+  Json::Value out("untouched");
+  EXPECT_FALSE(kova::PackSizedTimeSection(out, sized));
+  EXPECT_EQ("untouched", kova::ToText(out));
+  sized.size = 32;
+  EXPECT_TRUE(kova::PackSizedTimeSection(out, sized));
+  EXPECT_EQ("1 00:00:00-24:00:00", kova::ToText(out));
+
+  SizedTimeSection in{7, 0, 0, 0, 0, 0, 0, 0};
+  EXPECT_TRUE(kova::ParseSizedTimeSection(Json::Value("0 08:30:00-17:45:00"), &in));
+  EXPECT_EQ(7u, in.size);  // neither checked nor changed
+  EXPECT_EQ(17, in.endHour);
+  EXPECT_EQ(45, in.endMinute);
+}
+
+std::string Days(int n) {
+  std::string text = "[";
+  for (int d = 0; d < n; ++d) {
+    text += (d ? ",[\"" : "[\"") + std::to_string(d + 1) + " 00:00:00-24:00:00\"]";
+  }
+  return text + "]";
+}
+
+TEST(HolidaySchedule, NeedsTheWeekAndFlagsTheEighthDay) {
+  HolidaySchedule h;
+  std::memset(&h, 0x5A, sizeof h);
+  EXPECT_FALSE(kova::ParseHolidaySchedule(Doc(Days(6).c_str()), &h));
+  EXPECT_EQ(0, h.holidayEnabled);
+  EXPECT_EQ(1, h.sections[0][0].enable);  // zeroed first, then read
+  EXPECT_TRUE(kova::ParseHolidaySchedule(Doc(Days(7).c_str()), &h));
+  EXPECT_EQ(0, h.holidayEnabled);
+  EXPECT_EQ(0, h.sections[7][0].enable);
+  EXPECT_TRUE(kova::ParseHolidaySchedule(Doc(Days(8).c_str()), &h));
+  EXPECT_EQ(1, h.holidayEnabled);
+  EXPECT_EQ(8, h.sections[7][0].enable);
+  EXPECT_TRUE(kova::ParseHolidaySchedule(Doc(Days(9).c_str()), &h));
+  EXPECT_EQ(1, h.holidayEnabled);
+
+  Json::Value out;
+  ASSERT_TRUE(kova::PackHolidaySchedule(out, h));
+  EXPECT_EQ(8u, kova::Count(out));
+  EXPECT_EQ("8 00:00:00-24:00:00", kova::ToText(kova::Element(kova::Element(out, 7), 0)));
+  h.holidayEnabled = 0;
+  out = Json::Value();
+  ASSERT_TRUE(kova::PackHolidaySchedule(out, h));
+  EXPECT_EQ(7u, kova::Count(out));
+  EXPECT_EQ(6u, kova::Count(kova::Element(out, 6)));
+}
+
+TEST(DaySections, MalformedTextIsNotAnError) {
+  TimeSectionRecord day[3] = {};
+  EXPECT_TRUE(kova::ParseDaySections(
+      Doc(R"(["1 8:0:0-9:0:0", "2 10:30", "3 1:0:0-2:0:0", "4 3:0:0-4:0:0"])"), day, 3));
+  EXPECT_TRUE(SameSection(day[0], 1, 8, 0, 0, 9, 0, 0));
+  EXPECT_TRUE(SameSection(day[1], 2, 10, 30, 0, 0, 0, 0));
+  EXPECT_TRUE(SameSection(day[2], 3, 1, 0, 0, 2, 0, 0));
+  EXPECT_TRUE(kova::ParseDaySections(Doc("[]"), day, 3));
+  EXPECT_FALSE(kova::ParseDaySections(Doc("[]"), nullptr, 3));
+  EXPECT_FALSE(kova::ParseDaySections(Doc("[]"), day, 0));
+}
+
+}  // namespace
