@@ -26,14 +26,14 @@ typedef struct ABLockGroup {
 // and back; a field filled to its capacity without a terminator is read up
 // to its capacity on pack.
 typedef struct AccessGeneralRecord {
-  char openDoorSound[256];    // "Sound"."OpenDoor": audio file played on unlock
-  char closeDoorSound[256];   // "Sound"."CloseDoor"
-  char inUsedSound[256];      // "Sound"."InUsed": card accepted
-  char notInUsedSound[256];   // "Sound"."NotInUsed": card refused
-  char notClosedSound[256];   // "Sound"."NotClosed": door left open
-  char waitingSound[256];     // "Sound"."Waiting"
-  int32_t unlockReloadInterval;  // "UnlockReloadInterval", ms before the next unlock is accepted
-  int32_t unlockHoldInterval;    // "UnlockHoldInterval", ms the lock stays open
+  char openDoorSound[256];         // "Sound"."OpenDoor": audio file played on unlock
+  char closeDoorSound[256];        // "Sound"."CloseDoor"
+  char inUsedSound[256];           // "Sound"."InUsed": card accepted
+  char notInUsedSound[256];        // "Sound"."NotInUsed": card refused
+  char notClosedSound[256];        // "Sound"."NotClosed": door left open
+  char waitingSound[256];          // "Sound"."Waiting"
+  int32_t unlockReloadInterval;    // "UnlockReloadInterval", ms before the next unlock is accepted
+  int32_t unlockHoldInterval;      // "UnlockHoldInterval", ms the lock stays open
   uint8_t projectPasswordPresent;  // 1 when "ProjectPassword" was given; pack writes it only then
   uint8_t accessPropertyPresent;   // 1 when "AccessProperty" was given; pack writes it only then
   uint8_t abLockPresent;           // 1 when "ABLock" was given; pack writes it only then

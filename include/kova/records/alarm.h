@@ -97,20 +97,20 @@ enum {
 // and values outside 1..14 pack no "DefenceAreaType".
 enum {
   KOVA_DEFENCE_AREA_UNKNOWN = 0,
-  KOVA_DEFENCE_AREA_INTIME = 1,           // "Intime"
-  KOVA_DEFENCE_AREA_DELAY = 2,            // "Delay"
-  KOVA_DEFENCE_AREA_FULLDAY = 3,          // "Fullday"
-  KOVA_DEFENCE_AREA_FOLLOW = 4,           // "Follow"
-  KOVA_DEFENCE_AREA_MEDICAL = 5,          // "Medical"
-  KOVA_DEFENCE_AREA_PANIC = 6,            // "Panic"
-  KOVA_DEFENCE_AREA_FIRE = 7,             // "Fire"
-  KOVA_DEFENCE_AREA_FULLDAY_SOUND = 8,    // "FulldaySound"
-  KOVA_DEFENCE_AREA_FULLDAY_SILENT = 9,   // "FulldaySlient"
-  KOVA_DEFENCE_AREA_ENTRANCE1 = 10,       // "Entrance1"
-  KOVA_DEFENCE_AREA_ENTRANCE2 = 11,       // "Entrance2"
-  KOVA_DEFENCE_AREA_INSIDE = 12,          // "Inside"
-  KOVA_DEFENCE_AREA_OUTSIDE = 13,         // "Outside"
-  KOVA_DEFENCE_AREA_PEOPLE_DETECT = 14,   // "PeopleDetect"
+  KOVA_DEFENCE_AREA_INTIME = 1,          // "Intime"
+  KOVA_DEFENCE_AREA_DELAY = 2,           // "Delay"
+  KOVA_DEFENCE_AREA_FULLDAY = 3,         // "Fullday"
+  KOVA_DEFENCE_AREA_FOLLOW = 4,          // "Follow"
+  KOVA_DEFENCE_AREA_MEDICAL = 5,         // "Medical"
+  KOVA_DEFENCE_AREA_PANIC = 6,           // "Panic"
+  KOVA_DEFENCE_AREA_FIRE = 7,            // "Fire"
+  KOVA_DEFENCE_AREA_FULLDAY_SOUND = 8,   // "FulldaySound"
+  KOVA_DEFENCE_AREA_FULLDAY_SILENT = 9,  // "FulldaySlient"
+  KOVA_DEFENCE_AREA_ENTRANCE1 = 10,      // "Entrance1"
+  KOVA_DEFENCE_AREA_ENTRANCE2 = 11,      // "Entrance2"
+  KOVA_DEFENCE_AREA_INSIDE = 12,         // "Inside"
+  KOVA_DEFENCE_AREA_OUTSIDE = 13,        // "Outside"
+  KOVA_DEFENCE_AREA_PEOPLE_DETECT = 14,  // "PeopleDetect"
 };
 
 // "Alarm": one local alarm input.
@@ -120,30 +120,30 @@ typedef struct AlarmInRecord {
   char name[64];       // "Name", local code page
   int32_t sensorType;  // "SensorType", KOVA_SENSOR_*
   EventHandlerRecord eventHandler;  // "EventHandler"
-  WeekSchedule week;   // "EventHandler"."TimeSection", first 7 days x 6 sections
-  int32_t idPresent;   // 1 when "ID" was given; pack writes "ID" only then
-  char id[128];        // "ID", local code page
-  int32_t pole;        // "Pole" (parse only)
-  int32_t senseMethod;      // "SenseMethod", KOVA_SENSE_*
-  int32_t enableControl;    // "EnableControl", KOVA_ENABLE_CONTROL_*
-  int32_t disableDelay;     // "DisableDelay", seconds
-  int32_t defenceAreaType;  // "DefenceAreaType", KOVA_DEFENCE_AREA_*
-  int32_t enableDelay;      // "EnableDelay", seconds
-  int32_t slot;             // "Slot"; -1 when absent, and -1 packs no "Slot"
-  int32_t level1;           // "Level1"; -1 when absent, and -1 packs no "Level1"
-  uint8_t level2Present;    // 1 when "Level2" was given; pack writes "Level2" only then
-  int32_t level2;           // "Level2"; -1 when absent
+  WeekSchedule week;                // "EventHandler"."TimeSection", first 7 days x 6 sections
+  int32_t idPresent;                // 1 when "ID" was given; pack writes "ID" only then
+  char id[128];                     // "ID", local code page
+  int32_t pole;                     // "Pole" (parse only)
+  int32_t senseMethod;              // "SenseMethod", KOVA_SENSE_*
+  int32_t enableControl;            // "EnableControl", KOVA_ENABLE_CONTROL_*
+  int32_t disableDelay;             // "DisableDelay", seconds
+  int32_t defenceAreaType;          // "DefenceAreaType", KOVA_DEFENCE_AREA_*
+  int32_t enableDelay;              // "EnableDelay", seconds
+  int32_t slot;                     // "Slot"; -1 when absent, and -1 packs no "Slot"
+  int32_t level1;                   // "Level1"; -1 when absent, and -1 packs no "Level1"
+  uint8_t level2Present;            // 1 when "Level2" was given; pack writes "Level2" only then
+  int32_t level2;                   // "Level2"; -1 when absent
 } AlarmInRecord;
 
 // "NetAlarm": one network alarm input. A response whose "table" is null
 // fails.
 typedef struct NetAlarmRecord {
-  int32_t channel;     // not filled by the parser, not packed
-  int32_t enable;      // "Enable", 0 or 1
-  char name[64];       // "Name", local code page
-  int32_t sensorType;  // "SensorType", KOVA_SENSOR_*
+  int32_t channel;                  // not filled by the parser, not packed
+  int32_t enable;                   // "Enable", 0 or 1
+  char name[64];                    // "Name", local code page
+  int32_t sensorType;               // "SensorType", KOVA_SENSOR_*
   EventHandlerRecord eventHandler;  // "EventHandler"
-  WeekSchedule week;   // "EventHandler"."TimeSection", first 7 days x 6 sections
+  WeekSchedule week;                // "EventHandler"."TimeSection", first 7 days x 6 sections
 } NetAlarmRecord;
 
 // Motion detection regions are grids of one byte per cell (0 or 1), row
@@ -187,13 +187,13 @@ typedef struct MotionDetectRecord {
   // (at most 32) when `rows` is above 0; "Row" and "Col" are not packed.
   uint8_t region[32][32];
   EventHandlerRecord eventHandler;  // "EventHandler"
-  WeekSchedule week;        // "EventHandler"."TimeSection", first 7 days x 6 sections
-  int32_t parsed;           // 1 once the parser read the device's text
-  int32_t levelPresent;     // 1 when "Level" was given; pack writes it only then
-  int32_t volumeRatioPresent;  // 1 when "VolumeRatio" was given; pack writes it only then
-  int32_t volumeRatio;      // "VolumeRatio"
-  int32_t subRatioPresent;  // 1 when "SubRatio" was given; pack writes it only then
-  int32_t subRatio;         // "SubRatio"
+  WeekSchedule week;                // "EventHandler"."TimeSection", first 7 days x 6 sections
+  int32_t parsed;                   // 1 once the parser read the device's text
+  int32_t levelPresent;             // 1 when "Level" was given; pack writes it only then
+  int32_t volumeRatioPresent;       // 1 when "VolumeRatio" was given; pack writes it only then
+  int32_t volumeRatio;              // "VolumeRatio"
+  int32_t subRatioPresent;          // 1 when "SubRatio" was given; pack writes it only then
+  int32_t subRatio;                 // "SubRatio"
   // "MotionDetectWindow" (at most 10 entries). Entries given with "Window"
   // fill `windows`, entries given with "Region" fill `detectWindows`; each
   // count is the number of entries read, set once one entry has that form.
@@ -209,26 +209,26 @@ typedef struct MotionDetectRecord {
 
 // "LossDetect": video loss of one channel.
 typedef struct LossDetectRecord {
-  int32_t channel;  // not filled by the parser, not packed
-  int32_t enable;   // "Enable", 0 or 1
+  int32_t channel;                  // not filled by the parser, not packed
+  int32_t enable;                   // "Enable", 0 or 1
   EventHandlerRecord eventHandler;  // "EventHandler"
-  WeekSchedule week;  // "EventHandler"."TimeSection", first 7 days x 6 sections
+  WeekSchedule week;                // "EventHandler"."TimeSection", first 7 days x 6 sections
 } LossDetectRecord;
 
 // "BlindDetect": camera masking (blind) detection of one channel.
 typedef struct BlindDetectRecord {
-  int32_t channel;  // not filled by the parser, not packed
-  int32_t enable;   // "Enable", 0 or 1
-  int32_t level;    // "Level", the sensitivity
+  int32_t channel;                  // not filled by the parser, not packed
+  int32_t enable;                   // "Enable", 0 or 1
+  int32_t level;                    // "Level", the sensitivity
   EventHandlerRecord eventHandler;  // "EventHandler"
-  WeekSchedule week;  // "EventHandler"."TimeSection", first 7 days x 6 sections
+  WeekSchedule week;                // "EventHandler"."TimeSection", first 7 days x 6 sections
 } BlindDetectRecord;
 
 // "StorageNotExist", "StorageFailure", "NetAbort", "IPConflict": system
 // events. The linkage block keeps its own schedule ("TimeSection" with the
 // holiday); there is no separate week grid.
 typedef struct SystemEventRecord {
-  int32_t enable;  // "Enable", 0 or 1
+  int32_t enable;                   // "Enable", 0 or 1
   EventHandlerRecord eventHandler;  // "EventHandler"
 } SystemEventRecord;
 
@@ -259,27 +259,27 @@ typedef struct StorageLowSpaceRecord {
 
 // "TemperatureAlarm": one temperature sensor.
 typedef struct TemperatureAlarmRecord {
-  uint32_t size;           // the record size the caller uses; set by the caller
-  int32_t enable;          // "Enable", 0 or 1
-  char name[64];           // "Name", local code page
-  int32_t limitsPresent;   // 1 when "NormalTemperature" was given; pack writes it only then
-  uint32_t reserved;       // never read or written
-  double lowerLimit;       // "NormalTemperature"[0], degrees Celsius
-  double upperLimit;       // "NormalTemperature"[1], degrees Celsius
+  uint32_t size;          // the record size the caller uses; set by the caller
+  int32_t enable;         // "Enable", 0 or 1
+  char name[64];          // "Name", local code page
+  int32_t limitsPresent;  // 1 when "NormalTemperature" was given; pack writes it only then
+  uint32_t reserved;      // never read or written
+  double lowerLimit;      // "NormalTemperature"[0], degrees Celsius
+  double upperLimit;      // "NormalTemperature"[1], degrees Celsius
   EventHandlerRecord eventHandler;  // "EventHandler"
-  WeekSchedule week;       // "EventHandler"."TimeSection", first 7 days x 6 sections
+  WeekSchedule week;                // "EventHandler"."TimeSection", first 7 days x 6 sections
 } TemperatureAlarmRecord;
 
 // "FanSpeedAlarm": one fan.
 typedef struct FanSpeedAlarmRecord {
-  uint32_t size;          // the record size the caller uses; set by the caller
-  int32_t enable;         // "Enable", 0 or 1
-  char name[64];          // "Name", local code page
-  int32_t limitsPresent;  // 1 when "NormalSpeed" was given; pack writes it only then
-  int32_t lowerLimit;     // "NormalSpeed"[0], revolutions per minute
-  int32_t upperLimit;     // "NormalSpeed"[1], revolutions per minute
+  uint32_t size;                    // the record size the caller uses; set by the caller
+  int32_t enable;                   // "Enable", 0 or 1
+  char name[64];                    // "Name", local code page
+  int32_t limitsPresent;            // 1 when "NormalSpeed" was given; pack writes it only then
+  int32_t lowerLimit;               // "NormalSpeed"[0], revolutions per minute
+  int32_t upperLimit;               // "NormalSpeed"[1], revolutions per minute
   EventHandlerRecord eventHandler;  // "EventHandler"
-  WeekSchedule week;      // "EventHandler"."TimeSection", first 7 days x 6 sections
+  WeekSchedule week;                // "EventHandler"."TimeSection", first 7 days x 6 sections
 } FanSpeedAlarmRecord;
 
 #ifdef __cplusplus

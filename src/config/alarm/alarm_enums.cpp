@@ -8,10 +8,10 @@ namespace kova {
 namespace {
 
 const char* const kSenseMethods[] = {
-    "DoorMagnetism", "PassiveInfrared", "GasSensor",   "SmokingSensor",    "WaterSensor",
-    "ActiveInfrared", "GlassSensor",    "EmergencySwitch", "ShockSensor",  "DoubleMethod",
-    "ThreeMethod",   "TempSensor",      "HumiditySensor", "WindSensor",    "CallButton",
-    "GasPressure",   "GasConcentration", "GasFlow",       "Oil",           "MileageSensor",
+    "DoorMagnetism",  "PassiveInfrared",  "GasSensor",       "SmokingSensor", "WaterSensor",
+    "ActiveInfrared", "GlassSensor",      "EmergencySwitch", "ShockSensor",   "DoubleMethod",
+    "ThreeMethod",    "TempSensor",       "HumiditySensor",  "WindSensor",    "CallButton",
+    "GasPressure",    "GasConcentration", "GasFlow",         "Oil",           "MileageSensor",
     "OtherSensor",
 };
 

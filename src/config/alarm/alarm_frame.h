@@ -23,9 +23,9 @@ namespace kova {
 
 // How a member treats the response envelope.
 enum class TableRule : uint8_t {
-  kReadNull,         // "result" not looked at; a null "table" reads as an empty table
-  kFailOnNull,       // "result" not looked at; a null "table" fails
-  kResultZeroOnNull, // "result" must be true; a null "table" succeeds with an all-zero record
+  kReadNull,          // "result" not looked at; a null "table" reads as an empty table
+  kFailOnNull,        // "result" not looked at; a null "table" fails
+  kResultZeroOnNull,  // "result" must be true; a null "table" succeeds with an all-zero record
 };
 
 // A zeroed record on the heap, or null when memory is short.

@@ -60,13 +60,19 @@ uint32_t ReadChannelGrid(const Json::Value& rows, uint8_t (*region)[32]) {
   return n;
 }
 
+// The integer of one grid row of `cells` cells: cell c is bit c, or bit
+// cells - 1 - c when the most significant bit comes first.
+uint32_t RowBits(const uint8_t* row, uint32_t cells, bool mostSignificantFirst) {
+  uint32_t bits = 0;
+  for (uint32_t c = 0; c < cells; ++c) {
+    if (row[c] != 0) bits |= 1u << (mostSignificantFirst ? cells - 1 - c : c);
+  }
+  return bits;
+}
+
 void WriteChannelGrid(const uint8_t (*region)[32], uint32_t n, Json::Value& rows) {
   rows = Json::Value(Json::arrayValue);
-  for (uint32_t y = 0; y < n; ++y) {
-    uint32_t bits = 0;
-    for (uint32_t c = 0; c < 32; ++c) bits |= (region[y][c] != 0 ? 1u : 0u) << c;
-    SetElement(rows, y) = Json::UInt(bits);
-  }
+  for (uint32_t y = 0; y < n; ++y) SetElement(rows, y) = Json::UInt(RowBits(region[y], 32, false));
 }
 
 // Window grid: cell c of a row is bit 21 - c, 22 cells.
@@ -84,11 +90,7 @@ uint32_t ReadWindowGrid(const Json::Value& rows, uint8_t (*region)[32]) {
 void WriteWindowGrid(const uint8_t (*region)[32], uint32_t n, Json::Value& rows) {
   rows = Json::Value(Json::arrayValue);
   for (uint32_t y = 0; y < n; ++y) {
-    uint32_t bits = 0;
-    for (uint32_t c = 0; c < kWindowCells; ++c) {
-      bits |= (region[y][c] != 0 ? 1u : 0u) << (kWindowCells - 1 - c);
-    }
-    SetElement(rows, y) = Json::UInt(bits);
+    SetElement(rows, y) = Json::UInt(RowBits(region[y], kWindowCells, true));
   }
 }
 

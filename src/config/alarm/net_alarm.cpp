@@ -30,8 +30,8 @@ void Write(const NetAlarmRecord& r, Json::Value& table) {
 
 int ParseNetAlarm(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
   // Unlike the other alarm sources, a network input without a table fails.
-  return ParseAlarmRecord<NetAlarmRecord>(jsonText, outBuf, outLen, retLen,
-                                          TableRule::kFailOnNull, Fill);
+  return ParseAlarmRecord<NetAlarmRecord>(jsonText, outBuf, outLen, retLen, TableRule::kFailOnNull,
+                                          Fill);
 }
 
 int PackNetAlarm(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {

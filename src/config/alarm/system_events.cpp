@@ -36,8 +36,7 @@ void Write(const Rec& r, Json::Value& table) {
 }  // namespace
 
 int ParseSystemEvent(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseAlarmRecord<SystemEventRecord>(jsonText, outBuf, outLen, retLen,
-                                             TableRule::kReadNull,
+  return ParseAlarmRecord<SystemEventRecord>(jsonText, outBuf, outLen, retLen, TableRule::kReadNull,
                                              Fill<SystemEventRecord, 1, kEventFields>);
 }
 
@@ -47,9 +46,9 @@ int PackSystemEvent(const void* inBuf, uint32_t inLen, char* outJson, uint32_t o
 }
 
 int ParseStorageLowSpace(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseAlarmRecord<StorageLowSpaceRecord>(
-      jsonText, outBuf, outLen, retLen, TableRule::kReadNull,
-      Fill<StorageLowSpaceRecord, 2, kLowSpaceFields>);
+  return ParseAlarmRecord<StorageLowSpaceRecord>(jsonText, outBuf, outLen, retLen,
+                                                 TableRule::kReadNull,
+                                                 Fill<StorageLowSpaceRecord, 2, kLowSpaceFields>);
 }
 
 int PackStorageLowSpace(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {

@@ -33,8 +33,7 @@ void Write(const Rec& r, Json::Value& table) {
 }  // namespace
 
 int ParseLossDetect(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseAlarmRecord<LossDetectRecord>(jsonText, outBuf, outLen, retLen,
-                                            TableRule::kReadNull,
+  return ParseAlarmRecord<LossDetectRecord>(jsonText, outBuf, outLen, retLen, TableRule::kReadNull,
                                             Fill<LossDetectRecord, 1, kLossFields>);
 }
 
@@ -44,8 +43,7 @@ int PackLossDetect(const void* inBuf, uint32_t inLen, char* outJson, uint32_t ou
 }
 
 int ParseBlindDetect(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseAlarmRecord<BlindDetectRecord>(jsonText, outBuf, outLen, retLen,
-                                             TableRule::kReadNull,
+  return ParseAlarmRecord<BlindDetectRecord>(jsonText, outBuf, outLen, retLen, TableRule::kReadNull,
                                              Fill<BlindDetectRecord, 2, kBlindFields>);
 }
 

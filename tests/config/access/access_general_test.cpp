@@ -42,14 +42,13 @@ TEST(AccessControlGeneral, DeviceResponseReadsAndPacksBackExactly) {
   EXPECT_EQ(3, r.abLockGroups[1].doors[1]);
 
   const std::string packed = Pack(kName, r);
-  EXPECT_EQ(
-      R"({ "ABLock" : { "Doors" : [ [ 0, 1 ], [ 2, 3 ] ], "Enable" : false }, )"
-      R"("AccessProperty" : "bidirect", "ProjectPassword" : "123456", "Sound" : { )"
-      R"("CloseDoor" : "", "InUsed" : "Welcome.wav", "NotClosed" : "DoorNotClosed.wav", )"
-      R"("NotInUsed" : "InvalidCard.wav", "OpenDoor" : "DoorOpen.wav", "Waiting" : "" }, )"
-      R"("UnlockHoldInterval" : 2000, "UnlockReloadInterval" : 1000 })"
-      "\n",
-      packed);
+  EXPECT_EQ(R"({ "ABLock" : { "Doors" : [ [ 0, 1 ], [ 2, 3 ] ], "Enable" : false }, )"
+            R"("AccessProperty" : "bidirect", "ProjectPassword" : "123456", "Sound" : { )"
+            R"("CloseDoor" : "", "InUsed" : "Welcome.wav", "NotClosed" : "DoorNotClosed.wav", )"
+            R"("NotInUsed" : "InvalidCard.wav", "OpenDoor" : "DoorOpen.wav", "Waiting" : "" }, )"
+            R"("UnlockHoldInterval" : 2000, "UnlockReloadInterval" : 1000 })"
+            "\n",
+            packed);
   AccessGeneralRecord again{};
   ASSERT_EQ(1, Parse(Doc(packed), &again, &ret));
   EXPECT_EQ(0, std::memcmp(&r, &again, sizeof r));
@@ -111,10 +110,10 @@ TEST(AccessControlGeneral, EnvelopeAndBufferRules) {
   AccessGeneralRecord z{};
   const std::string text = Pack(kName, z);
   std::vector<char> out(text.size() + 1);
-  EXPECT_EQ(0, KOVA_PacketData(kName, &z, sizeof z, out.data(),
-                               static_cast<uint32_t>(text.size())));
-  EXPECT_EQ(1, KOVA_PacketData(kName, &z, sizeof z, out.data(),
-                               static_cast<uint32_t>(text.size() + 1)));
+  EXPECT_EQ(0,
+            KOVA_PacketData(kName, &z, sizeof z, out.data(), static_cast<uint32_t>(text.size())));
+  EXPECT_EQ(
+      1, KOVA_PacketData(kName, &z, sizeof z, out.data(), static_cast<uint32_t>(text.size() + 1)));
   EXPECT_EQ(text, out.data());
 }
 

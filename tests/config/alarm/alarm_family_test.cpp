@@ -83,17 +83,21 @@ TEST(AlarmFamily, SmallMembersExactText) {
       {"StorageLowSpace", sizeof(StorageLowSpaceRecord),
        R"({"Enable":true,"LowerLimit":15,"EventHandler":)", R"({ "Enable" : true, )"},
   };
-  const std::string tails[] = {
-      " }\n", R"(, "Level" : 6 })" "\n", R"(, "Name" : "Gate", "SensorType" : "NC" })" "\n",
-      " }\n", R"(, "LowerLimit" : 15 })" "\n"};
+  const std::string tails[] = {" }\n",
+                               R"(, "Level" : 6 })"
+                               "\n",
+                               R"(, "Name" : "Gate", "SensorType" : "NC" })"
+                               "\n",
+                               " }\n",
+                               R"(, "LowerLimit" : 15 })"
+                               "\n"};
   int i = 0;
   for (const Case& c : cases) {
     int rc = 0;
     const Member m{c.name, c.size};
     const std::vector<unsigned char> r = Parse(m, Doc(c.table + kHandlerJson + "}"), &rc);
     ASSERT_EQ(1, rc) << c.name;
-    EXPECT_EQ(c.packed + HandlerText() + tails[i++], PackBytes(c.name, r.data(), c.size))
-        << c.name;
+    EXPECT_EQ(c.packed + HandlerText() + tails[i++], PackBytes(c.name, r.data(), c.size)) << c.name;
   }
 }
 

@@ -46,9 +46,10 @@ TEST(Alarm, DeviceResponseReadsAndPacksBack) {
   // The input's index and "Pole" are never packed.
   EXPECT_EQ(std::string::npos, packed.find("channel"));
   EXPECT_EQ(std::string::npos, packed.find("Pole"));
-  EXPECT_EQ(0u, packed.find(R"({ "DefenceAreaType" : "Delay", "DisableDelay" : 0, )"
-                            R"("Enable" : true, "EnableControl" : "Normal", "EnableDelay" : 30, )"
-                            R"("EventHandler" : { "AlarmBellEnable" : true, "AlarmBellLatch" : 30, )"));
+  EXPECT_EQ(0u,
+            packed.find(R"({ "DefenceAreaType" : "Delay", "DisableDelay" : 0, )"
+                        R"("Enable" : true, "EnableControl" : "Normal", "EnableDelay" : 30, )"
+                        R"("EventHandler" : { "AlarmBellEnable" : true, "AlarmBellLatch" : 30, )"));
   EXPECT_NE(std::string::npos,
             packed.find(R"( }, "ID" : "Zone-01", "Level1" : 1, "Name" : "Front door", )"
                         R"("SenseMethod" : "DoorMagnetism", "SensorType" : "NO", "Slot" : 0 })"
@@ -135,8 +136,8 @@ TEST(Alarm, ValuesWithoutNameAreLeftOut) {
   r->level2 = 9;  // not flagged
   r->sensorType = 7;
   const std::string packed = Pack("Alarm", *r);
-  for (const char* key : {"SenseMethod", "EnableControl", "DefenceAreaType", "Slot", "Level1",
-                          "Level2", "\"ID\""}) {
+  for (const char* key :
+       {"SenseMethod", "EnableControl", "DefenceAreaType", "Slot", "Level1", "Level2", "\"ID\""}) {
     EXPECT_EQ(std::string::npos, packed.find(key)) << key;
   }
   EXPECT_NE(std::string::npos, packed.find(R"("SensorType" : "NO")"));

@@ -78,11 +78,12 @@ TEST(MotionDetect, RowColWindowsAndCuts) {
   std::string rows;
   for (int i = 0; i < 40; ++i) rows += std::string(i ? "," : "") + "4294967295";
   int rc = 0;
-  auto r = ParseAs<MotionDetectRecord>(
-      "MotionDetect",
-      Doc(R"({"Region":[)" + rows + R"(],"Row":18,"Col":22,"VolumeRatio":30,"SubRatio":-2,)"
-          R"("MotionDetectWindow":[)" + windows + "]}"),
-      &rc);
+  auto r = ParseAs<MotionDetectRecord>("MotionDetect",
+                                       Doc(R"({"Region":[)" + rows +
+                                           R"(],"Row":18,"Col":22,"VolumeRatio":30,"SubRatio":-2,)"
+                                           R"("MotionDetectWindow":[)" +
+                                           windows + "]}"),
+                                       &rc);
   ASSERT_EQ(1, rc);
   EXPECT_EQ(18, r->rows);  // "Row" overrides the 32 rows read
   EXPECT_EQ(1, r->region[31][31]);
@@ -93,8 +94,9 @@ TEST(MotionDetect, RowColWindowsAndCuts) {
   EXPECT_EQ(0, r->detectWindowPresent);
   EXPECT_EQ(-2, r->subRatio);
   const std::string packed = Pack("MotionDetect", *r);
-  EXPECT_NE(std::string::npos,
-            packed.find(R"({ "Sensitive" : 9, "Threshold" : 9, "Window" : [ 0, 0, 8191, 8191 ] } ])"));
+  EXPECT_NE(
+      std::string::npos,
+      packed.find(R"({ "Sensitive" : 9, "Threshold" : 9, "Window" : [ 0, 0, 8191, 8191 ] } ])"));
   EXPECT_NE(std::string::npos, packed.find(R"("SubRatio" : -2, "VolumeRatio" : 30 })"));
   EXPECT_EQ(std::string::npos, packed.find("\"Level\""));
   auto again = ParseAs<MotionDetectRecord>("MotionDetect", Doc(packed), &rc);
@@ -114,8 +116,8 @@ TEST(MotionDetect, EnvelopeRules) {
   EXPECT_EQ(0, r->eventHandler.present[KOVA_EH_RECORD_ENABLE]);
   ParseAs<MotionDetectRecord>("MotionDetect", R"({"params":{"table":{"Enable":true}}})", &rc);
   EXPECT_EQ(0, rc);
-  ParseAs<MotionDetectRecord>("MotionDetect",
-                              R"({"result":0,"params":{"table":{"Enable":true}}})", &rc);
+  ParseAs<MotionDetectRecord>("MotionDetect", R"({"result":0,"params":{"table":{"Enable":true}}})",
+                              &rc);
   EXPECT_EQ(0, rc);
 }
 

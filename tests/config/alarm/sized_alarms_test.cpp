@@ -35,8 +35,7 @@ Rec At(const std::vector<unsigned char>& b, uint32_t stride, uint32_t i) {
   return r;
 }
 
-int Parse(const char* name, const std::string& json, std::vector<unsigned char>* b,
-          uint32_t* ret) {
+int Parse(const char* name, const std::string& json, std::vector<unsigned char>* b, uint32_t* ret) {
   *ret = 0;
   return KOVA_ParseData(name, json.c_str(), b->data(), static_cast<uint32_t>(b->size()), ret);
 }
@@ -84,11 +83,12 @@ TEST(FanSpeedAlarm, ExactTextOfOneFan) {
   const uint32_t stride = sizeof(FanSpeedAlarmRecord);
   std::vector<unsigned char> b = Buffer(stride, 1);
   uint32_t ret = 0;
-  ASSERT_EQ(1, Parse("FanSpeedAlarm",
-                     Doc(std::string(R"([{"Enable":true,"Name":"CPU fan","NormalSpeed":[1200,6000],)"
-                                     R"("EventHandler":)") +
-                         kHandlerJson + "}]"),
-                     &b, &ret));
+  ASSERT_EQ(1,
+            Parse("FanSpeedAlarm",
+                  Doc(std::string(R"([{"Enable":true,"Name":"CPU fan","NormalSpeed":[1200,6000],)"
+                                  R"("EventHandler":)") +
+                      kHandlerJson + "}]"),
+                  &b, &ret));
   EXPECT_EQ(stride, ret);
   EXPECT_EQ(std::string(R"([ { "Enable" : true, )") + HandlerText() +
                 R"(, "Name" : "CPU fan", "NormalSpeed" : [ 1200, 6000 ] } ])"
