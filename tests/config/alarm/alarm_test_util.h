@@ -26,10 +26,14 @@ inline std::string ReadFile(const std::string& path) {
   return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 inline std::string Sample(const std::string& name) {
-  return ReadFile(std::string(KOVA_SAMPLES_DIR) + "/" + name + ".json");
+  return ReadFile(KOVA_SAMPLES_DIR "/" + name + ".json");
 }
 inline std::string Fixture(const std::string& name) {
-  return ReadFile(std::string(KOVA_FIXTURES_DIR) + "/" + name + ".json");
+  return ReadFile(KOVA_FIXTURES_DIR "/" + name + ".json");
+}
+// The text a member's sample (or fixture) response packs back to.
+inline std::string PackedText(const std::string& name) {
+  return ReadFile(KOVA_FIXTURES_DIR "/" + name + ".packed.txt");
 }
 
 // A zeroed record of type Rec on the heap (alarm records hold a linkage
@@ -46,9 +50,7 @@ template <typename Rec>
 std::unique_ptr<Rec> ParseAs(const char* name, const std::string& json, int* rc,
                              uint32_t* retLen = nullptr) {
   std::unique_ptr<Rec> r = NewRecord<Rec>();
-  uint32_t ret = 0;
-  *rc = KOVA_ParseData(name, json.c_str(), r.get(), sizeof(Rec), &ret);
-  if (retLen != nullptr) *retLen = ret;
+  *rc = KOVA_ParseData(name, json.c_str(), r.get(), sizeof(Rec), retLen);
   return r;
 }
 
