@@ -10,7 +10,12 @@
 // is UTF-8. The local code page is the charset named by the environment
 // variable KOVA_CODEPAGE when it is set (any iconv name: "GBK", "BIG5",
 // "ISO-8859-1", "UTF-8", ...), otherwise the codeset of the process's current
-// locale, where the plain C/POSIX locale counts as UTF-8.
+// locale, where the plain C/POSIX locale counts as UTF-8. A character the
+// local code page cannot hold becomes "?"; an invalid UTF-8 sequence becomes
+// one replacement character and conversion goes on; text is cut at a field's
+// capacity less its terminator without splitting a multi-byte character. An
+// unknown KOVA_CODEPAGE falls back to UTF-8. Set KOVA_CODEPAGE before calls
+// start on other threads.
 //
 // Record layouts are in <kova/records/*.h>.
 #ifndef KOVA_KOVA_H_

@@ -7,7 +7,7 @@
 namespace kova {
 
 const PackName kPackNames[] = {
-    {"Encode", nullptr, 0},
+    {"Encode", PackEncode, sizeof(EncodeConfig)},
     {"Record", nullptr, 0},
     {"Alarm", PackAlarm, sizeof(AlarmInRecord)},
     {"NetAlarm", PackNetAlarm, sizeof(NetAlarmRecord)},
@@ -36,8 +36,8 @@ const PackName kPackNames[] = {
     {"SnapSource", nullptr, 0},
     {"SplitTour", nullptr, 0},
     {"SpotMatrix", nullptr, 0},
-    {"DspEncodeCap", nullptr, 0},
-    {"VideoEncodeROI", nullptr, 0},
+    {"DspEncodeCap", PackDspEncodeCap, sizeof(DspEncodeCapRecord)},
+    {"VideoEncodeROI", PackVideoEncodeRoi, sizeof(EncodeRoiConfig)},
     {"VideoInMetering", nullptr, 0},
     {"TrafficFlowStat", nullptr, 0},
     {"HardDiskTank", nullptr, 0},
@@ -89,7 +89,7 @@ const PackName kPackNames[] = {
     {"Judicature", nullptr, 0},
     {"CQDTSet", nullptr, 0},
     {"VideoIn", nullptr, 0},
-    {"EncodePlan", nullptr, 0},
+    {"EncodePlan", PackEncodePlan, sizeof(EncodePlanEntry)},
     {"PicInPic", nullptr, 0},
     {"MasterSlaveTrackerGlobal", nullptr, 0},
     {"VideoAnalyseWhole", nullptr, 0},
@@ -116,7 +116,7 @@ const PackName kPackNames[] = {
     {"VideoDiagnosisRealProject", nullptr, 0}, // pack only
     {"CANFilter", nullptr, 0},
     {"VideoInFocus", nullptr, 0},
-    {"EncodeAdapt", nullptr, 0},
+    {"EncodeAdapt", PackEncodeAdapt, sizeof(EncodeAdaptConfig)},
     {"VideoAnalyseCalibrate", nullptr, 0},
     {"PtzPreset", nullptr, 0},
     {"AudioSpirit", nullptr, 0},
@@ -211,7 +211,7 @@ const PackName kPackNames[] = {
     {"MovedDetect", nullptr, 0},
     {"Floodlight", nullptr, 0},
     {"AirFan", nullptr, 0},
-    {"SmartEncode", nullptr, 0},
+    {"SmartEncode", PackSmartEncode, sizeof(SmartEncodeConfig)},
     {"HighSpeed", nullptr, 0},
     {"LowSpeed", nullptr, 0},
     {"VideoInDefog", nullptr, 0},

@@ -7,7 +7,7 @@
 namespace kova {
 
 const ParseName kParseNames[] = {
-    {"Encode", nullptr, 0},
+    {"Encode", ParseEncode, sizeof(EncodeConfig)},
     {"Record", nullptr, 0},
     {"Alarm", ParseAlarm, sizeof(AlarmInRecord)},
     {"NetAlarm", ParseNetAlarm, sizeof(NetAlarmRecord)},
@@ -47,8 +47,8 @@ const ParseName kParseNames[] = {
     {"devVideoAnalyse.factory.getCollect", nullptr, 0}, // parse only
     {"SplitTour", nullptr, 0},
     {"SpotMatrix", nullptr, 0},
-    {"DspEncodeCap", nullptr, 0},
-    {"VideoEncodeROI", nullptr, 0},
+    {"DspEncodeCap", ParseDspEncodeCap, sizeof(DspEncodeCapRecord)},
+    {"VideoEncodeROI", ParseVideoEncodeRoi, sizeof(EncodeRoiConfig)},
     {"VideoInMetering", nullptr, 0},
     {"devVideoInput.getCaps", nullptr, 0}, // parse only
     {"TrafficFlowStat", nullptr, 0},
@@ -110,7 +110,7 @@ const ParseName kParseNames[] = {
     {"Judicature", nullptr, 0},
     {"CQDTSet", nullptr, 0},
     {"VideoIn", nullptr, 0},
-    {"EncodePlan", nullptr, 0},
+    {"EncodePlan", ParseEncodePlan, sizeof(EncodePlanEntry)},
     {"PicInPic", nullptr, 0},
     {"masterSlaveTracker.factory.getCollect", nullptr, 0}, // parse only
     {"MasterSlaveTrackerGlobal", nullptr, 0},
@@ -147,7 +147,7 @@ const ParseName kParseNames[] = {
     {"CANFilter", nullptr, 0},
     {"VideoInFocus", nullptr, 0},
     {"intelli.getCaps.AnalyseMode", nullptr, 0}, // parse only
-    {"EncodeAdapt", nullptr, 0},
+    {"EncodeAdapt", ParseEncodeAdapt, sizeof(EncodeAdaptConfig)},
     {"VideoAnalyseCalibrate", nullptr, 0},
     {"PtzPreset", nullptr, 0},
     {"AudioSpirit", nullptr, 0},
@@ -252,7 +252,7 @@ const ParseName kParseNames[] = {
     {"MovedDetect", nullptr, 0},
     {"Floodlight", nullptr, 0},
     {"AirFan", nullptr, 0},
-    {"SmartEncode", nullptr, 0},
+    {"SmartEncode", ParseSmartEncode, sizeof(SmartEncodeConfig)},
     {"HighSpeed", nullptr, 0},
     {"LowSpeed", nullptr, 0},
     {"VideoInDefog", nullptr, 0},

@@ -61,7 +61,8 @@ void ParseOne(const Json::Value& v, unsigned char* p, const Field& f) {
     case FieldKind::kTextRaw:
       GetJsonString(v, reinterpret_cast<char*>(p), f.size, f.kind == FieldKind::kText);
       break;
-    case FieldKind::kEnum: {
+    case FieldKind::kEnum:
+    case FieldKind::kEnumOrFirst: {
       int32_t value = 0;
       if (f.names == nullptr) break;
       if (EnumValue(*f.names, v, &value)) {
@@ -113,6 +114,13 @@ void PackOne(const unsigned char* p, Json::Value& obj, const Field& f) {
       } else if (!f.names->omitUnknown) {
         SetMember(obj, f.key) = "";
       }
+      break;
+    }
+    case FieldKind::kEnumOrFirst: {
+      if (f.names == nullptr || f.names->count == 0) break;
+      const char* name = EnumName(*f.names, LoadInt(p, f.size, true));
+      if (name == nullptr) name = f.names->names[0];
+      SetMember(obj, f.key) = name != nullptr ? name : "";
       break;
     }
   }

@@ -31,6 +31,7 @@ enum class FieldKind : uint8_t {
   kTextRaw,    // fixed text field, bytes copied unchanged
   kEnum,       // a name from an EnumNames table, stored as its value in an int field
   kIntBoolIsOne,  // signed conversion as kInt on parse; packs as a boolean, true only when 1
+  kEnumOrFirst,   // as kEnum, but pack writes the table's first name for a value without one
 };
 
 // An enumeration held as text in JSON and as a number in the record.
@@ -95,6 +96,13 @@ void StoreInt(void* p, uint32_t size, int64_t value);
                   static_cast<int32_t>(offsetof(Rec, flag)), KOVA_MEMBER_SIZE(Rec, flag) }
 #define KOVA_ENUM_P(key, Rec, member, table, flag)                                           \
   ::kova::Field { key, ::kova::FieldKind::kEnum, KOVA_MEMBER_SIZE(Rec, member),              \
+                  static_cast<uint32_t>(offsetof(Rec, member)), table,                       \
+                  static_cast<int32_t>(offsetof(Rec, flag)), KOVA_MEMBER_SIZE(Rec, flag) }
+
+// As KOVA_ENUM_P, for a table whose first name stands in for any value
+// without a name on pack.
+#define KOVA_ENUM_FIRST_P(key, Rec, member, table, flag)                                     \
+  ::kova::Field { key, ::kova::FieldKind::kEnumOrFirst, KOVA_MEMBER_SIZE(Rec, member),       \
                   static_cast<uint32_t>(offsetof(Rec, member)), table,                       \
                   static_cast<int32_t>(offsetof(Rec, flag)), KOVA_MEMBER_SIZE(Rec, flag) }
 

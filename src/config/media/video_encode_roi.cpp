@@ -1,0 +1,90 @@
+// "VideoEncodeROI": regions of the picture encoded at a raised quality, and
+// the streams the setting applies to.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "common/field_table.h"
+#include "common/json.h"
+#include "config/media/media_response.h"
+#include "config/media/translators.h"
+#include "drivers/table_driver.h"
+#include "kova/records/media.h"
+
+namespace kova {
+
+namespace {
+
+constexpr uint32_t kRecordSize = sizeof(EncodeRoiConfig);
+constexpr uint32_t kMaxRegions = 8;
+constexpr uint32_t kRegionNumbers = 4;
+
+const Field kRoiFields[] = {
+    // One byte on purpose: a quality above 255 wraps.
+    KOVA_FIELD("Quality", EncodeRoiConfig, quality, FieldKind::kUInt),
+    KOVA_FIELD("Main", EncodeRoiConfig, main, FieldKind::kBool),
+    KOVA_FIELD("Extra1", EncodeRoiConfig, extra1, FieldKind::kBool),
+    KOVA_FIELD("Extra2", EncodeRoiConfig, extra2, FieldKind::kBool),
+    KOVA_FIELD("Extra3", EncodeRoiConfig, extra3, FieldKind::kBool),
+    KOVA_FIELD("Snapshot", EncodeRoiConfig, snapshot, FieldKind::kBool),
+};
+
+constexpr size_t RegionOffset(uint32_t i) {
+  return offsetof(EncodeRoiConfig, regions) + i * sizeof(RoiRect);
+}
+
+int PackRoiRecord(const void* record, Json::Value& target) {
+  const unsigned char* r = static_cast<const unsigned char*>(record);
+  target = Json::Value(Json::objectValue);
+  PackFields(r, target, kRoiFields);
+  const int64_t count = LoadInt(r + offsetof(EncodeRoiConfig, regionCount), 4, true);
+  const uint32_t n = static_cast<uint32_t>(std::clamp<int64_t>(count, 0, kMaxRegions));
+  Json::Value& regions = SetMember(target, "Regions");
+  regions = Json::Value(Json::arrayValue);
+  for (uint32_t i = 0; i < n; ++i) {
+    Json::Value& region = SetElement(regions, i);
+    region = Json::Value(Json::arrayValue);
+    const unsigned char* rect = r + RegionOffset(i);
+    for (uint32_t k = 0; k < kRegionNumbers; ++k) {
+      SetElement(region, k) = static_cast<Json::Int>(LoadInt(rect + k * 4, 4, true));
+    }
+  }
+  return 1;
+}
+
+}  // namespace
+
+int ParseVideoEncodeRoi(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  if (jsonText == nullptr || outBuf == nullptr || outLen < kRecordSize) return 0;
+  Json::Value root;
+  const Json::Value* table = nullptr;
+  if (!ReadResponse(jsonText, true, &root, &table)) return 0;
+  if (table->isNull()) {
+    SetReturnedLength(retLen, 0);
+    return 1;
+  }
+  unsigned char record[kRecordSize] = {};
+  ParseFields(*table, record, kRoiFields);
+  const Json::Value& regions = Member(*table, "Regions");
+  // The count reports every region the device sent; the record holds eight.
+  const uint32_t count = regions.isArray() ? Count(regions) : 0;
+  StoreInt(record + offsetof(EncodeRoiConfig, regionCount), 4, count);
+  const uint32_t n = std::min(count, kMaxRegions);
+  for (uint32_t i = 0; i < n; ++i) {
+    const Json::Value& region = Element(regions, i);
+    for (uint32_t k = 0; k < kRegionNumbers; ++k) {
+      StoreInt(record + RegionOffset(i) + k * 4, 4, ToInt32(Element(region, k)));
+    }
+  }
+  std::memcpy(outBuf, record, kRecordSize);
+  SetReturnedLength(retLen, kRecordSize);
+  return 1;
+}
+
+int PackVideoEncodeRoi(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  if (inBuf == nullptr || outJson == nullptr || outLen == 0) return 0;
+  return PackTableDriver(inBuf, inLen, outJson, outLen, PackRoiRecord, kRecordSize, 0, 0);
+}
+
+}  // namespace kova

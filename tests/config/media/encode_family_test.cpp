@@ -1,0 +1,186 @@
+// "EncodePlan", "VideoEncodeROI", "DspEncodeCap", "EncodeAdapt" and
+// "SmartEncode" through the exported functions, and every sample of the
+// family parsed and packed back.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "common/json.h"
+#include "common/json_writer.h"
+#include "kova/kova.h"
+#include "kova/records/media.h"
+
+namespace {
+
+constexpr unsigned char kSentinel = 0xA5;
+
+std::string Envelope(const std::string& table, const char* result = "true") {
+  return std::string(R"({"id":3,"result":)") + result + R"(,"params":{"table":)" + table + "}}";
+}
+
+std::string Pack(const char* name, const void* in, uint32_t inLen, uint32_t outLen = 65536) {
+  std::vector<char> out(outLen);
+  if (KOVA_PacketData(name, in, inLen, out.data(), outLen) == 0) return "";
+  return std::string(out.data(), strnlen(out.data(), outLen));
+}
+
+TEST(EncodeFamily, SamplesPackBackToTheirTables) {
+  for (const char* name :
+       {"EncodePlan", "VideoEncodeROI", "DspEncodeCap", "EncodeAdapt", "SmartEncode"}) {
+    std::ifstream in(std::string(KOVA_SAMPLES_DIR) + "/" + name + ".json");
+    const std::string doc((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    Json::Value root;
+    ASSERT_TRUE(kova::ReadJson(doc.c_str(), &root)) << name;
+    std::vector<unsigned char> rec(8192, 0);
+    uint32_t ret = 0;
+    ASSERT_EQ(1, KOVA_ParseData(name, doc.c_str(), rec.data(), rec.size(), &ret)) << name;
+    EXPECT_EQ(kova::WriteJson(kova::Member(kova::Member(root, "params"), "table")),
+              Pack(name, rec.data(), ret))
+        << name;
+  }
+}
+
+TEST(EncodePlan, NullEntriesSwitchOffAndKeepTheRest) {
+  // "result" is not consulted; the fourth element has no room.
+  const std::string doc = Envelope(
+      R"([{"ExpectTime":-5,"Resolution":"1280x960"},null,{"BitRate":900,"Resolution":7},{}])",
+      "false");
+  std::vector<EncodePlanEntry> e(3);
+  std::memset(e.data(), kSentinel, e.size() * sizeof e[0]);
+  const EncodePlanEntry untouched = e[0];
+  uint32_t ret = 0;
+  ASSERT_EQ(1, KOVA_ParseData("EncodePlan", doc.c_str(), e.data(), 3 * sizeof e[0], &ret));
+  EXPECT_EQ(3 * sizeof e[0], ret);  // the null entry counts
+  EXPECT_EQ(1, e[0].enable);
+  EXPECT_EQ(0u, e[0].expectTime);
+  EXPECT_EQ(19, e[0].resolution);
+  EXPECT_EQ(untouched.bitRate, e[0].bitRate);
+  EXPECT_EQ(0, e[1].enable);
+  EXPECT_EQ(0, std::memcmp(&untouched.expectTime, &e[1].expectTime, 12));
+  EXPECT_EQ(900u, e[2].bitRate);
+  EXPECT_EQ(33, e[2].resolution);  // not a string
+
+  EXPECT_EQ(1, KOVA_ParseData("EncodePlan", Envelope("{}").c_str(), e.data(), 48, &ret));
+  EXPECT_EQ(0u, ret);
+  EXPECT_EQ(0, KOVA_ParseData("EncodePlan", Envelope("[]").c_str(), e.data(), 15, &ret));
+
+  // Pack is always an array; unknown sizes pack as "".
+  EncodePlanEntry one = {1, 60, 33, 128};
+  EXPECT_EQ("[ { \"BitRate\" : 128, \"ExpectTime\" : 60, \"Resolution\" : \"\" } ]\n",
+            Pack("EncodePlan", &one, sizeof one));
+  EXPECT_EQ("", Pack("EncodePlan", &one, sizeof one - 1));
+}
+
+TEST(VideoEncodeRoi, NineRegionsStayInsideTheRecord) {
+  std::string table = R"({"Quality":300,"Main":true,"Snapshot":1,"Regions":[)";
+  for (int i = 0; i < 9; ++i) {
+    table += std::string(i ? "," : "") + "[" + std::to_string(i) + ",1,2,3]";
+  }
+  table += "]}";
+  std::vector<unsigned char> buf(sizeof(EncodeRoiConfig) + 32, kSentinel);
+  uint32_t ret = 0;
+  ASSERT_EQ(1, KOVA_ParseData("VideoEncodeROI", Envelope(table).c_str(), buf.data(),
+                              sizeof(EncodeRoiConfig), &ret));
+  EXPECT_EQ(sizeof(EncodeRoiConfig), ret);
+  EncodeRoiConfig r;
+  std::memcpy(&r, buf.data(), sizeof r);
+  EXPECT_EQ(9, r.regionCount);
+  EXPECT_EQ(7, r.regions[7].left);
+  EXPECT_EQ(44, r.quality);  // 300 wraps
+  EXPECT_TRUE(r.main);
+  EXPECT_TRUE(r.snapshot);
+  EXPECT_FALSE(r.extra1);
+  EXPECT_EQ(std::vector<unsigned char>(32, kSentinel),
+            std::vector<unsigned char>(buf.end() - 32, buf.end()));
+
+  // Pack writes the eight regions held.
+  const std::string text = Pack("VideoEncodeROI", &r, sizeof r);
+  EXPECT_NE(std::string::npos, text.find("[ 7, 1, 2, 3 ] ]"));
+  EXPECT_EQ(std::string::npos, text.find("[ 8, 1, 2, 3 ]"));
+  EXPECT_EQ(0, KOVA_ParseData("VideoEncodeROI", Envelope(table, "0").c_str(), buf.data(),
+                              sizeof(EncodeRoiConfig), &ret));
+}
+
+TEST(DspEncodeCap, BareTableAndListsCutAtCapacity) {
+  std::string sizes;
+  for (int i = 0; i < 70; ++i) sizes += std::string(i ? "," : "") + "\"2cif\"";
+  const std::string table = R"({"MaxSupportChannel":16,"ImageSize":[)" + sizes +
+                            R"(],"ImageSize_Assi":["8K"],"ChannelMaxSetSync":1})";
+  DspEncodeCapRecord r;
+  std::memset(&r, kSentinel, sizeof r);
+  uint32_t ret = 0;
+  ASSERT_EQ(1, KOVA_ParseData("DspEncodeCap", Envelope(table).c_str(), &r, sizeof r, &ret));
+  EXPECT_EQ(16u, r.maxSupportChannel);
+  EXPECT_EQ(1u, r.channelMaxSetSync);
+  EXPECT_EQ(64u, r.imageSizeCount);
+  EXPECT_EQ(2, r.imageSize[63]);
+  EXPECT_EQ(33, r.imageSizeAssi[0]);
+  EXPECT_EQ(0u, r.resolutionCount);  // built zeroed
+  EXPECT_EQ(0u, r.maxEncodePower);
+}
+
+TEST(EncodeAdapt, AbsentKeysKeepFieldsUnknownTextsStoreZero) {
+  const std::string doc =
+      Envelope(R"([{"Policy":"Quality"},{"Policy":null,"FluencyMode":"fast"},null])");
+  EncodeAdaptConfig r[2] = {{7, 7}, {7, 7}};
+  uint32_t ret = 0;
+  ASSERT_EQ(1, KOVA_ParseData("EncodeAdapt", doc.c_str(), r, sizeof r, &ret));
+  EXPECT_EQ(sizeof r, ret);
+  EXPECT_EQ(2, r[0].policy);
+  EXPECT_EQ(7, r[0].fluencyMode);
+  EXPECT_EQ(7, r[1].policy);
+  EXPECT_EQ(0, r[1].fluencyMode);  // exact comparison
+  const EncodeAdaptConfig unnamed = {0, 4};
+  EXPECT_EQ("{ \"FluencyMode\" : \"Slowsync\", \"Policy\" : \"\" }\n",
+            Pack("EncodeAdapt", &unnamed, sizeof unnamed));
+  EXPECT_EQ(0, KOVA_ParseData("EncodeAdapt", doc.c_str(), r, 7, &ret));
+}
+
+TEST(SmartEncode, ObjectOrArrayAndReservedBytesUntouched) {
+  std::vector<unsigned char> buf(2 * sizeof(SmartEncodeConfig), kSentinel);
+  uint32_t ret = 0;
+  ASSERT_EQ(1, KOVA_ParseData("SmartEncode", Envelope(R"({"Enable":true})").c_str(), buf.data(),
+                              buf.size(), &ret));
+  EXPECT_EQ(sizeof(SmartEncodeConfig), ret);
+  SmartEncodeConfig r;
+  std::memcpy(&r, buf.data(), sizeof r);
+  EXPECT_EQ(1, r.enable);
+  EXPECT_EQ(std::vector<unsigned char>(buf.begin() + 4, buf.end()),
+            std::vector<unsigned char>(buf.size() - 4, kSentinel));
+  EXPECT_EQ(0, KOVA_ParseData("SmartEncode", Envelope("{}", "false").c_str(), buf.data(),
+                              buf.size(), &ret));
+  EXPECT_EQ("{ \"Enable\" : true }\n", Pack("SmartEncode", buf.data(), sizeof r + 1));
+}
+
+TEST(EncodeFamily, PackersReadOnlyTheirRecordsAndWriteOnlyOutLen) {
+  struct Name {
+    const char* name;
+    uint32_t size;
+  } names[] = {{"EncodePlan", sizeof(EncodePlanEntry)},
+               {"VideoEncodeROI", sizeof(EncodeRoiConfig)},
+               {"DspEncodeCap", sizeof(DspEncodeCapRecord)},
+               {"EncodeAdapt", sizeof(EncodeAdaptConfig)},
+               {"SmartEncode", sizeof(SmartEncodeConfig)}};
+  std::mt19937 rng(11);
+  for (const Name& n : names) {
+    for (int round = 0; round < 2; ++round) {
+      // Exactly sized heap blocks, so that a read past inLen is caught.
+      std::vector<unsigned char> in(n.size);
+      for (auto& b : in) b = round == 0 ? 0xFF : static_cast<unsigned char>(rng());
+      EXPECT_NE("", Pack(n.name, in.data(), n.size, 1 << 20)) << n.name;
+      std::vector<unsigned char> shorter(in.begin(), in.end() - 1);
+      EXPECT_EQ("", Pack(n.name, shorter.data(), shorter.size())) << n.name;
+      // Too small an output: refused, all zero, nothing written past outLen.
+      std::vector<char> out(24, 'x');
+      EXPECT_EQ(0, KOVA_PacketData(n.name, in.data(), n.size, out.data(), 16)) << n.name;
+      EXPECT_EQ(std::string(16, '\0') + std::string(8, 'x'), std::string(out.data(), 24));
+    }
+  }
+}
+
+}  // namespace

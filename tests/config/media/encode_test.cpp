@@ -1,0 +1,205 @@
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "kova/kova.h"
+#include "kova/records/media.h"
+
+namespace {
+
+constexpr uint32_t kRec = sizeof(EncodeConfig);
+constexpr unsigned char kSentinel = 0xA5;
+
+std::string ReadFixture(const std::string& name) {
+  std::ifstream in(std::string(KOVA_FIXTURES_DIR) + "/" + name, std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+// Packs `records` and returns the text ("" when the packer refuses).
+std::string Pack(const void* records, uint32_t inLen) {
+  std::vector<char> out(64 * 1024);
+  if (KOVA_PacketData("Encode", records, inLen, out.data(), out.size()) == 0) return "";
+  return out.data();
+}
+
+std::string OneChannel(const std::string& table) {
+  return R"({"id":9,"result":true,"params":{"table":)" + table + "}}";
+}
+
+template <typename T>
+T At(const std::vector<unsigned char>& buf, size_t offset) {
+  T v;
+  std::memcpy(&v, buf.data() + offset, sizeof v);
+  return v;
+}
+
+TEST(Encode, ThreeChannelNvrPacksBackToExactText) {
+  const std::string doc = ReadFixture("encode_nvr_three_channels.json");
+  std::vector<EncodeConfig> rec(4);
+  std::memset(rec.data(), 0, rec.size() * kRec);
+  uint32_t ret = 0;
+  ASSERT_EQ(1, KOVA_ParseData("Encode", doc.c_str(), rec.data(), rec.size() * kRec, &ret));
+  EXPECT_EQ(3 * kRec, ret);
+  for (int c = 0; c < 3; ++c) {
+    EXPECT_EQ(c, rec[c].channel);
+    EXPECT_EQ(3, rec[c].layoutVersion);
+  }
+  EXPECT_EQ(0, rec[3].layoutVersion);  // a fourth record was not touched
+  const VideoFormat& v = rec[0].mainFormat[1].video;
+  EXPECT_EQ(1, v.bitRateControl);  // "vbr"
+  EXPECT_EQ(0, v.pack);            // "ps" is not "PS"
+  EXPECT_FLOAT_EQ(29.97f, v.frameRate);
+  EXPECT_EQ(10, rec[1].mainFormat[0].video.compression);  // "H.266"
+  EXPECT_EQ(1, rec[1].mainFormat[0].video.profile);       // "main" is not "Main"
+  EXPECT_EQ(ReadFixture("encode_nvr_three_channels.packed.txt"), Pack(rec.data(), ret));
+}
+
+TEST(Encode, ParsePackParseIsIdentity) {
+  const std::string doc = ReadFixture("encode_nvr_three_channels.json");
+  std::vector<unsigned char> first(3 * kRec, 0), second(3 * kRec, 0);
+  uint32_t ret = 0;
+  ASSERT_EQ(1, KOVA_ParseData("Encode", doc.c_str(), first.data(), first.size(), &ret));
+  const std::string text = Pack(first.data(), ret);
+  ASSERT_FALSE(text.empty());
+  const std::string again = R"({"result":true,"channel":-1,"params":{"table":)" + text + "}}";
+  ASSERT_EQ(1, KOVA_ParseData("Encode", again.c_str(), second.data(), second.size(), &ret));
+  EXPECT_EQ(first, second);
+}
+
+TEST(Encode, ParseWritesOnlyFlagsAndPresentValues) {
+  // One main format with a video switch and a width; everything else of the
+  // record must keep the caller's bytes.
+  const std::string doc = R"({"result":true,"channel":5,"params":{"table":{"MainFormat":[
+      {"VideoEnable":true,"Video":{"Width":704,"Quality":null},"AudioEnable":null}]}}})";
+  std::vector<unsigned char> buf(kRec, kSentinel);
+  uint32_t ret = 0;
+  ASSERT_EQ(1, KOVA_ParseData("Encode", doc.c_str(), buf.data(), kRec, &ret));
+  EXPECT_EQ(kRec, ret);
+
+  std::vector<unsigned char> want(kRec, kSentinel);
+  auto put32 = [&](size_t off, int32_t v) { std::memcpy(&want[off], &v, 4); };
+  put32(offsetof(EncodeConfig, channel), 5);
+  put32(offsetof(EncodeConfig, layoutVersion), 3);
+  const size_t f = offsetof(EncodeConfig, mainFormat);
+  want[f + offsetof(EncodeFormat, hasVideoEnable)] = 1;
+  want[f + offsetof(EncodeFormat, hasAudioEnable)] = 0;
+  want[f + offsetof(EncodeFormat, hasSnapEnable)] = 0;
+  want[f + offsetof(EncodeFormat, hasAudioFormat)] = 0;  // audio flags themselves untouched
+  put32(f + offsetof(EncodeFormat, videoEnable), 1);
+  const size_t v = f + offsetof(EncodeFormat, video);
+  for (size_t i = 0; i < 10; ++i) want[v + i] = 0;  // all ten video has-flags
+  want[v + offsetof(VideoFormat, hasWidth)] = 1;
+  put32(v + offsetof(VideoFormat, width), 704);
+  EXPECT_EQ(want, buf);
+}
+
+TEST(Encode, ChannelModes) {
+  std::vector<unsigned char> buf(kRec, 0);
+  uint32_t ret = 0;
+  // No "channel": one object for channel 0.
+  ASSERT_EQ(1, KOVA_ParseData("encode", OneChannel("{}").c_str(), buf.data(), kRec, &ret));
+  EXPECT_EQ(0, At<int32_t>(buf, offsetof(EncodeConfig, channel)));
+
+  // "channel": -1 with five channels and room for three; the guard bytes
+  // after the third record stay as they were.
+  std::string five = R"({"result":1,"channel":-1,"params":{"table":[)";
+  for (int i = 0; i < 5; ++i)
+    five += std::string(i ? "," : "") + R"({"MainFormat":[{"VideoEnable":true}]})";
+  five += "]}}";
+  std::vector<unsigned char> three(3 * kRec + 64, kSentinel);
+  ASSERT_EQ(1, KOVA_ParseData("ENCODE", five.c_str(), three.data(), 3 * kRec, &ret));
+  EXPECT_EQ(3 * kRec, ret);
+  for (uint32_t i = 0; i < 3; ++i) {
+    EXPECT_EQ(static_cast<int32_t>(i),
+              At<int32_t>(three, i * kRec + offsetof(EncodeConfig, channel)));
+  }
+  EXPECT_EQ(std::vector<unsigned char>(64, kSentinel),
+            std::vector<unsigned char>(three.end() - 64, three.end()));
+
+  // All channels asked for but one object sent: refused, retLen not written.
+  ret = 77;
+  const std::string object = R"({"result":true,"channel":-1,"params":{"table":{}}})";
+  EXPECT_EQ(0, KOVA_ParseData("Encode", object.c_str(), buf.data(), kRec, &ret));
+  EXPECT_EQ(77u, ret);
+  // A null table succeeds with nothing filled.
+  EXPECT_EQ(1, KOVA_ParseData("Encode", R"({"result":true,"params":{}})", buf.data(), kRec, &ret));
+  EXPECT_EQ(0u, ret);
+}
+
+TEST(Encode, RefusesBadEnvelopesAndShortBuffers) {
+  std::vector<unsigned char> buf(kRec, kSentinel);
+  uint32_t ret = 77;
+  for (const char* doc : {R"({"result":false,"params":{"table":{}}})", R"({"params":{"table":{}}})",
+                          R"({"result":"","params":{"table":{}}})", R"({"result":true,)"}) {
+    EXPECT_EQ(0, KOVA_ParseData("Encode", doc, buf.data(), kRec, &ret)) << doc;
+  }
+  EXPECT_EQ(0, KOVA_ParseData("Encode", OneChannel("{}").c_str(), buf.data(), kRec - 1, &ret));
+  EXPECT_EQ(77u, ret);
+  EXPECT_EQ(std::vector<unsigned char>(kRec, kSentinel), buf);
+}
+
+TEST(Encode, PackShapesAndFallbacks) {
+  EncodeConfig r;
+  std::memset(&r, 0, sizeof r);
+  r.mainFormat[0].hasVideoEnable = true;
+  r.mainFormat[0].videoEnable = 1;
+  VideoFormat& v = r.mainFormat[0].video;
+  v.hasProfile = v.hasCompression = v.hasPack = v.hasFrameRate = true;
+  v.profile = 0;       // no name: "Baseline"
+  v.compression = 10;  // no name: ""
+  v.pack = 7;          // no name: the key is left out
+  v.frameRate = 12.5f;
+  r.extraFormat[2].hasAudioFormat = true;  // an empty "Audio" object
+  r.extraFormat[2].audio.compression = 9;
+  r.extraFormat[2].audio.hasCompression = true;  // no name: "G.711A"
+
+  const std::string one =
+      "{ \"ExtraFormat\" : [ null, null, { \"Audio\" : { \"Compression\" : \"G.711A\" } } ], "
+      "\"MainFormat\" : [ { \"Video\" : { \"Compression\" : \"\", \"FPS\" : 12.50000000000000, "
+      "\"Profile\" : \"Baseline\" }, \"VideoEnable\" : true }, null, null ], "
+      "\"SnapFormat\" : [ null, null, null ] }\n";
+  EXPECT_EQ(one, Pack(&r, kRec));
+
+  // One record and a few bytes more: an array of one object.
+  std::vector<unsigned char> more(kRec + 7, 0);
+  std::memcpy(more.data(), &r, kRec);
+  EXPECT_EQ("[ " + one.substr(0, one.size() - 1) + " ]\n", Pack(more.data(), more.size()));
+  // Less than one record is refused.
+  EXPECT_EQ("", Pack(&r, kRec - 1));
+}
+
+TEST(Encode, PackCopiesTextThatFillsTheBufferExactly) {
+  EncodeConfig r;
+  std::memset(&r, 0, sizeof r);
+  const std::string text = Pack(&r, kRec);
+  ASSERT_FALSE(text.empty());
+  std::vector<char> out(text.size() + 1, 'x');
+  ASSERT_EQ(1, KOVA_PacketData("Encode", &r, kRec, out.data(), text.size()));
+  EXPECT_EQ(text, std::string(out.data(), text.size()));
+  EXPECT_EQ('x', out[text.size()]);  // no terminator, nothing past outLen
+  EXPECT_EQ(0, KOVA_PacketData("Encode", &r, kRec, out.data(), text.size() - 1));
+  EXPECT_EQ(std::string(text.size() - 1, '\0'), std::string(out.data(), text.size() - 1));
+}
+
+TEST(Encode, PackReadsNothingPastTheRecords) {
+  // Exactly sized heap blocks: any read past inLen is caught by the sanitizer.
+  std::mt19937 rng(7);
+  for (int round = 0; round < 3; ++round) {
+    std::vector<unsigned char> in(2 * kRec - 1);
+    for (auto& b : in) b = round == 0 ? 0xFF : static_cast<unsigned char>(rng());
+    std::vector<char> out(256 * 1024);
+    ASSERT_EQ(1, KOVA_PacketData("Encode", in.data(), in.size(), out.data(), out.size()));
+    // One record in an array; the partial second one is ignored.
+    const std::string text = out.data();
+    EXPECT_EQ(0u, text.find("[ { "));
+    EXPECT_EQ(text.find("\"MainFormat\""), text.rfind("\"MainFormat\""));
+  }
+}
+
+}  // namespace
