@@ -32,6 +32,12 @@ uint32_t WalkChannels(const Json::Value& table, unsigned char* out, uint32_t out
 int ParseChannels(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen,
                   uint32_t size, bool checkResult, ChannelFill fill);
 
+// A whole one-record parse: reads the response ("result" must be true),
+// fills a zeroed record of `size` bytes from "params"."table" with `fill`
+// and copies it out whole. A null table succeeds with 0 bytes.
+int ParseOneRecord(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen,
+                   uint32_t size, ChannelFill fill);
+
 // Stores `bytes` into `*retLen` when it is not null.
 void SetReturnedLength(uint32_t* retLen, uint64_t bytes);
 
