@@ -16,7 +16,10 @@ for f in "$dir"/*.json; do
   name=$(basename "$f" .json)
   total=$((total + 1))
   echo "== $name  ($f)"
-  out=$("$tool" roundtrip "$name" "$f" 2>&1)
+  extra=""
+  [ -f "$dir/$name.args" ] && extra=$(cat "$dir/$name.args")
+  # shellcheck disable=SC2086
+  out=$("$tool" roundtrip "$name" "$f" $extra 2>&1)
   rc=$?
   echo "$out" | head -n 1
   packed=$(echo "$out" | tail -n +2)

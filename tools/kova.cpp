@@ -1,9 +1,13 @@
 // kova: the command-line tool for people who debug device integrations.
 //
 //   kova names                                 every name, its directions, built or not
-//   kova parse NAME FILE [-o RECORD.bin] [--size N]
+//   kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized]
 //   kova pack NAME RECORD.bin [--size N]
-//   kova roundtrip NAME FILE [--size N]
+//   kova roundtrip NAME FILE [--size N] [--sized]
+//
+// `--sized` is for the configurations whose records begin with their own
+// size, set by the caller: the record size is written into every slot of
+// the buffer before parsing.
 //
 // `--log FILE`, before or after the command, opens the library's error log
 // at FILE for the run: every report a translator makes (malformed data, a
@@ -28,9 +32,9 @@ constexpr uint32_t kDefaultSize = 8u << 20;
 int Usage() {
   std::fprintf(stderr,
                "usage: kova names\n"
-               "       kova parse NAME FILE [-o RECORD.bin] [--size N]\n"
+               "       kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized]\n"
                "       kova pack NAME RECORD.bin [--size N]\n"
-               "       kova roundtrip NAME FILE [--size N]\n"
+               "       kova roundtrip NAME FILE [--size N] [--sized]\n"
                "option: --log FILE  append the library's error reports to FILE\n");
   return 2;
 }
@@ -52,6 +56,7 @@ struct Options {
   std::vector<std::string> args;
   std::string output;
   uint32_t size = kDefaultSize;
+  bool sized = false;
   bool ok = true;
 };
 
@@ -66,6 +71,8 @@ Options ParseOptions(int argc, char** argv) {
       const unsigned long long n = std::strtoull(argv[++i], &end, 0);
       if (*end != '\0' || n == 0 || n > 0xFFFFFFFFull) o.ok = false;
       o.size = static_cast<uint32_t>(n);
+    } else if (a == "--sized") {
+      o.sized = true;
     } else if (!a.empty() && a[0] == '-') {
       o.ok = false;
     } else {
@@ -93,12 +100,22 @@ int Names() {
 }
 
 // Parses FILE as NAME into `record`; prints the outcome. Returns the exit code.
-int ParseInto(const std::string& name, const std::string& file, std::vector<unsigned char>* record,
-              uint32_t* retLen) {
+int ParseInto(const std::string& name, const std::string& file, bool sized,
+              std::vector<unsigned char>* record, uint32_t* retLen) {
   std::string json;
   if (!ReadFile(file, &json)) {
     std::fprintf(stderr, "kova: cannot read %s\n", file.c_str());
     return 1;
+  }
+  if (sized) {
+    const uint32_t stride = kova::ParseRecordSize(kova::FindParseName(name.c_str()));
+    if (stride < sizeof(uint32_t)) {
+      std::fprintf(stderr, "kova: no record size known for %s\n", name.c_str());
+      return 1;
+    }
+    for (size_t at = 0; at + stride <= record->size(); at += stride) {
+      std::memcpy(record->data() + at, &stride, sizeof stride);
+    }
   }
   *retLen = 0;
   const int rc = KOVA_ParseData(name.c_str(), json.c_str(), record->data(),
@@ -148,7 +165,7 @@ int Run(int argc, char** argv) {
   if (cmd == "parse" && o.args.size() == 2) {
     std::vector<unsigned char> record(o.size);
     uint32_t retLen = 0;
-    const int rc = ParseInto(o.args[0], o.args[1], &record, &retLen);
+    const int rc = ParseInto(o.args[0], o.args[1], o.sized, &record, &retLen);
     if (rc != 0) return rc;
     const size_t n = retLen <= record.size() ? retLen : record.size();
     if (!o.output.empty()) {
@@ -175,7 +192,7 @@ int Run(int argc, char** argv) {
   if (cmd == "roundtrip" && o.args.size() == 2) {
     std::vector<unsigned char> record(o.size);
     uint32_t retLen = 0;
-    const int rc = ParseInto(o.args[0], o.args[1], &record, &retLen);
+    const int rc = ParseInto(o.args[0], o.args[1], o.sized, &record, &retLen);
     if (rc != 0) return rc;
     return Pack(o.args[0], record.data(), retLen, o.size);
   }

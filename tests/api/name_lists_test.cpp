@@ -1,9 +1,10 @@
-// The device protocol's two name vocabularies, written out independently of
-// the dispatch tables: a name missing, duplicated, misspelt or out of order
-// in a table fails here.
+// The device protocol's two name vocabularies, kept as fixtures independent
+// of the dispatch tables: a name missing, duplicated, misspelt or out of
+// order in a table fails here.
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <fstream>
 #include <set>
 #include <string>
 #include <vector>
@@ -12,159 +13,59 @@
 
 namespace {
 
-const std::vector<std::string> kParseVocabulary = {
-    "Encode", "Record", "Alarm", "NetAlarm", "MotionDetect", "LossDetect", "BlindDetect",
-    "StorageNotExist", "StorageFailure", "StorageLowSpace", "NetAbort", "IPConflict", "SnapInfo",
-    "Ptz", "PtzAutoMovement", "WaterMark", "VideoAnalyseGlobal", "VideoAnalyseModule",
-    "VideoAnalyseRule", "devVideoAnalyse.getCaps", "VideoAnalyseSource", "RainBrush",
-    "TrafficSnapshot", "TrafficGlobal", "General", "FetchMoneyOverTime", "DeviceStatus",
-    "HardDiskTank", "RaidGroup", "StoragePoolGroup", "StoragePositionGroup", "VideoInDevGroup",
-    "DevRecordGroup", "IpsServer", "SnapSource", "netApp.getRemoteDeviceStatus",
-    "intelli.getVideoAnalyseDeviceChannels", "devVideoAnalyse.factory.getCollect", "SplitTour",
-    "SpotMatrix", "DspEncodeCap", "VideoEncodeROI", "VideoInMetering", "devVideoInput.getCaps",
-    "TrafficFlowStat", "VideoInOptions", "RTSP", "Multicast", "userManager.getActiveUserInfoAll",
-    "videoStatServer.getSummary", "TrafficSnapshotNew", "ChannelTitle", "RecordMode", "VideoOut",
-    "RemoteDevice", "RemoteChannel", "MonitorTour", "MonitorCollection", "DisplaySource", "Raid",
-    "RecordSource", "VideoColor", "VideoWidget", "StorageGroup", "Locales", "Language",
-    "AccessFilter", "AutoMaintain", "RemoteEvent", "videoDiagnosisServer.getCaps",
-    "VideoDiagnosisProfile", "VideoDiagnosisTask", "VideoDiagnosisTask.x", "VideoDiagnosisProject",
-    "VideoDiagnosisGlobal", "videoDiagnosisServer.factory.getCollect",
-    "videoDiagnosisServer.getState", "MonitorWall", "VideoOutputComposite", "RecordBackupRestore",
-    "TemperatureAlarm", "FanSpeedAlarm", "WorkState", "StorageDevGroup", "RemoteStorageLimit",
-    "RecordToGroup", "IVSFramRule", "Comm", "Network", "NAS", "RecordStoragePoint",
-    "IntelliTrackScene", "MetaDataServer", "trafficSnap.getDeviceStatus", "system.listService",
-    "capsManager.get&EventManagerEventHandler", "alarm.getAlarmCaps", "FlashLight",
-    "AudioAnalyseRule", "devAudioAnalyse.getCaps", "Judicature", "CQDTSet", "VideoIn",
-    "EncodePlan", "PicInPic", "masterSlaveTracker.factory.getCollect", "MasterSlaveTrackerGlobal",
-    "capsManager.get&MasterSlaveTracker", "VideoAnalyseWhole", "AnalogMatrix",
-    "MonitorWallCollection", "VideoInBoundary", "AnalogMatrixProtocol", "VideoOutputTitle",
-    "netApp.getCaps", "BurnFull", "devVideoInput.getFocusStatus", "ptz.factory.instance",
-    "DiskFluxAlarm", "NetFluxAlarm", "HolidaySchedule", "DVRIP", "ParkingSpaceScreen",
-    "ParkingSpaceCellStatus", "ClientCustomData", "recordManager.getCaps", "BurnRecordFormat",
-    "MultiBurn", "BurnManager.getCaps", "EncodeEncrypt", "VideoInZoom", "Snap",
-    "ptz.getCurrentProtocolCaps", "encode.getCaps", "SpecialDirectoryDefine", "AutoStartupDelay",
-    "devVideoInput.getCapsEx", "CANFilter", "VideoInFocus", "intelli.getCaps.AnalyseMode",
-    "EncodeAdapt", "VideoAnalyseCalibrate", "PtzPreset", "AudioSpirit", "AudioMatrixConfig",
-    "AudioMatrixSilence", "ComposeChannel", "ComposeLinkage", "LowerMatrix", "TimeSpeedLimit",
-    "VoiceAlert", "InfraredBoardTemplate", "InfraredBoard", "DeviceKeepAlive", "VideoInExposure",
-    "AccessControlGeneral", "AccessControl", "Wireless", "AlarmServer", "CommGlobal",
-    "AnalogAlarm", "AlarmOut", "NTP", "AlarmBell", "Mobile", "PhoneEventNotify", "PSTNAlarmServer",
-    "AudioOutputVolume", "AudioInputVolume", "AudioMixVolume", "AlarmKeyboard",
-    "FileManager.getCaps", "eventManager.getCaps", "PowerFault", "ChassisIntrusion", "ExAlarmBox",
-    "ExAlarmOut", "ExAlarm", "log.getCaps", "speak.getCaps", "accessControlManager.getCaps",
-    "alarm.getExAlarmBoxCaps", "alarm.getExAlarmCaps", "AccessTimeSchedule",
-    "RecordFinder.getCaps", "Emergency", "AnalogAlarm.getCaps", "SensorSampling", "STP",
-    "AlarmSubSystem", "BatteryLowPowerAlarm", "SnapLinkage", "AudioInput", "Email",
-    "TrafficTransferOffline", "CommSubscribe", "ParkingSpaceLightState", "AirCondition",
-    "CompressPlay", "Building", "BuildingExternal", "DialRule", "OilMassInfo", "FishEye",
-    "VTNoAnswerForward", "VTOCall", "MacConflict", "IdleMotion", "MonitorWallCollectionTour",
-    "PSTNBreakLine", "NetCollection", "AlarmSlotBond", "TrafficStrobe", "TrafficVoiceBroadcast",
-    "StandingTime", "EnclosureTimeSchedule", "ECKConfig", "ParkingCard", "RCEmergencyCall",
-    "LanesStateReport", "OpenDoorGroup", "OpenDoorRoute", "BurnPlan", "SCADADev", "VSP_GAYS",
-    "LowRateWPAN.getCaps", "AudioDetect", "GuideScreen", "VTSCallInfo", "DevList",
-    "CalibrateMatrix", "DefenceAreaDelay", "Lighting", "RainBrushMode", "EmergencyRecordForPull",
-    "AlarmShieldRule", "VideoInAnalyseRule", "AccessWorkMode", "VideoTalkPhoneGeneral", "PtzTour",
-    "VTOInfo", "UnFocusDetect", "MovedDetect", "Floodlight", "AirFan", "SmartEncode", "HighSpeed",
-    "LowSpeed", "VideoInDefog", "RTMP", "AudioOutEqualizer", "AudioOutSuppression",
-    "AudioInControl", "ThermographyOptions", "ThermometryRule", "TemperatureStatistics",
-    "HeatImagingThermometry", "TrafficSnapMosaic", "SceneSnapShotWithRule", "TSPoint",
-    "VTHNumberInfo", "GPS", "VTOBasicInfo", "ShortcutCall", "GPSLocationVersion",
-    "ParkingSpaceAccessFilter", "WorkTime", "ParkingSpaceLightGroup", "CustomAudio", "SheenRadar",
-    "LightingSchedule", "AroudWifiSearch", "G3G4AutoChange", "CheckCode", "VSP_SCYDKD", "PowerUp",
-    "VideoInDayNight", "AudioMixChannel", "AudioTouch", "VideoMosaic", "VTHRemoteIPCInfo", "WLan",
-    "PSTNPersonServer", "ArmLink", "CabinLedTimeSchedule", "PSTNTestPlan", "DefenceArmMode",
-    "SensorMode", "MasterSlaveGroup", "MasterSlaveGlobal", "AlarmLamp", "RadarSpeedMeasure",
-    "LaserDistMeasure",
+// One name a line, in dispatch order; a tab and "parse only" or "pack only"
+// after the names with a single direction.
+struct Vocabulary {
+  std::vector<std::string> names;
+  std::vector<std::string> parseOnly;
 };
 
-const std::vector<std::string> kParseOnly = {
-    "devVideoAnalyse.getCaps", "DeviceStatus", "StoragePoolGroup", "StoragePositionGroup",
-    "VideoInDevGroup", "DevRecordGroup", "IpsServer", "netApp.getRemoteDeviceStatus",
-    "intelli.getVideoAnalyseDeviceChannels", "devVideoAnalyse.factory.getCollect",
-    "devVideoInput.getCaps", "userManager.getActiveUserInfoAll", "videoStatServer.getSummary",
-    "videoDiagnosisServer.factory.getCollect", "videoDiagnosisServer.getState", "IVSFramRule",
-    "trafficSnap.getDeviceStatus", "system.listService",
-    "capsManager.get&EventManagerEventHandler", "alarm.getAlarmCaps", "devAudioAnalyse.getCaps",
-    "masterSlaveTracker.factory.getCollect", "capsManager.get&MasterSlaveTracker",
-    "netApp.getCaps", "devVideoInput.getFocusStatus", "ptz.factory.instance",
-    "recordManager.getCaps", "BurnManager.getCaps", "ptz.getCurrentProtocolCaps", "encode.getCaps",
-    "devVideoInput.getCapsEx", "intelli.getCaps.AnalyseMode", "FileManager.getCaps",
-    "eventManager.getCaps", "log.getCaps", "speak.getCaps", "accessControlManager.getCaps",
-    "alarm.getExAlarmBoxCaps", "alarm.getExAlarmCaps", "RecordFinder.getCaps",
-    "AnalogAlarm.getCaps", "LowRateWPAN.getCaps",
-};
+Vocabulary Load(const char* file) {
+  Vocabulary v;
+  std::ifstream in(std::string(KOVA_FIXTURES_DIR) + "/" + file);
+  std::string line;
+  while (std::getline(in, line)) {
+    const size_t tab = line.find('\t');
+    v.names.push_back(line.substr(0, tab));
+    if (tab != std::string::npos && line.substr(tab + 1) == "parse only") {
+      v.parseOnly.push_back(v.names.back());
+    }
+  }
+  return v;
+}
 
-const std::vector<std::string> kPackVocabulary = {
-    "Encode", "Record", "Alarm", "NetAlarm", "MotionDetect", "LossDetect", "BlindDetect",
-    "StorageNotExist", "StorageFailure", "StorageLowSpace", "NetAbort", "IPConflict", "SnapInfo",
-    "Ptz", "PtzAutoMovement", "WaterMark", "VideoAnalyseGlobal", "VideoAnalyseModule",
-    "VideoAnalyseRule", "VideoAnalyseSource", "RainBrush", "TrafficSnapshot", "TrafficSnapshotNew",
-    "TrafficGlobal", "General", "FetchMoneyOverTime", "SnapSource", "SplitTour", "SpotMatrix",
-    "DspEncodeCap", "VideoEncodeROI", "VideoInMetering", "TrafficFlowStat", "HardDiskTank",
-    "RaidGroup", "RTSP", "Multicast", "VideoInOptions", "ChannelTitle", "RecordMode", "VideoOut",
-    "RemoteDevice", "RemoteChannel", "MonitorTour", "MonitorCollection", "DisplaySource", "Raid",
-    "RecordSource", "VideoColor", "VideoWidget", "StorageGroup", "Locales", "Language",
-    "AccessFilter", "AutoMaintain", "RemoteEvent", "VideoDiagnosisProfile", "VideoDiagnosisTask",
-    "VideoDiagnosisTask.x", "VideoDiagnosisProject", "VideoDiagnosisGlobal",
-    "videoDiagnosisServer.getCaps", "MonitorWall", "VideoOutputComposite", "RecordBackupRestore",
-    "TemperatureAlarm", "FanSpeedAlarm", "WorkState", "StorageDevGroup", "RemoteStorageLimit",
-    "RecordToGroup", "Comm", "Network", "NAS", "RecordStoragePoint", "IntelliTrackScene",
-    "MetaDataServer", "FlashLight", "AudioAnalyseRule", "Judicature", "CQDTSet", "VideoIn",
-    "EncodePlan", "PicInPic", "MasterSlaveTrackerGlobal", "VideoAnalyseWhole", "BurnFull",
-    "AnalogMatrix", "MonitorWallCollection", "VideoInBoundary", "AnalogMatrixProtocol",
-    "VideoOutputTitle", "DiskFluxAlarm", "NetFluxAlarm", "HolidaySchedule", "DVRIP",
-    "ParkingSpaceScreen", "ParkingSpaceCellStatus", "ClientCustomData", "BurnRecordFormat",
-    "MultiBurn", "EncodeEncrypt", "VideoInZoom", "Snap", "SpecialDirectoryDefine",
-    "AutoStartupDelay", "VideoDiagnosisRealProject", "CANFilter", "VideoInFocus", "EncodeAdapt",
-    "VideoAnalyseCalibrate", "PtzPreset", "AudioSpirit", "AudioMatrixConfig", "AudioMatrixSilence",
-    "ComposeChannel", "ComposeLinkage", "LowerMatrix", "TimeSpeedLimit", "VoiceAlert",
-    "InfraredBoardTemplate", "InfraredBoard", "DeviceKeepAlive", "VideoInExposure",
-    "AccessControlGeneral", "AccessControl", "Wireless", "AlarmServer", "CommGlobal",
-    "AnalogAlarm", "AlarmOut", "NTP", "AlarmBell", "Mobile", "PhoneEventNotify", "PSTNAlarmServer",
-    "AudioOutputVolume", "AudioInputVolume", "AudioMixVolume", "AlarmKeyboard", "PowerFault",
-    "ChassisIntrusion", "ExAlarmBox", "ExAlarmOut", "ExAlarm", "AccessTimeSchedule", "Emergency",
-    "SensorSampling", "STP", "AlarmSubSystem", "BatteryLowPowerAlarm", "SnapLinkage", "AudioInput",
-    "Email", "TrafficTransferOffline", "CommSubscribe", "ParkingSpaceLightState", "AirCondition",
-    "CompressPlay", "Building", "BuildingExternal", "DialRule", "OilMassInfo", "FishEye",
-    "VTNoAnswerForward", "VTOCall", "MacConflict", "IdleMotion", "MonitorWallCollectionTour",
-    "PSTNBreakLine", "NetCollection", "AlarmSlotBond", "TrafficStrobe", "TrafficVoiceBroadcast",
-    "StandingTime", "EnclosureTimeSchedule", "ECKConfig", "ParkingCard", "RCEmergencyCall",
-    "LanesStateReport", "OpenDoorGroup", "OpenDoorRoute", "BurnPlan", "SCADADev", "VSP_GAYS",
-    "AudioDetect", "GuideScreen", "VTSCallInfo", "DevList", "CalibrateMatrix", "DefenceAreaDelay",
-    "Lighting", "RainBrushMode", "EmergencyRecordForPull", "AlarmShieldRule", "VideoInAnalyseRule",
-    "AccessWorkMode", "VideoTalkPhoneGeneral", "PtzTour", "VTOInfo", "UnFocusDetect",
-    "MovedDetect", "Floodlight", "AirFan", "SmartEncode", "HighSpeed", "LowSpeed", "VideoInDefog",
-    "RTMP", "AudioOutEqualizer", "AudioOutSuppression", "AudioInControl", "ThermographyOptions",
-    "ThermometryRule", "TemperatureStatistics", "HeatImagingThermometry", "TrafficSnapMosaic",
-    "SceneSnapShotWithRule", "TSPoint", "VTHNumberInfo", "GPS", "VTOBasicInfo", "ShortcutCall",
-    "GPSLocationVersion", "ParkingSpaceAccessFilter", "WorkTime", "ParkingSpaceLightGroup",
-    "CustomAudio", "SheenRadar", "LightingSchedule", "AroudWifiSearch", "G3G4AutoChange",
-    "CheckCode", "VSP_SCYDKD", "PowerUp", "VideoInDayNight", "AudioMixChannel", "AudioTouch",
-    "VideoMosaic", "VTHRemoteIPCInfo", "WLan", "PSTNPersonServer", "ArmLink",
-    "CabinLedTimeSchedule", "PSTNTestPlan", "DefenceArmMode", "SensorMode", "MasterSlaveGroup",
-    "MasterSlaveGlobal", "AlarmLamp", "RadarSpeedMeasure", "LaserDistMeasure",
-};
+const Vocabulary& ParseVocabulary() {
+  static const Vocabulary v = Load("parse_names.txt");
+  return v;
+}
+
+const Vocabulary& PackVocabulary() {
+  static const Vocabulary v = Load("pack_names.txt");
+  return v;
+}
 
 TEST(NameLists, ParseTableHoldsTheVocabularyInOrder) {
-  ASSERT_EQ(293u, kParseVocabulary.size());
-  ASSERT_EQ(kParseVocabulary.size(), kova::kParseNameCount);
+  const std::vector<std::string>& names = ParseVocabulary().names;
+  ASSERT_EQ(293u, names.size());
+  ASSERT_EQ(names.size(), kova::kParseNameCount);
   for (size_t i = 0; i < kova::kParseNameCount; ++i) {
-    EXPECT_EQ(kParseVocabulary[i], kova::kParseNames[i].name) << "index " << i;
+    EXPECT_EQ(names[i], kova::kParseNames[i].name) << "index " << i;
   }
 }
 
 TEST(NameLists, PackTableHoldsTheVocabularyInOrder) {
-  ASSERT_EQ(252u, kPackVocabulary.size());
-  ASSERT_EQ(kPackVocabulary.size(), kova::kPackNameCount);
+  const std::vector<std::string>& names = PackVocabulary().names;
+  ASSERT_EQ(252u, names.size());
+  ASSERT_EQ(names.size(), kova::kPackNameCount);
   for (size_t i = 0; i < kova::kPackNameCount; ++i) {
-    EXPECT_EQ(kPackVocabulary[i], kova::kPackNames[i].name) << "index " << i;
+    EXPECT_EQ(names[i], kova::kPackNames[i].name) << "index " << i;
   }
 }
 
 TEST(NameLists, NamesAreDistinctEvenIgnoringCase) {
-  for (const auto* list : {&kParseVocabulary, &kPackVocabulary}) {
+  for (const Vocabulary* list : {&ParseVocabulary(), &PackVocabulary()}) {
     std::set<std::string> folded;
-    for (std::string n : *list) {
+    for (std::string n : list->names) {
       for (char& c : n) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
       EXPECT_TRUE(folded.insert(n).second) << n;
     }
@@ -172,13 +73,14 @@ TEST(NameLists, NamesAreDistinctEvenIgnoringCase) {
 }
 
 TEST(NameLists, DirectionsMatchTheVocabulary) {
-  const std::set<std::string> parseOnly(kParseOnly.begin(), kParseOnly.end());
+  const std::vector<std::string>& only = ParseVocabulary().parseOnly;
+  const std::set<std::string> parseOnly(only.begin(), only.end());
   EXPECT_EQ(42u, parseOnly.size());
-  for (const std::string& n : kParseVocabulary) {
+  for (const std::string& n : ParseVocabulary().names) {
     EXPECT_EQ(parseOnly.count(n) == 0, kova::FindPackName(n.c_str()) >= 0) << n;
   }
   size_t packOnly = 0;
-  for (const std::string& n : kPackVocabulary) {
+  for (const std::string& n : PackVocabulary().names) {
     if (kova::FindParseName(n.c_str()) < 0) {
       ++packOnly;
       EXPECT_EQ("VideoDiagnosisRealProject", n);

@@ -6,7 +6,14 @@
 
 #include <cstdint>
 
+#include "kova/records/access.h"
+
 namespace kova {
+
+// "AccessControlGeneral": the settings shared by all doors (AccessGeneralRecord).
+int ParseAccessControlGeneral(const char* jsonText, void* outBuf, uint32_t outLen,
+                              uint32_t* retLen);
+int PackAccessControlGeneral(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen);
 
 }  // namespace kova
 

@@ -123,26 +123,17 @@ int PackCapRecord(const void* record, Json::Value& target) {
   return 1;
 }
 
+void FillCapRecord(const Json::Value& table, unsigned char* record) {
+  // A table without the "DspEncodeCap" member is taken as the capability itself.
+  const Json::Value& cap = HasMember(table, "DspEncodeCap") ? Member(table, "DspEncodeCap") : table;
+  ParseFields(cap, record, kScalarFields);
+  for (const ListField& l : kListFields) ParseList(cap, l, record);
+}
+
 }  // namespace
 
 int ParseDspEncodeCap(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  if (jsonText == nullptr || outBuf == nullptr || outLen < kRecordSize) return 0;
-  Json::Value root;
-  const Json::Value* table = nullptr;
-  if (!ReadResponse(jsonText, true, &root, &table)) return 0;
-  if (table->isNull()) {
-    SetReturnedLength(retLen, 0);
-    return 1;
-  }
-  // A table without the "DspEncodeCap" member is taken as the capability itself.
-  const Json::Value& cap =
-      HasMember(*table, "DspEncodeCap") ? Member(*table, "DspEncodeCap") : *table;
-  unsigned char record[kRecordSize] = {};
-  ParseFields(cap, record, kScalarFields);
-  for (const ListField& l : kListFields) ParseList(cap, l, record);
-  std::memcpy(outBuf, record, kRecordSize);
-  SetReturnedLength(retLen, kRecordSize);
-  return 1;
+  return ParseOneRecord(jsonText, outBuf, outLen, retLen, kRecordSize, FillCapRecord);
 }
 
 int PackDspEncodeCap(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {

@@ -37,18 +37,7 @@ int PackAdaptRecord(const void* record, Json::Value& target) {
 }  // namespace
 
 int ParseEncodeAdapt(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  if (jsonText == nullptr || outBuf == nullptr || outLen < kRecordSize) return 0;
-  Json::Value root;
-  const Json::Value* table = nullptr;
-  if (!ReadResponse(jsonText, true, &root, &table)) return 0;
-  if (table->isNull()) {
-    SetReturnedLength(retLen, 0);
-    return 1;
-  }
-  const uint32_t n = WalkChannels(*table, static_cast<unsigned char*>(outBuf), outLen, kRecordSize,
-                                  ParseAdaptRecord);
-  SetReturnedLength(retLen, static_cast<uint64_t>(n) * kRecordSize);
-  return 1;
+  return ParseChannels(jsonText, outBuf, outLen, retLen, kRecordSize, true, ParseAdaptRecord);
 }
 
 int PackEncodeAdapt(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {

@@ -25,6 +25,19 @@ using ChannelFill = void (*)(const Json::Value& channel, unsigned char* record);
 uint32_t WalkChannels(const Json::Value& table, unsigned char* out, uint32_t outLen, uint32_t size,
                       ChannelFill fill);
 
+// A whole per-channel parse: reads the response (judging "result" when
+// `checkResult` is set; 0 when it fails), then walks "params"."table" with
+// WalkChannels and stores the bytes walked into `*retLen`. A null table
+// succeeds with 0 bytes. `outLen` below one record fails.
+int ParseChannels(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen,
+                  uint32_t size, bool checkResult, ChannelFill fill);
+
+// A whole one-record parse: reads the response ("result" must be true),
+// fills a zeroed record of `size` bytes from "params"."table" with `fill`
+// and copies it out whole. A null table succeeds with 0 bytes.
+int ParseOneRecord(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen,
+                   uint32_t size, ChannelFill fill);
+
 // Stores `bytes` into `*retLen` when it is not null.
 void SetReturnedLength(uint32_t* retLen, uint64_t bytes);
 

@@ -53,20 +53,9 @@ int PackRoiRecord(const void* record, Json::Value& target) {
   return 1;
 }
 
-}  // namespace
-
-int ParseVideoEncodeRoi(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  if (jsonText == nullptr || outBuf == nullptr || outLen < kRecordSize) return 0;
-  Json::Value root;
-  const Json::Value* table = nullptr;
-  if (!ReadResponse(jsonText, true, &root, &table)) return 0;
-  if (table->isNull()) {
-    SetReturnedLength(retLen, 0);
-    return 1;
-  }
-  unsigned char record[kRecordSize] = {};
-  ParseFields(*table, record, kRoiFields);
-  const Json::Value& regions = Member(*table, "Regions");
+void FillRoiRecord(const Json::Value& table, unsigned char* record) {
+  ParseFields(table, record, kRoiFields);
+  const Json::Value& regions = Member(table, "Regions");
   // The count reports every region the device sent; the record holds eight.
   const uint32_t count = regions.isArray() ? Count(regions) : 0;
   StoreInt(record + offsetof(EncodeRoiConfig, regionCount), 4, count);
@@ -77,9 +66,12 @@ int ParseVideoEncodeRoi(const char* jsonText, void* outBuf, uint32_t outLen, uin
       StoreInt(record + RegionOffset(i) + k * 4, 4, ToInt32(Element(region, k)));
     }
   }
-  std::memcpy(outBuf, record, kRecordSize);
-  SetReturnedLength(retLen, kRecordSize);
-  return 1;
+}
+
+}  // namespace
+
+int ParseVideoEncodeRoi(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  return ParseOneRecord(jsonText, outBuf, outLen, retLen, kRecordSize, FillRoiRecord);
 }
 
 int PackVideoEncodeRoi(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {

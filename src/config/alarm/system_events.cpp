@@ -1,0 +1,59 @@
+// The system events with a linkage block: "StorageNotExist",
+// "StorageFailure", "NetAbort", "IPConflict" (enable only) and
+// "StorageLowSpace" (with its free-space limit). Their linkage block keeps
+// its own schedule; there is no separate week grid.
+#include "common/event_handler.h"
+#include "common/field_table.h"
+#include "common/json.h"
+#include "config/alarm/alarm_frame.h"
+#include "config/alarm/translators.h"
+
+namespace kova {
+
+namespace {
+
+const Field kEventFields[] = {
+    KOVA_FIELD("Enable", SystemEventRecord, enable, FieldKind::kBool),
+};
+
+const Field kLowSpaceFields[] = {
+    KOVA_FIELD("Enable", StorageLowSpaceRecord, enable, FieldKind::kBool),
+    KOVA_FIELD("LowerLimit", StorageLowSpaceRecord, lowerLimit, FieldKind::kInt),
+};
+
+template <typename Rec, size_t N, const Field (&kFields)[N]>
+void Fill(const Json::Value& /*params*/, const Json::Value& table, Rec* r) {
+  ParseFields(table, r, kFields);
+  ParseEventHandler(Member(table, "EventHandler"), &r->eventHandler);
+}
+
+template <typename Rec, size_t N, const Field (&kFields)[N]>
+void Write(const Rec& r, Json::Value& table) {
+  PackFields(&r, table, kFields);
+  PackLinkage(r.eventHandler, nullptr, table);
+}
+
+}  // namespace
+
+int ParseSystemEvent(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  return ParseAlarmRecord<SystemEventRecord>(jsonText, outBuf, outLen, retLen, TableRule::kReadNull,
+                                             Fill<SystemEventRecord, 1, kEventFields>);
+}
+
+int PackSystemEvent(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  return PackAlarmRecord<SystemEventRecord>(inBuf, inLen, outJson, outLen,
+                                            Write<SystemEventRecord, 1, kEventFields>);
+}
+
+int ParseStorageLowSpace(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  return ParseAlarmRecord<StorageLowSpaceRecord>(jsonText, outBuf, outLen, retLen,
+                                                 TableRule::kReadNull,
+                                                 Fill<StorageLowSpaceRecord, 2, kLowSpaceFields>);
+}
+
+int PackStorageLowSpace(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  return PackAlarmRecord<StorageLowSpaceRecord>(inBuf, inLen, outJson, outLen,
+                                                Write<StorageLowSpaceRecord, 2, kLowSpaceFields>);
+}
+
+}  // namespace kova

@@ -1,0 +1,78 @@
+// "TemperatureAlarm" and "FanSpeedAlarm": lists of caller-sized records.
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "config/alarm/alarm_test_util.h"
+#include "kova/kova.h"
+#include "kova/records/alarm.h"
+
+namespace {
+
+using kova_test::Doc;
+using kova_test::PackBytes;
+
+// A buffer of `count` records of `stride` bytes whose first size word is
+// `stride`. (The vector's storage is aligned for the records.)
+std::vector<unsigned char> Buffer(uint32_t stride, uint32_t count) {
+  std::vector<unsigned char> b(static_cast<size_t>(stride) * count + 4, 0xEE);
+  std::memcpy(b.data(), &stride, sizeof stride);
+  b.resize(static_cast<size_t>(stride) * count);
+  return b;
+}
+
+int Parse(const char* name, const std::string& json, std::vector<unsigned char>* b, uint32_t* ret) {
+  return KOVA_ParseData(name, json.c_str(), b->data(), static_cast<uint32_t>(b->size()), ret);
+}
+
+TEST(TemperatureAlarm, DeviceListReads) {
+  const uint32_t stride = sizeof(TemperatureAlarmRecord);
+  std::vector<unsigned char> b = Buffer(stride, 3);
+  uint32_t ret = 0;
+  ASSERT_EQ(1, Parse("TemperatureAlarm", kova_test::Fixture("TemperatureAlarm"), &b, &ret));
+  EXPECT_EQ(2 * stride, ret);
+  const auto* r = reinterpret_cast<const TemperatureAlarmRecord*>(b.data());
+  EXPECT_STREQ("Board", r[0].name);
+  EXPECT_EQ(65.0, r[0].upperLimit);
+  EXPECT_EQ(50.5, r[1].upperLimit);
+  EXPECT_EQ(24, r[1].week.sections[6][0].endHour);
+  // The slot without an entry is cleared but keeps its size word.
+  EXPECT_EQ(stride, r[2].size);
+  EXPECT_EQ(0, r[2].enable);
+}
+
+TEST(FanSpeedAlarm, CallerSizeRules) {
+  const std::string json = Doc(R"([{"Enable":true,"Name":"A"},{"Enable":true,"Name":"B"}])");
+  uint32_t ret = 0;
+  // A caller built with only the fields before the linkage block.
+  const uint32_t shortStride = offsetof(FanSpeedAlarmRecord, eventHandler);
+  std::vector<unsigned char> b = Buffer(shortStride, 2);
+  ASSERT_EQ(1, Parse("FanSpeedAlarm", json, &b, &ret));
+  EXPECT_EQ(2 * shortStride, ret);
+  EXPECT_EQ('B', b[shortStride + offsetof(FanSpeedAlarmRecord, name)]);
+  EXPECT_NE(std::string::npos,
+            PackBytes("FanSpeedAlarm", b.data(), 2 * shortStride).find(R"("Name" : "B" } ])"));
+
+  // More entries than slots: the slots are filled, the rest ignored.
+  std::vector<unsigned char> one = Buffer(sizeof(FanSpeedAlarmRecord), 1);
+  ASSERT_EQ(1, Parse("FanSpeedAlarm", json, &one, &ret));
+  EXPECT_EQ(sizeof(FanSpeedAlarmRecord), ret);
+  EXPECT_EQ(0, Parse("FanSpeedAlarm", R"({"result":false,"params":{"table":[]}})", &one, &ret));
+
+  // Size 0, size beyond the buffer, no room for the size word.
+  std::vector<unsigned char> zero(64, 0);
+  EXPECT_EQ(0, Parse("FanSpeedAlarm", json, &zero, &ret));
+  std::vector<unsigned char> big = Buffer(65, 1);
+  big.resize(64);
+  EXPECT_EQ(0, Parse("FanSpeedAlarm", json, &big, &ret));
+  EXPECT_EQ("<failed>", PackBytes("FanSpeedAlarm", big.data(), 64));
+  EXPECT_EQ("<failed>", PackBytes("FanSpeedAlarm", big.data(), 3));
+  // One-byte records over a whole record's bytes: refused, not packed.
+  std::vector<unsigned char> tiny = Buffer(1, sizeof(FanSpeedAlarmRecord));
+  EXPECT_EQ("<failed>", PackBytes("FanSpeedAlarm", tiny.data(), sizeof(FanSpeedAlarmRecord)));
+}
+
+}  // namespace
