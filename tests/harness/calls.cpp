@@ -94,6 +94,7 @@ ParseResult CallParse(const char* name, const char* text, uint32_t outLen, const
   std::memcpy(json.data(), text, textSize);
 
   ParseResult r;
+  r.sizeWord = o.sizeWord;
   r.ret = KOVA_ParseData(name, json.chars(), out.data(), outLen, &r.retLen);
   r.guardsIntact = out.GuardsIntact() && pointed.GuardsIntact() && json.GuardsIntact() &&
                    std::memcmp(json.data(), text, textSize) == 0;
@@ -131,7 +132,8 @@ std::string ParseViolation(int i, const std::string& text, uint32_t outLen, cons
     return "a name without translator did not refuse with the buffer untouched";
   }
   const uint32_t recordSize = ParseSize(i);
-  if (recordSize != 0 && outLen < recordSize && (r.ret != 0 || !r.untouched)) {
+  const bool callerSized = r.sizeWord >= 1 && r.sizeWord <= outLen;
+  if (recordSize != 0 && outLen < recordSize && !callerSized && (r.ret != 0 || !r.untouched)) {
     return "did not refuse, untouched, a buffer smaller than one record";
   }
   if (r.ret != 0 && !Parses(text)) return "succeeded on text that does not parse";
@@ -146,7 +148,12 @@ std::string PackViolation(int k, const std::string& record, uint32_t inLen, uint
                                  : "a name without translator did not refuse untouched";
   }
   const uint32_t recordSize = PackSize(k);
-  if (recordSize != 0 && inLen < recordSize) {
+  uint32_t sizeWord = 0;
+  if (inLen >= sizeof sizeWord && record.size() >= sizeof sizeWord) {
+    std::memcpy(&sizeWord, record.data(), sizeof sizeWord);
+  }
+  const bool callerSized = sizeWord >= 1 && sizeWord <= inLen;
+  if (recordSize != 0 && inLen < recordSize && !callerSized) {
     if (!PackAcceptsShortInput(k) && r.ret != 0) return "packed an input shorter than one record";
     if (PackAcceptsShortInput(k) && outLen > 5 && (r.ret == 0 || r.text != "null\n")) {
       return "an input shorter than one record did not pack as null";

@@ -17,6 +17,7 @@ struct ParseResult {
   uint32_t retLen = 0;       // starts at 0
   bool guardsIntact = true;  // the record's, the text's, every pointed buffer's; text unchanged
   bool untouched = true;     // the record buffer still holds what it held before the call
+  int64_t sizeWord = -1;     // the size word the records were given, -1 for none
   std::string bytes;         // with keepBytes: the record buffer, then every pointed buffer
 };
 
@@ -51,9 +52,13 @@ PackResult CallPack(const char* name, const std::string& record, uint32_t inLen,
                     const std::string& pointed = std::string());
 
 // What a parse call broke of the rules every translator keeps; "" when
-// nothing. `i` is the parse list index of the name called.
+// nothing. `i` is the parse list index of the name called. Records that
+// carry their own size are sized by the caller: given a size word that fits
+// the buffer, a buffer below the full record is theirs to accept.
 std::string ParseViolation(int i, const std::string& text, uint32_t outLen, const ParseResult& r);
-// The same for pack name `k`. A successful pack that fills its buffer
+// The same for pack name `k` (an input whose leading uint32 is a size from
+// 1 to `inLen` may be a caller-sized record, which such a packer accepts
+// below the full record size). A successful pack that fills its buffer
 // exactly without a NUL is judged by calling again with one byte more; with
 // `probeCopyRule`, any other successful pack is called again with buffers
 // of the text's exact length and one byte more, which must refuse cleanly
