@@ -76,7 +76,10 @@ ParseResult CallParse(const char* name, const char* text, uint32_t outLen, const
   const uint32_t recordSize = RecordSizeOf(name, true);
   if (o.sizeWord >= 0) {
     const uint32_t word = static_cast<uint32_t>(o.sizeWord);
-    const size_t stride = recordSize >= sizeof word ? recordSize : out.size();
+    // Caller-sized records follow each other at the caller's size.
+    const size_t stride = word >= sizeof word         ? word
+                          : recordSize >= sizeof word ? recordSize
+                                                      : out.size();
     for (size_t at = 0; at + sizeof word <= out.size() && at / stride < 64; at += stride) {
       std::memcpy(out.data() + at, &word, sizeof word);
     }
