@@ -48,6 +48,9 @@ struct Header {
   uint16_t extra = 0;  // free number the selectors draw on
 };
 constexpr size_t kHeaderSize = 7;
+// The event fuzzer's header: flags (bit 0: parse by callback; bit 1: the
+// length argument is the next two bytes instead of the text's length).
+constexpr size_t kEventHeaderSize = 3;
 
 inline Header ReadHeader(FuzzInput* in) {
   Header h;

@@ -186,4 +186,13 @@ class JsonMutator {
 
 }  // namespace kova_fuzz
 
+// Defines libFuzzer's custom mutator for a fuzzer whose JSON text follows
+// `header` bytes of each input.
+#define KOVA_JSON_MUTATOR(header)                                                       \
+  extern "C" size_t LLVMFuzzerCustomMutator(uint8_t* data, size_t size, size_t maxSize, \
+                                            unsigned int seed) {                        \
+    static kova_fuzz::JsonMutator mutator(KOVA_FUZZ_DICT);                              \
+    return mutator.Mutate(data, size, maxSize, seed, (header));                         \
+  }
+
 #endif  // KOVA_FUZZ_JSON_MUTATOR_H_

@@ -100,8 +100,8 @@ int main(int argc, char** argv) {
 
   SeedWriter events(out / "events");
   for (const std::string& doc : EventDocuments(samples)) {
-    events.Write("events", std::string(3, '\0') + doc);
-    events.Write("by-callback", std::string(1, '\1') + std::string(2, '\0') + doc);
+    events.Write("events", std::string(kEventHeaderSize, '\0') + doc);
+    events.Write("by-callback", '\1' + std::string(kEventHeaderSize - 1, '\0') + doc);
   }
 
   std::printf("seeds: %zu parse, %zu pack, %zu roundtrip, %zu events\n", parse.count(),

@@ -17,11 +17,7 @@
 using namespace kova_fuzz;
 using namespace kova_harness;
 
-extern "C" size_t LLVMFuzzerCustomMutator(uint8_t* data, size_t size, size_t maxSize,
-                                          unsigned int seed) {
-  static JsonMutator mutator(KOVA_FUZZ_DICT);
-  return mutator.Mutate(data, size, maxSize, seed, kHeaderSize);
-}
+KOVA_JSON_MUTATOR(kHeaderSize)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   FuzzInput in(data, size);
