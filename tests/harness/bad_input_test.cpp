@@ -136,10 +136,8 @@ TEST_P(PackBadInput, KeepsWithinItsBuffersWhateverTheRecordHolds) {
     const std::string label = std::string(kFillNames[f]) + " record";
     std::vector<uint32_t> inLens = {0, size, 2 * size + 1};
     if (recordSize > 0) inLens.push_back(recordSize - 1);
-    for (uint32_t inLen : inLens) {
-      Check(label, record, inLen, 1);
-      Check(label, record, inLen, 64u << 10);
-    }
+    for (uint32_t inLen : inLens) Check(label, record, inLen, 64u << 10);
+    Check(label, record, size, 1);
   }
   FillRecord(reinterpret_cast<uint8_t*>(&record[0]), record.size(), Fill::kAllFF, 0);
   Check("0xFF record into 16 MiB", record, size, kHugeBuffer);
