@@ -93,16 +93,4 @@ TEST(AccessControlGeneral, EnvelopeAndBufferRules) {
   EXPECT_EQ(text, out.data());
 }
 
-TEST(AccessControlGeneral, MemoryRule) {
-  AccessGeneralRecord r;
-  std::memset(&r, 0xFF, sizeof r);
-  EXPECT_EQ("<failed>", kova_test::PackBytes(kName, &r, sizeof r - 1));
-  // Unterminated texts read to their capacity; a count of -1 packs no group.
-  EXPECT_NE("<failed>", Pack(kName, r));
-  r.abLockGroupCount = 0x7FFFFFFF;
-  for (ABLockGroup& g : r.abLockGroups) g.doorCount = 0x7FFFFFFF;
-  const std::string packed = Pack(kName, r);
-  EXPECT_NE(std::string::npos, packed.find("[ -1, -1, -1, -1 ] ]"));
-}
-
 }  // namespace

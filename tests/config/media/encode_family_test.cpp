@@ -157,30 +157,4 @@ TEST(SmartEncode, ObjectOrArrayAndReservedBytesUntouched) {
   EXPECT_EQ("{ \"Enable\" : true }\n", Pack("SmartEncode", buf.data(), sizeof r + 1));
 }
 
-TEST(EncodeFamily, PackersReadOnlyTheirRecordsAndWriteOnlyOutLen) {
-  struct Name {
-    const char* name;
-    uint32_t size;
-  } names[] = {{"EncodePlan", sizeof(EncodePlanEntry)},
-               {"VideoEncodeROI", sizeof(EncodeRoiConfig)},
-               {"DspEncodeCap", sizeof(DspEncodeCapRecord)},
-               {"EncodeAdapt", sizeof(EncodeAdaptConfig)},
-               {"SmartEncode", sizeof(SmartEncodeConfig)}};
-  std::mt19937 rng(11);
-  for (const Name& n : names) {
-    for (int round = 0; round < 2; ++round) {
-      // Exactly sized heap blocks, so that a read past inLen is caught.
-      std::vector<unsigned char> in(n.size);
-      for (auto& b : in) b = round == 0 ? 0xFF : static_cast<unsigned char>(rng());
-      EXPECT_NE("", Pack(n.name, in.data(), n.size, 1 << 20)) << n.name;
-      std::vector<unsigned char> shorter(in.begin(), in.end() - 1);
-      EXPECT_EQ("", Pack(n.name, shorter.data(), shorter.size())) << n.name;
-      // Too small an output: refused, all zero, nothing written past outLen.
-      std::vector<char> out(24, 'x');
-      EXPECT_EQ(0, KOVA_PacketData(n.name, in.data(), n.size, out.data(), 16)) << n.name;
-      EXPECT_EQ(std::string(16, '\0') + std::string(8, 'x'), std::string(out.data(), 24));
-    }
-  }
-}
-
 }  // namespace
