@@ -15,6 +15,8 @@
 #include <memory>
 #include <new>
 
+#include "common/event_handler.h"
+#include "common/field_table.h"
 #include "common/json.h"
 #include "kova/records/event_handler.h"
 #include "kova/records/schedule.h"
@@ -97,6 +99,33 @@ int PackAlarmRecord(const void* inBuf, uint32_t inLen, char* outJson, uint32_t o
   Json::Value table(Json::objectValue);
   write(*r, table);
   return FinishAlarmPack(table, outJson, outLen);
+}
+
+// Fill and write steps of the members made of a field table and the linkage
+// block: "WithWeek" for the block with its 7 x 6 grid beside it, plain for
+// the block that keeps its own schedule.
+template <typename Rec, size_t N, const Field (&kFields)[N]>
+void FillFieldsWithWeek(const Json::Value& /*params*/, const Json::Value& table, Rec* r) {
+  ParseFields(table, r, kFields);
+  ParseLinkageWithWeek(table, &r->eventHandler, &r->week);
+}
+
+template <typename Rec, size_t N, const Field (&kFields)[N]>
+void WriteFieldsWithWeek(const Rec& r, Json::Value& table) {
+  PackFields(&r, table, kFields);
+  PackLinkage(r.eventHandler, &r.week, table);
+}
+
+template <typename Rec, size_t N, const Field (&kFields)[N]>
+void FillFields(const Json::Value& /*params*/, const Json::Value& table, Rec* r) {
+  ParseFields(table, r, kFields);
+  ParseEventHandler(Member(table, "EventHandler"), &r->eventHandler);
+}
+
+template <typename Rec, size_t N, const Field (&kFields)[N]>
+void WriteFields(const Rec& r, Json::Value& table) {
+  PackFields(&r, table, kFields);
+  PackLinkage(r.eventHandler, nullptr, table);
 }
 
 }  // namespace kova

@@ -21,39 +21,27 @@ const Field kLowSpaceFields[] = {
     KOVA_FIELD("LowerLimit", StorageLowSpaceRecord, lowerLimit, FieldKind::kInt),
 };
 
-template <typename Rec, size_t N, const Field (&kFields)[N]>
-void Fill(const Json::Value& /*params*/, const Json::Value& table, Rec* r) {
-  ParseFields(table, r, kFields);
-  ParseEventHandler(Member(table, "EventHandler"), &r->eventHandler);
-}
-
-template <typename Rec, size_t N, const Field (&kFields)[N]>
-void Write(const Rec& r, Json::Value& table) {
-  PackFields(&r, table, kFields);
-  PackLinkage(r.eventHandler, nullptr, table);
-}
-
 }  // namespace
 
 int ParseSystemEvent(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
   return ParseAlarmRecord<SystemEventRecord>(jsonText, outBuf, outLen, retLen, TableRule::kReadNull,
-                                             Fill<SystemEventRecord, 1, kEventFields>);
+                                             FillFields<SystemEventRecord, 1, kEventFields>);
 }
 
 int PackSystemEvent(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
   return PackAlarmRecord<SystemEventRecord>(inBuf, inLen, outJson, outLen,
-                                            Write<SystemEventRecord, 1, kEventFields>);
+                                            WriteFields<SystemEventRecord, 1, kEventFields>);
 }
 
 int ParseStorageLowSpace(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
   return ParseAlarmRecord<StorageLowSpaceRecord>(jsonText, outBuf, outLen, retLen,
                                                  TableRule::kReadNull,
-                                                 Fill<StorageLowSpaceRecord, 2, kLowSpaceFields>);
+                                                 FillFields<StorageLowSpaceRecord, 2, kLowSpaceFields>);
 }
 
 int PackStorageLowSpace(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
   return PackAlarmRecord<StorageLowSpaceRecord>(inBuf, inLen, outJson, outLen,
-                                                Write<StorageLowSpaceRecord, 2, kLowSpaceFields>);
+                                                WriteFields<StorageLowSpaceRecord, 2, kLowSpaceFields>);
 }
 
 }  // namespace kova
