@@ -137,7 +137,6 @@ int ParseDspEncodeCap(const char* jsonText, void* outBuf, uint32_t outLen, uint3
 }
 
 int PackDspEncodeCap(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  if (inBuf == nullptr || outJson == nullptr || outLen == 0) return 0;
   return PackTableDriver(inBuf, inLen, outJson, outLen, PackCapRecord, kRecordSize, 0, 0);
 }
 

@@ -75,7 +75,6 @@ int ParseVideoEncodeRoi(const char* jsonText, void* outBuf, uint32_t outLen, uin
 }
 
 int PackVideoEncodeRoi(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  if (inBuf == nullptr || outJson == nullptr || outLen == 0) return 0;
   return PackTableDriver(inBuf, inLen, outJson, outLen, PackRoiRecord, kRecordSize, 0, 0);
 }
 
