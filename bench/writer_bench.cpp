@@ -11,7 +11,7 @@
 #include <string>
 
 #include "bench/bench_cases.h"
-#include "common/json_writer.h"
+#include "common/json/json_writer.h"
 #include "harness/catalog.h"
 #include "harness/documents.h"
 

@@ -23,7 +23,7 @@
 #include <vector>
 
 #include "api/dispatch.h"
-#include "common/log.h"
+#include "common/base/log.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "common/log.h"
+#include "common/base/log.h"
 
 namespace kova {
 

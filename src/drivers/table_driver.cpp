@@ -4,8 +4,8 @@
 #include <cstring>
 #include <string>
 
-#include "common/json.h"
-#include "common/json_writer.h"
+#include "common/json/json.h"
+#include "common/json/json_writer.h"
 
 namespace kova {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "common/json.h"
+#include "common/json/json.h"
 
 namespace {
 

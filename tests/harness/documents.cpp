@@ -11,7 +11,7 @@
 #include <sstream>
 
 #include "api/dispatch.h"
-#include "common/json.h"
+#include "common/json/json.h"
 #include "harness/catalog.h"
 #include "harness/guarded_buffer.h"
 #include "kova/kova.h"

@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <cstring>
 
-#include "common/field_table.h"
-#include "common/json.h"
-#include "common/json_writer.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
+#include "common/json/json_writer.h"
 #include "config/access/translators.h"
 #include "drivers/table_driver.h"
 #include "kova/records/access.h"

@@ -1,7 +1,7 @@
 #include "config/alarm/alarm_enums.h"
 
-#include "common/fields.h"
-#include "common/json.h"
+#include "common/fields/fields.h"
+#include "common/json/json.h"
 
 namespace kova {
 

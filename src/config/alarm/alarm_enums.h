@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-#include "common/field_table.h"
+#include "common/fields/field_table.h"
 
 namespace kova {
 

@@ -1,9 +1,9 @@
 #include "config/alarm/alarm_frame.h"
 
-#include "common/event_handler.h"
-#include "common/json.h"
-#include "common/json_writer.h"
-#include "common/time_schedule.h"
+#include "common/blocks/event_handler.h"
+#include "common/json/json.h"
+#include "common/json/json_writer.h"
+#include "common/blocks/time_schedule.h"
 #include "config/alarm/sized_alarm_list.h"
 #include "drivers/table_driver.h"
 

@@ -15,9 +15,9 @@
 #include <memory>
 #include <new>
 
-#include "common/event_handler.h"
-#include "common/field_table.h"
-#include "common/json.h"
+#include "common/blocks/event_handler.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
 #include "kova/records/event_handler.h"
 #include "kova/records/schedule.h"
 

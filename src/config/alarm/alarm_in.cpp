@@ -1,7 +1,7 @@
 // "Alarm": one local alarm input (contact type, detector kind, zone type,
 // arming control and the linkage block).
-#include "common/field_table.h"
-#include "common/json.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
 #include "config/alarm/alarm_enums.h"
 #include "config/alarm/alarm_frame.h"
 #include "config/alarm/translators.h"

@@ -2,7 +2,7 @@
 // drivers.
 #include <cstring>
 
-#include "common/json.h"
+#include "common/json/json.h"
 #include "config/alarm/translators.h"
 #include "kova/records/alarm.h"
 

@@ -7,8 +7,8 @@
 // cells). Both orders are intended and kept.
 #include <algorithm>
 
-#include "common/field_table.h"
-#include "common/json.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
 #include "config/alarm/alarm_frame.h"
 #include "config/alarm/translators.h"
 

@@ -1,6 +1,6 @@
 // "NetAlarm": one network alarm input.
-#include "common/field_table.h"
-#include "common/json.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
 #include "config/alarm/alarm_enums.h"
 #include "config/alarm/alarm_frame.h"
 #include "config/alarm/translators.h"

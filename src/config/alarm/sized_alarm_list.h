@@ -15,7 +15,7 @@
 #include <cstring>
 #include <memory>
 
-#include "common/json.h"
+#include "common/json/json.h"
 #include "config/alarm/alarm_frame.h"
 #include "drivers/table_driver.h"
 

@@ -1,7 +1,7 @@
 // "TemperatureAlarm" and "FanSpeedAlarm": one entry per sensor or fan, each
 // with its normal range and its linkage block.
-#include "common/field_table.h"
-#include "common/json.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
 #include "config/alarm/alarm_frame.h"
 #include "config/alarm/sized_alarm_list.h"
 #include "config/alarm/translators.h"

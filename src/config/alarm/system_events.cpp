@@ -2,9 +2,9 @@
 // "StorageFailure", "NetAbort", "IPConflict" (enable only) and
 // "StorageLowSpace" (with its free-space limit). Their linkage block keeps
 // its own schedule; there is no separate week grid.
-#include "common/event_handler.h"
-#include "common/field_table.h"
-#include "common/json.h"
+#include "common/blocks/event_handler.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
 #include "config/alarm/alarm_frame.h"
 #include "config/alarm/translators.h"
 

@@ -1,6 +1,6 @@
 // "LossDetect" and "BlindDetect": video loss and camera masking of one
 // channel.
-#include "common/field_table.h"
+#include "common/fields/field_table.h"
 #include "config/alarm/alarm_frame.h"
 #include "config/alarm/translators.h"
 

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <cstring>
 
-#include "common/field_table.h"
-#include "common/json.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
 #include "config/media/encode_tables.h"
 #include "config/media/media_response.h"
 #include "config/media/translators.h"

@@ -9,9 +9,9 @@
 #include <cstdint>
 #include <cstring>
 
-#include "common/field_table.h"
-#include "common/json.h"
-#include "common/json_writer.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
+#include "common/json/json_writer.h"
 #include "config/media/encode_format.h"
 #include "config/media/media_response.h"
 #include "config/media/translators.h"

@@ -2,8 +2,8 @@
 
 #include <cstddef>
 
-#include "common/field_table.h"
-#include "common/json.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
 #include "config/media/encode_tables.h"
 #include "kova/records/media.h"
 

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <vector>
 
-#include "common/json.h"
+#include "common/json/json.h"
 
 namespace kova {
 

@@ -2,8 +2,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "common/field_table.h"
-#include "common/json.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
 #include "config/media/media_response.h"
 #include "config/media/translators.h"
 #include "kova/records/media.h"

@@ -1,7 +1,7 @@
 // "G3G4AutoChange": a one-field record served by the table drivers.
 #include <cstring>
 
-#include "common/json.h"
+#include "common/json/json.h"
 #include "config/network/translators.h"
 #include "kova/records/network.h"
 

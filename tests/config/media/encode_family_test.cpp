@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "common/json.h"
-#include "common/json_writer.h"
+#include "common/json/json.h"
+#include "common/json/json_writer.h"
 #include "kova/kova.h"
 #include "kova/records/media.h"
 

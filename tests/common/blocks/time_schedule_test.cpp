@@ -1,13 +1,13 @@
 // Weekly schedules: the lenient grid form, the two-digit single-section form,
 // cuts to the grid and the holiday day.
-#include "common/time_schedule.h"
+#include "common/blocks/time_schedule.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 
-#include "common/json.h"
-#include "common/json_writer.h"
+#include "common/json/json.h"
+#include "common/json/json_writer.h"
 
 namespace {
 

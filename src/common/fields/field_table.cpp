@@ -1,9 +1,9 @@
-#include "common/field_table.h"
+#include "common/fields/field_table.h"
 
 #include <cstring>
 
-#include "common/fields.h"
-#include "common/json.h"
+#include "common/fields/fields.h"
+#include "common/json/json.h"
 
 namespace kova {
 

@@ -1,9 +1,9 @@
 // The single-line form devices expect, byte for byte.
-#include "common/json_writer.h"
+#include "common/json/json_writer.h"
 
 #include <gtest/gtest.h>
 
-#include "common/json.h"
+#include "common/json/json.h"
 
 namespace {
 

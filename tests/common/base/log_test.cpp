@@ -1,4 +1,4 @@
-#include "common/log.h"
+#include "common/base/log.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -14,8 +14,8 @@
 #include <vector>
 
 #include "api/dispatch.h"
-#include "common/fields.h"
-#include "common/text_forms.h"
+#include "common/fields/fields.h"
+#include "common/fields/text_forms.h"
 #include "kova/kova.h"
 
 namespace kova {

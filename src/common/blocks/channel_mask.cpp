@@ -1,8 +1,8 @@
-#include "common/channel_mask.h"
+#include "common/blocks/channel_mask.h"
 
 #include <cstring>
 
-#include "common/json.h"
+#include "common/json/json.h"
 
 namespace kova {
 

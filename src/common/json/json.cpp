@@ -1,4 +1,4 @@
-#include "common/json.h"
+#include "common/json/json.h"
 
 #include <json/reader.h>
 

@@ -1,4 +1,4 @@
-#include "common/json_writer.h"
+#include "common/json/json_writer.h"
 
 #include <cinttypes>
 #include <cstdio>

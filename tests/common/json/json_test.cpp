@@ -1,6 +1,6 @@
 // The four conversions and the non-throwing accessors every translator
 // relies on.
-#include "common/json.h"
+#include "common/json/json.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "common/event_handler_lists.h"
+#include "common/blocks/event_handler_lists.h"
 
 #include <cstring>
 
-#include "common/field_table.h"
-#include "common/fields.h"
-#include "common/json.h"
+#include "common/fields/field_table.h"
+#include "common/fields/fields.h"
+#include "common/json/json.h"
 
 namespace kova {
 

@@ -1,10 +1,10 @@
-#include "common/time_schedule.h"
+#include "common/blocks/time_schedule.h"
 
 #include <cstdio>
 #include <cstring>
 #include <string>
 
-#include "common/json.h"
+#include "common/json/json.h"
 
 namespace kova {
 

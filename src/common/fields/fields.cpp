@@ -1,13 +1,13 @@
-#include "common/fields.h"
+#include "common/fields/fields.h"
 
 #include <algorithm>
 #include <cstring>
 #include <string>
 #include <vector>
 
-#include "common/json.h"
-#include "common/log.h"
-#include "common/platform.h"
+#include "common/json/json.h"
+#include "common/base/log.h"
+#include "common/base/platform.h"
 
 namespace kova {
 

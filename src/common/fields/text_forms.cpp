@@ -1,11 +1,11 @@
-#include "common/text_forms.h"
+#include "common/fields/text_forms.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 
-#include "common/log.h"
+#include "common/base/log.h"
 
 namespace kova {
 

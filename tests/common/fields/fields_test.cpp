@@ -1,4 +1,4 @@
-#include "common/fields.h"
+#include "common/fields/fields.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-#include "common/json.h"
+#include "common/json/json.h"
 
 namespace kova {
 namespace {

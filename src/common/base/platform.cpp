@@ -1,5 +1,5 @@
 // POSIX (glibc) implementation of the platform module.
-#include "common/platform.h"
+#include "common/base/platform.h"
 
 #include <errno.h>
 #include <iconv.h>

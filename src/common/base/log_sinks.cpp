@@ -1,9 +1,9 @@
-#include "common/log_sinks.h"
+#include "common/base/log_sinks.h"
 
 #include <cstdarg>
 #include <vector>
 
-#include "common/platform.h"
+#include "common/base/platform.h"
 
 namespace kova {
 

@@ -1,14 +1,14 @@
-#include "common/event_handler.h"
+#include "common/blocks/event_handler.h"
 
 #include <cstddef>
 #include <cstring>
 
-#include "common/channel_mask.h"
-#include "common/event_handler_lists.h"
-#include "common/field_table.h"
-#include "common/fields.h"
-#include "common/json.h"
-#include "common/time_schedule.h"
+#include "common/blocks/channel_mask.h"
+#include "common/blocks/event_handler_lists.h"
+#include "common/fields/field_table.h"
+#include "common/fields/fields.h"
+#include "common/json/json.h"
+#include "common/blocks/time_schedule.h"
 
 namespace kova {
 

@@ -1,4 +1,4 @@
-#include "common/log.h"
+#include "common/base/log.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -6,8 +6,8 @@
 #include <memory>
 #include <string>
 
-#include "common/log_sinks.h"
-#include "common/platform.h"
+#include "common/base/log_sinks.h"
+#include "common/base/platform.h"
 
 namespace kova {
 

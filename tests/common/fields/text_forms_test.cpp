@@ -1,11 +1,11 @@
-#include "common/text_forms.h"
+#include "common/fields/text_forms.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <string>
 
-#include "common/log.h"
+#include "common/base/log.h"
 
 namespace kova {
 namespace {

@@ -1,6 +1,6 @@
 // The alarm linkage block on device-shaped "EventHandler" objects: a full
 // block from a recorder, the awkward cases, and records that lie.
-#include "common/event_handler.h"
+#include "common/blocks/event_handler.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,8 @@
 #include <memory>
 #include <sstream>
 
-#include "common/json.h"
-#include "common/json_writer.h"
+#include "common/json/json.h"
+#include "common/json/json_writer.h"
 
 namespace {
 
