@@ -31,24 +31,28 @@ struct ScalarField {
 };
 
 constexpr Field WithFlag(Field f, size_t flagOffset, uint32_t flagSize) {
-  f.presence = static_cast<int32_t>(flagOffset);
-  f.presenceSize = flagSize;
-  return f;
+  return f.Flag(Slot{static_cast<uint32_t>(flagOffset), flagSize});
 }
 
 // A member flagged in present[index].
 #define EH_SCALAR(key, member, kind, index, way)                                                  \
   ScalarField {                                                                                   \
-    WithFlag(KOVA_FIELD(key, R, member, ::kova::FieldKind::kind), offsetof(R, present) + (index), \
+    WithFlag(KOVA_F(R, member, key, kind), offsetof(R, present) + (index), \
              1),                                                                                  \
         Way::way                                                                                  \
   }
+// As EH_SCALAR, for a member that packs as true only when it holds 1.
+#define EH_SCALAR_ONE(key, member, kind, index, way)                                         \
+  ScalarField {                                                                              \
+    WithFlag(KOVA_F(R, member, key, kind).PackBoolEqualsOne(), offsetof(R, present) + (index), 1), \
+        Way::way                                                                             \
+  }
 // A member flagged in a presence field of its own.
 #define EH_SCALAR_F(key, member, kind, flag) \
-  ScalarField { KOVA_FIELD_P(key, R, member, ::kova::FieldKind::kind, flag), Way::kBoth }
+  ScalarField { KOVA_F(R, member, key, kind).Flag(KOVA_AT(R, flag)), Way::kBoth }
 // A member without a presence flag.
 #define EH_SCALAR_N(key, member, kind, way) \
-  ScalarField { KOVA_FIELD(key, R, member, ::kova::FieldKind::kind), Way::way }
+  ScalarField { KOVA_F(R, member, key, kind), Way::way }
 
 const char* const kTourSplitNames[] = {"Split1", "Split8"};
 const EnumNames kTourSplits = {kTourSplitNames, 2, false, 0, false, 0, true};
@@ -61,7 +65,7 @@ const ScalarField kScalars[] = {
     EH_SCALAR("ExAlarmOutEnable", exAlarmOutEnable, kBool, KOVA_EH_EX_ALARM_OUT_ENABLE, kBoth),
     EH_SCALAR("PtzLinkEnable", ptzLinkEnable, kBool, KOVA_EH_PTZ_LINK_ENABLE, kBoth),
     // Read as a boolean, but only a stored 1 packs as true.
-    EH_SCALAR("TourEnable", tourEnable, kBoolIsOne, KOVA_EH_TOUR_ENABLE, kBoth),
+    EH_SCALAR_ONE("TourEnable", tourEnable, kBool, KOVA_EH_TOUR_ENABLE, kBoth),
     EH_SCALAR("SnapshotEnable", snapshotEnable, kBool, KOVA_EH_SNAPSHOT_ENABLE, kBoth),
     EH_SCALAR("SnapshotPeriod", snapshotPeriod, kInt, KOVA_EH_SNAPSHOT_PERIOD, kBoth),
     EH_SCALAR("SnapshotTimes", snapshotTimes, kInt, KOVA_EH_SNAPSHOT_TIMES, kBoth),
@@ -71,21 +75,21 @@ const ScalarField kScalars[] = {
     EH_SCALAR("BeepEnable", beepEnable, kBool, KOVA_EH_BEEP_ENABLE, kBoth),
     EH_SCALAR("VoiceEnable", voiceEnable, kBool, KOVA_EH_VOICE_ENABLE, kBoth),
     // Read as integers, packed as booleans true only for 1.
-    EH_SCALAR("MatrixEnable", matrixEnable, kIntBoolIsOne, KOVA_EH_MATRIX_ENABLE, kBoth),
+    EH_SCALAR_ONE("MatrixEnable", matrixEnable, kInt, KOVA_EH_MATRIX_ENABLE, kBoth),
     EH_SCALAR("Dejitter", dejitter, kInt, KOVA_EH_DEJITTER, kBoth),
     EH_SCALAR("LogEnable", logEnable, kBool, KOVA_EH_LOG_ENABLE, kBoth),
     EH_SCALAR("Delay", delay, kInt, KOVA_EH_DELAY, kBoth),
     // The device never reports it; callers set it to switch the overlay on.
-    EH_SCALAR("OnVideoMessageEn", onVideoMessageEnable, kBoolIsOne, KOVA_EH_ON_VIDEO_MESSAGE_EN,
+    EH_SCALAR_ONE("OnVideoMessageEn", onVideoMessageEnable, kBool, KOVA_EH_ON_VIDEO_MESSAGE_EN,
               kPackOnly),
     EH_SCALAR("MMSEnable", mmsEnable, kBool, KOVA_EH_MMS_ENABLE, kBoth),
-    EH_SCALAR("MessageToNetEnable", messageToNetEnable, kIntBoolIsOne,
+    EH_SCALAR_ONE("MessageToNetEnable", messageToNetEnable, kInt,
               KOVA_EH_MESSAGE_TO_NET_ENABLE, kBoth),
     EH_SCALAR("SnapshotTitleEnable", snapshotTitleEnable, kBool, KOVA_EH_SNAPSHOT_TITLE_ENABLE,
               kBoth),
     EH_SCALAR("VideoTitleEnable", videoTitleEnable, kBool, KOVA_EH_VIDEO_TITLE_ENABLE, kBoth),
     EH_SCALAR("JpegSummary", jpegSummary, kTextRaw, KOVA_EH_JPEG_SUMMARY, kBoth),
-    EH_SCALAR("FlashEnable", flashEnable, kBoolIsOne, KOVA_EH_FLASH_ENABLE, kBoth),
+    EH_SCALAR_ONE("FlashEnable", flashEnable, kBool, KOVA_EH_FLASH_ENABLE, kBoth),
     EH_SCALAR("FlashLatch", flashLatch, kInt, KOVA_EH_FLASH_LATCH, kBoth),
     EH_SCALAR_F("AlarmBellEnable", alarmBellEnable, kBool, alarmBellEnablePresent),
     EH_SCALAR_F("AccessControlEnable", accessControlEnable, kBool, accessControlEnablePresent),
@@ -93,13 +97,14 @@ const ScalarField kScalars[] = {
     // Channel hints the device reports but does not accept back.
     EH_SCALAR_N("SDK_RecordChannel", sdkRecordChannel, kInt, kParseOnly),
     EH_SCALAR_N("SDK_AlarmOutChannel", sdkAlarmOutChannel, kInt, kParseOnly),
-    ScalarField{WithFlag(KOVA_ENUM("TourSplit", R, tourSplit, &kTourSplits),
+    ScalarField{WithFlag(KOVA_ENUM(R, tourSplit, "TourSplit", kTourSplits),
                          offsetof(R, present) + KOVA_EH_TOUR_SPLIT, 1),
                 Way::kParseOnly},
 };
 
 #undef EH_SCALAR
 #undef EH_SCALAR_F
+#undef EH_SCALAR_ONE
 #undef EH_SCALAR_N
 
 #define EH_CHANNELS(key, member, index, rule, empty)                                              \
@@ -127,9 +132,9 @@ const ChannelSetField kChannelSets[] = {
 const char* const kAttachmentNames[] = {"picture", "video"};
 const EnumNames kAttachmentTypes = {kAttachmentNames, 2, false, 0, false, 0, true};
 const Field kMailDetail[] = {
-    KOVA_ENUM("AttachmentType", R, mailAttachmentType, &kAttachmentTypes),
-    KOVA_FIELD("MaxSize", R, mailMaxSize, FieldKind::kInt),
-    KOVA_FIELD("MaxTimeLength", R, mailMaxTimeLength, FieldKind::kInt),
+    KOVA_ENUM(R, mailAttachmentType, "AttachmentType", kAttachmentTypes),
+    KOVA_F(R, mailMaxSize, "MaxSize", kInt),
+    KOVA_F(R, mailMaxTimeLength, "MaxTimeLength", kInt),
 };
 
 void ParseScalars(const Json::Value& obj, R* r) {
@@ -139,7 +144,7 @@ void ParseScalars(const Json::Value& obj, R* r) {
       // Always marked present, a missing member reading as false.
       unsigned char* base = reinterpret_cast<unsigned char*>(r);
       StoreInt(base + s.field.offset, s.field.size, 0);
-      StoreInt(base + s.field.presence, s.field.presenceSize, 1);
+      StoreInt(base + s.field.flag.offset, s.field.flag.size, 1);
       continue;
     }
     ParseFields(obj, r, &s.field, 1);

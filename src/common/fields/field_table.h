@@ -1,16 +1,43 @@
-// Describe-once field tables: a configuration's regular fields are listed
-// once (JSON key, record member, kind) and one walker reads the table for
-// parse and for pack, so the two directions cannot drift apart.
+// Describe-once field tables: a record's JSON members are listed once, and
+// one walker reads the list for parse and for pack, so the two directions
+// cannot drift apart.
 //
-//   static const Field kFields[] = {
-//       KOVA_FIELD("Enable", AlarmInRecord, enable, FieldKind::kBool),
-//       KOVA_TEXT("Name", AlarmInRecord, name),
-//       KOVA_ENUM("SensorType", AlarmInRecord, sensorType, &kSensorTypes),
+// A field is a few independent attributes: where the member lives (offset,
+// size), its scalar kind, its shape (scalar, nested table, fixed list,
+// tuple, custom step), a presence rule, a pack rule and a direction. Tables
+// are constexpr; the declaration macros check the kind against the member's
+// type at compile time (a real kind on an integer member does not compile).
+//
+// How one configuration is declared (a record with a nested list, a tuple
+// and an enumeration):
+//
+//   struct Zone  { int32_t id; char name[32]; };
+//   struct Fence { int32_t enable; int32_t mode; int32_t modePresent;
+//                  Point origin; int32_t zoneCount; Zone zones[8]; };
+//
+//   constexpr const char* kModeNames[] = {"Auto", "Manual"};
+//   constexpr EnumNames kModes = EnumNames::Of(kModeNames).UnknownAs(-1);
+//
+//   constexpr Field kZoneFields[] = {
+//       KOVA_F(Zone, id, "Id", kInt),
+//       KOVA_F(Zone, name, "Name", kText),
 //   };
-//   ParseFields(obj, record, kFields);   PackFields(record, obj, kFields);
+//   KOVA_DESCRIBE(Zone, kZoneFields)          // at global scope
 //
-// Deliberate irregularities of a configuration stay hand-written beside its
-// table.
+//   constexpr Field kFenceFields[] = {
+//       KOVA_F(Fence, enable, "Enable", kBool),
+//       KOVA_ENUM(Fence, mode, "Mode", kModes).Flag(KOVA_AT(Fence, modePresent)),
+//       KOVA_TUPLE(Fence, origin, "Origin", int32_t, 2),           // [x, y]
+//       KOVA_LIST(Fence, zones, "Zones", KOVA_ITEM_NESTED(Zone))
+//           .Count(KOVA_AT(Fence, zoneCount), CountRule::kTaken),
+//   };
+//
+//   ParseFields(table, &fence, kFenceFields);   // JSON object -> record
+//   PackFields(&fence, table, kFenceFields);    // record -> JSON object
+//
+// Deliberate irregularities stay hand-written beside the table, either as a
+// custom step (KOVA_CUSTOM) that the walker calls in its turn, or as code
+// around the walker's call, each with a comment saying it is intended.
 #ifndef KOVA_COMMON_FIELD_TABLE_H_
 #define KOVA_COMMON_FIELD_TABLE_H_
 
@@ -18,50 +45,182 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
 namespace kova {
 
+// What one scalar (or one tuple item, or one list entry) holds.
 enum class FieldKind : uint8_t {
-  kBool,       // boolean conversion stored as 0/1 in a 1-, 2- or 4-byte field; packs value != 0
-  kBoolIsOne,  // as kBool, but packs true only when the field equals 1
-  kInt,        // signed conversion into a signed 1-, 2-, 4- or 8-byte field (truncated)
-  kUInt,       // unsigned conversion into an unsigned 1-, 2-, 4- or 8-byte field (truncated)
-  kReal,       // real conversion into a float (4 bytes) or double (8 bytes) field
-  kText,       // fixed text field, converted between UTF-8 and the local code page
-  kTextRaw,    // fixed text field, bytes copied unchanged
-  kEnum,       // a name from an EnumNames table, stored as its value in an int field
-  kIntBoolIsOne,  // signed conversion as kInt on parse; packs as a boolean, true only when 1
-  kEnumOrFirst,   // as kEnum, but pack writes the table's first name for a value without one
+  kBool,     // boolean conversion stored as 0/1 in an integer member of any width
+  kInt,      // signed conversion, stored truncated to the member's width
+  kUInt,     // unsigned conversion, stored truncated to the member's width
+  kReal,     // real conversion into a float or double member
+  kText,     // fixed text field, converted between UTF-8 and the local code page
+  kTextRaw,  // fixed text field, bytes copied unchanged
+  kEnum,     // a name of an EnumNames table, stored as its value in an integer member
+  kObject,   // a nested object described by its own table (shape kNested)
+  kCustom,   // a hand-written step (shape kCustom)
+};
+
+enum class FieldShape : uint8_t {
+  kScalar,  // one value
+  kNested,  // an object read with the member type's own table
+  kList,    // a JSON array into a fixed array of entries, each described by `element`
+  kTuple,   // a short JSON array ([x, y], [w, h], [low, high]) into fixed items
+  kCustom,  // a parse/pack pair for what no table can say
+};
+
+// When the walker treats a member as present on pack. Parse always reads a
+// member that is present and not null (and sets the flag when there is one).
+enum class Presence : uint8_t {
+  kAlways,       // always written
+  kFlag,         // written when the flag member is non-zero
+  kSentinel,     // written unless the member equals `sentinel`
+  kNonNegative,  // written unless the member is negative
+};
+
+enum class Direction : uint8_t { kBoth, kParseOnly, kPackOnly };
+
+// How an integer member is written on pack.
+enum class PackAs : uint8_t {
+  kNatural,        // its kind: number, text, name
+  kBoolNonZero,    // a boolean, true when non-zero (the default for kBool)
+  kBoolEqualsOne,  // a boolean, true only when the member equals 1
+};
+
+// What pack writes for an enumeration value without a name.
+enum class Unnamed : uint8_t {
+  kTable,      // as the EnumNames table says (omitUnnamed)
+  kEmptyText,  // ""
+  kOmit,       // nothing
+  kFirstName,  // the table's first name
+};
+
+// How a list's count member is set on parse.
+enum class CountRule : uint8_t {
+  kAll,      // elements looked at: the array's length cut to the capacity
+  kTaken,    // entries stored
+  kNonNull,  // non-null elements among those looked at
 };
 
 // An enumeration held as text in JSON and as a number in the record.
+// Declared with named settings:
+//   constexpr EnumNames kX = EnumNames::Of(kXNames).Exact().FirstValue(1);
 struct EnumNames {
-  const char* const* names;  // names[i] is the text of value first + i; null: no name
-  uint32_t count;
-  bool exact;                // compare exactly; otherwise ASCII case-insensitive
-  int32_t first;             // value of names[0]
-  bool setOnUnknown;         // parse: an unknown text (or a non-string) stores unknownValue...
-  int32_t unknownValue;      // ...instead of leaving the field as it was
-  bool omitUnknown;          // pack: a value without a name is not written (else written as "")
+  const char* const* names = nullptr;  // names[i] is the text of value first + i; null: no name
+  uint32_t count = 0;
+  bool exact = false;         // compare exactly; otherwise ASCII case-insensitive
+  int32_t first = 0;          // value of names[0]
+  bool setOnUnknown = false;  // parse: an unknown text (or a non-string) stores unknownValue...
+  int32_t unknownValue = 0;   // ...instead of leaving the field as it was
+  bool omitUnnamed = false;   // pack: a value without a name is not written (else "")
+
+  template <size_t N>
+  static constexpr EnumNames Of(const char* const (&list)[N]) {
+    EnumNames e;
+    e.names = list;
+    e.count = static_cast<uint32_t>(N);
+    return e;
+  }
+  constexpr EnumNames Exact() const { EnumNames e = *this; e.exact = true; return e; }
+  constexpr EnumNames FirstValue(int32_t v) const { EnumNames e = *this; e.first = v; return e; }
+  constexpr EnumNames UnknownAs(int32_t v) const {
+    EnumNames e = *this;
+    e.setOnUnknown = true;
+    e.unknownValue = v;
+    return e;
+  }
+  constexpr EnumNames OmitUnnamed() const { EnumNames e = *this; e.omitUnnamed = true; return e; }
+};
+
+struct Field;
+
+// A record's description: its fields in the order they are read and written.
+struct FieldTable {
+  const Field* fields;
+  size_t count;
+};
+
+// Hand-written step: reads (or writes) its own member(s) of the object
+// `obj`; `field.key` and `field.offset` say which.
+using CustomParse = void (*)(const Json::Value& obj, unsigned char* record, const Field& field);
+using CustomPack = void (*)(const unsigned char* record, Json::Value& obj, const Field& field);
+
+// Where a flag or count member sits in the record.
+struct Slot {
+  uint32_t offset;
+  uint32_t size;
 };
 
 struct Field {
-  const char* key;
-  FieldKind kind;
-  uint32_t size;     // bytes of the member (capacity of a text field)
-  uint32_t offset;   // offset of the member in the record
-  const EnumNames* names;  // kEnum only
-  int32_t presence;  // offset of a presence flag (byte or uint32, presenceSize), -1 for none
-  uint32_t presenceSize;
+  const char* key = nullptr;  // JSON member name (unused for list entries)
+  uint32_t offset = 0;        // of the member in the record (0 for a list entry)
+  uint32_t size = 0;          // bytes of the member: of one item for tuples, one slot for lists
+  FieldKind kind = FieldKind::kInt;
+  FieldShape shape = FieldShape::kScalar;
+  Direction direction = Direction::kBoth;
+  PackAs packAs = PackAs::kNatural;
+  Presence presence = Presence::kAlways;
+  Slot flag = {0, 0};          // Presence::kFlag
+  int64_t sentinel = 0;        // Presence::kSentinel
+  const EnumNames* names = nullptr;  // kEnum
+  Unnamed unnamed = Unnamed::kTable;
+  const FieldTable* table = nullptr;  // kNested: the member type's table
+  const Field* element = nullptr;     // kList: one entry, at offset 0 of its slot
+  uint32_t capacity = 0;   // kList: slots; kTuple: items
+  uint32_t minItems = 0;   // kTuple: an array with fewer items leaves the member as it was
+  Slot count = {0, 0};     // kList: count member (size 0: none; pack then writes every slot)
+  CountRule countRule = CountRule::kAll;
+  bool keepSlots = false;  // kList: element i goes to slot i, a skipped element leaves its slot
+  CustomParse parse = nullptr;  // kCustom
+  CustomPack pack = nullptr;    // kCustom
+
+  constexpr Field Flag(Slot s) const { Field f = *this; f.presence = Presence::kFlag; f.flag = s; return f; }
+  constexpr Field Sentinel(int64_t v) const {
+    Field f = *this;
+    f.presence = Presence::kSentinel;
+    f.sentinel = v;
+    return f;
+  }
+  constexpr Field NonNegative() const { Field f = *this; f.presence = Presence::kNonNegative; return f; }
+  constexpr Field ParseOnly() const { Field f = *this; f.direction = Direction::kParseOnly; return f; }
+  constexpr Field PackOnly() const { Field f = *this; f.direction = Direction::kPackOnly; return f; }
+  constexpr Field PackBoolEqualsOne() const { Field f = *this; f.packAs = PackAs::kBoolEqualsOne; return f; }
+  constexpr Field PackBool() const { Field f = *this; f.packAs = PackAs::kBoolNonZero; return f; }
+  constexpr Field UnnamedAs(Unnamed u) const { Field f = *this; f.unnamed = u; return f; }
+  constexpr Field Count(Slot s, CountRule rule) const {
+    Field f = *this;
+    f.count = s;
+    f.countRule = rule;
+    return f;
+  }
+  constexpr Field KeepSlots() const { Field f = *this; f.keepSlots = true; return f; }
+  constexpr Field MinItems(uint32_t n) const { Field f = *this; f.minItems = n; return f; }
+  constexpr Field Names(const EnumNames& e) const { Field f = *this; f.names = &e; return f; }
 };
 
-// Parse: for each field whose member is present and not null, store the
-// converted value and set its presence flag. Absent or null members leave
-// the field (and its flag) as they were.
+// The description of a record type, found by the member's type for nested
+// blocks. Specialised by KOVA_DESCRIBE.
+template <typename T>
+struct Description;
+
+// ---------------------------------------------------------------------------
+// The walker.
+
+// Parse: each field whose member is present and not null is read and its
+// presence flag set. Absent or null members leave the record as it was.
+// Writes only inside the members the table names.
 void ParseFields(const Json::Value& obj, void* record, const Field* fields, size_t count);
-// Pack: write each field whose presence flag (if it has one) is set.
+// Pack: each field that is present by its presence rule is written into `obj`.
+// Counts read from the record are cut to the list's capacity.
 void PackFields(const void* record, Json::Value& obj, const Field* fields, size_t count);
 
+inline void ParseFields(const Json::Value& obj, void* record, const FieldTable& t) {
+  ParseFields(obj, record, t.fields, t.count);
+}
+inline void PackFields(const void* record, Json::Value& obj, const FieldTable& t) {
+  PackFields(record, obj, t.fields, t.count);
+}
 template <size_t N>
 void ParseFields(const Json::Value& obj, void* record, const Field (&fields)[N]) {
   ParseFields(obj, record, fields, N);
@@ -71,39 +230,158 @@ void PackFields(const void* record, Json::Value& obj, const Field (&fields)[N]) 
   PackFields(record, obj, fields, N);
 }
 
+// One value read or written as `f` describes it, without a key: `value`
+// is the member's JSON value itself. ParseValue returns whether an entry
+// was taken (a list counts it). Used by the walker and by custom steps.
+bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f);
+bool PackValue(const unsigned char* member, const Field& f, Json::Value* out);
+
 // Enumeration helpers for hand-written steps. EnumValue returns false when
 // the text matches no name; EnumName returns null for a value without one.
 bool EnumValue(const EnumNames& e, const Json::Value& v, int32_t* value);
 const char* EnumName(const EnumNames& e, int64_t value);
 
-// Little-endian-agnostic access to integer members of any width.
+// Width-agnostic access to integer members of 1, 2, 4 or 8 bytes (others read 0).
 int64_t LoadInt(const void* p, uint32_t size, bool isSigned);
 void StoreInt(void* p, uint32_t size, int64_t value);
 
+// ---------------------------------------------------------------------------
+// Compile-time checks of a kind against a member type.
+
+template <typename T>
+constexpr bool IsIntegerMember() {
+  return std::is_integral<T>::value || std::is_enum<T>::value;
+}
+
+template <FieldKind K, typename T>
+constexpr bool KindFits() {
+  if constexpr (K == FieldKind::kText || K == FieldKind::kTextRaw) {
+    return std::is_array<T>::value && std::rank<T>::value == 1 &&
+           std::is_same<std::remove_extent_t<T>, char>::value;
+  } else if constexpr (K == FieldKind::kReal) {
+    return std::is_floating_point<T>::value;
+  } else if constexpr (K == FieldKind::kObject || K == FieldKind::kCustom) {
+    return true;
+  } else if constexpr (K == FieldKind::kBool) {
+    return IsIntegerMember<T>() && sizeof(T) <= 8;
+  } else {
+    return IsIntegerMember<T>() && !std::is_same<T, bool>::value && sizeof(T) <= 8;
+  }
+}
+
+template <FieldKind K, typename T>
+constexpr Field MakeField(const char* key, size_t offset) {
+  static_assert(KindFits<K, T>(), "field kind does not fit the member's type");
+  Field f;
+  f.key = key;
+  f.offset = static_cast<uint32_t>(offset);
+  f.size = static_cast<uint32_t>(sizeof(T));
+  f.kind = K;
+  if (K == FieldKind::kBool) f.packAs = PackAs::kBoolNonZero;
+  return f;
+}
+
+template <typename T>
+constexpr Slot MakeSlot(size_t offset) {
+  static_assert(IsIntegerMember<T>() && sizeof(T) <= 8, "flag and count members are integers");
+  return Slot{static_cast<uint32_t>(offset), static_cast<uint32_t>(sizeof(T))};
+}
+
+template <typename T>
+constexpr Field MakeNested(const char* key, size_t offset) {
+  Field f;
+  f.key = key;
+  f.offset = static_cast<uint32_t>(offset);
+  f.size = static_cast<uint32_t>(sizeof(T));
+  f.kind = FieldKind::kObject;
+  f.shape = FieldShape::kNested;
+  f.table = &Description<T>::table;
+  return f;
+}
+
+// A tuple of `N` items of type Item laid out back to back in the member.
+template <typename Item, FieldKind K, typename T>
+constexpr Field MakeTuple(const char* key, size_t offset, uint32_t n) {
+  static_assert(KindFits<K, Item>(), "tuple kind does not fit the item type");
+  Field f = MakeField<K, Item>(key, offset);
+  f.shape = FieldShape::kTuple;
+  f.capacity = n;
+  f.minItems = n;
+  return f;
+}
+
+template <typename T>
+constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
+  static_assert(std::is_array<T>::value && std::rank<T>::value == 1, "a list member is an array");
+  Field f;
+  f.key = key;
+  f.offset = static_cast<uint32_t>(offset);
+  f.size = static_cast<uint32_t>(sizeof(std::remove_extent_t<T>));
+  f.kind = FieldKind::kObject;
+  f.shape = FieldShape::kList;
+  f.element = element;
+  f.capacity = static_cast<uint32_t>(std::extent<T>::value);
+  return f;
+}
+
+constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, CustomParse parse,
+                           CustomPack pack) {
+  Field f;
+  f.key = key;
+  f.offset = static_cast<uint32_t>(offset);
+  f.size = size;
+  f.kind = FieldKind::kCustom;
+  f.shape = FieldShape::kCustom;
+  f.parse = parse;
+  f.pack = pack;
+  return f;
+}
+
 }  // namespace kova
 
+#define KOVA_MEMBER_TYPE(Rec, member) decltype(static_cast<Rec*>(nullptr)->member)
+#define KOVA_MEMBER_T(Rec, member) std::remove_reference_t<KOVA_MEMBER_TYPE(Rec, member)>
 #define KOVA_MEMBER_SIZE(Rec, member) static_cast<uint32_t>(sizeof(static_cast<Rec*>(nullptr)->member))
-#define KOVA_FIELD(key, Rec, member, kind) \
-  ::kova::Field { key, kind, KOVA_MEMBER_SIZE(Rec, member), static_cast<uint32_t>(offsetof(Rec, member)), nullptr, -1, 0 }
-#define KOVA_TEXT(key, Rec, member) KOVA_FIELD(key, Rec, member, ::kova::FieldKind::kText)
-#define KOVA_ENUM(key, Rec, member, table)                                                       \
-  ::kova::Field { key, ::kova::FieldKind::kEnum, KOVA_MEMBER_SIZE(Rec, member),                  \
-                  static_cast<uint32_t>(offsetof(Rec, member)), table, -1, 0 }
-// A field with a presence flag member `flag` of the same record.
-#define KOVA_FIELD_P(key, Rec, member, kind, flag)                                           \
-  ::kova::Field { key, kind, KOVA_MEMBER_SIZE(Rec, member),                                  \
-                  static_cast<uint32_t>(offsetof(Rec, member)), nullptr,                     \
-                  static_cast<int32_t>(offsetof(Rec, flag)), KOVA_MEMBER_SIZE(Rec, flag) }
-#define KOVA_ENUM_P(key, Rec, member, table, flag)                                           \
-  ::kova::Field { key, ::kova::FieldKind::kEnum, KOVA_MEMBER_SIZE(Rec, member),              \
-                  static_cast<uint32_t>(offsetof(Rec, member)), table,                       \
-                  static_cast<int32_t>(offsetof(Rec, flag)), KOVA_MEMBER_SIZE(Rec, flag) }
 
-// As KOVA_ENUM_P, for a table whose first name stands in for any value
-// without a name on pack.
-#define KOVA_ENUM_FIRST_P(key, Rec, member, table, flag)                                     \
-  ::kova::Field { key, ::kova::FieldKind::kEnumOrFirst, KOVA_MEMBER_SIZE(Rec, member),       \
-                  static_cast<uint32_t>(offsetof(Rec, member)), table,                       \
-                  static_cast<int32_t>(offsetof(Rec, flag)), KOVA_MEMBER_SIZE(Rec, flag) }
+// A scalar member: KOVA_F(Rec, member, "Key", kInt).
+#define KOVA_F(Rec, member, key, KIND) \
+  ::kova::MakeField<::kova::FieldKind::KIND, KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
+// An enumeration member with its EnumNames table.
+#define KOVA_ENUM(Rec, member, key, namesTable) KOVA_F(Rec, member, key, kEnum).Names(namesTable)
+// A flag or count member, for .Flag() and .Count().
+#define KOVA_AT(Rec, member) ::kova::MakeSlot<KOVA_MEMBER_T(Rec, member)>(offsetof(Rec, member))
+// A nested object read with its type's own table (see KOVA_DESCRIBE).
+#define KOVA_NESTED(Rec, member, key) \
+  ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
+// A tuple of n items of type Item ([x, y]: KOVA_TUPLE(Rec, pt, "Point", int32_t, 2)); by
+// default all n items are required, .MinItems(k) lowers that.
+#define KOVA_TUPLE(Rec, member, key, Item, n)                                                    \
+  ::kova::MakeTuple<Item, ::kova::FieldKind::kInt, KOVA_MEMBER_T(Rec, member)>(key,              \
+                                                                              offsetof(Rec, member), n)
+#define KOVA_TUPLE_OF(Rec, member, key, Item, KIND, n)                                           \
+  ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, KOVA_MEMBER_T(Rec, member)>(                  \
+      key, offsetof(Rec, member), n)
+// A fixed list: `elementField` (a constexpr Field, see KOVA_ITEM*) describes one entry.
+#define KOVA_LIST(Rec, member, key, elementField) \
+  ::kova::MakeList<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member), &(elementField))
+// A hand-written step over a member (or over the whole record: offset 0, size 0).
+#define KOVA_CUSTOM(Rec, member, key, parseFn, packFn) \
+  ::kova::MakeCustom(key, offsetof(Rec, member), KOVA_MEMBER_SIZE(Rec, member), parseFn, packFn)
+
+// List entries: a scalar, nested or tuple entry of type Type at offset 0 of its slot.
+#define KOVA_ITEM(Type, KIND) ::kova::MakeField<::kova::FieldKind::KIND, Type>(nullptr, 0)
+#define KOVA_ITEM_NESTED(Type) ::kova::MakeNested<Type>(nullptr, 0)
+#define KOVA_ITEM_TUPLE(Type, Item, KIND, n) ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, Type>(nullptr, 0, n)
+
+// Registers `fields` (a constexpr Field array) as the description of Type,
+// for KOVA_NESTED and KOVA_ITEM_NESTED. Use at global scope. A description
+// shared between files lives in a header as an `inline constexpr` array.
+#define KOVA_DESCRIBE(Type, fields)                                                    \
+  namespace kova {                                                                     \
+  template <>                                                                          \
+  struct Description<Type> {                                                           \
+    static constexpr FieldTable table{fields, sizeof(fields) / sizeof((fields)[0])};   \
+  };                                                                                   \
+  }
 
 #endif  // KOVA_COMMON_FIELD_TABLE_H_

@@ -25,22 +25,20 @@ const EnumNames kAccessProperty = {kAccessPropertyNames, 2, false, 1, true, 0, t
 
 // The members directly under "table".
 const Field kTableFields[] = {
-    KOVA_FIELD("UnlockReloadInterval", AccessGeneralRecord, unlockReloadInterval, FieldKind::kInt),
-    KOVA_FIELD("UnlockHoldInterval", AccessGeneralRecord, unlockHoldInterval, FieldKind::kInt),
-    KOVA_FIELD_P("ProjectPassword", AccessGeneralRecord, projectPassword, FieldKind::kText,
-                 projectPasswordPresent),
-    KOVA_ENUM_P("AccessProperty", AccessGeneralRecord, accessProperty, &kAccessProperty,
-                accessPropertyPresent),
+    KOVA_F(AccessGeneralRecord, unlockReloadInterval, "UnlockReloadInterval", kInt),
+    KOVA_F(AccessGeneralRecord, unlockHoldInterval, "UnlockHoldInterval", kInt),
+    KOVA_F(AccessGeneralRecord, projectPassword, "ProjectPassword", kText).Flag(KOVA_AT(AccessGeneralRecord, projectPasswordPresent)),
+    KOVA_ENUM(AccessGeneralRecord, accessProperty, "AccessProperty", kAccessProperty).Flag(KOVA_AT(AccessGeneralRecord, accessPropertyPresent)),
 };
 
 // The members of "Sound".
 const Field kSoundFields[] = {
-    KOVA_TEXT("OpenDoor", AccessGeneralRecord, openDoorSound),
-    KOVA_TEXT("CloseDoor", AccessGeneralRecord, closeDoorSound),
-    KOVA_TEXT("InUsed", AccessGeneralRecord, inUsedSound),
-    KOVA_TEXT("NotInUsed", AccessGeneralRecord, notInUsedSound),
-    KOVA_TEXT("NotClosed", AccessGeneralRecord, notClosedSound),
-    KOVA_TEXT("Waiting", AccessGeneralRecord, waitingSound),
+    KOVA_F(AccessGeneralRecord, openDoorSound, "OpenDoor", kText),
+    KOVA_F(AccessGeneralRecord, closeDoorSound, "CloseDoor", kText),
+    KOVA_F(AccessGeneralRecord, inUsedSound, "InUsed", kText),
+    KOVA_F(AccessGeneralRecord, notInUsedSound, "NotInUsed", kText),
+    KOVA_F(AccessGeneralRecord, notClosedSound, "NotClosed", kText),
+    KOVA_F(AccessGeneralRecord, waitingSound, "Waiting", kText),
 };
 
 // A count from the caller's record, cut to the array it counts.

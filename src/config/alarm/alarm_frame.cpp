@@ -45,13 +45,6 @@ void PackLinkage(const EventHandlerRecord& eh, const WeekSchedule* week, Json::V
   }
 }
 
-uint32_t CallerRecordSize(const void* buf, uint32_t len) {
-  uint32_t size = 0;
-  if (len < sizeof size) return 0;
-  std::memcpy(&size, buf, sizeof size);
-  return (size < 1 || size > len) ? 0 : size;
-}
-
 int FinishAlarmPack(const Json::Value& payload, char* outJson, uint32_t outLen) {
   return CopyTextAtMost(WriteJson(payload), outJson, outLen) ? 1 : 0;
 }

@@ -11,14 +11,14 @@ namespace kova {
 namespace {
 
 const Field kFields[] = {
-    KOVA_FIELD("Enable", AlarmInRecord, enable, FieldKind::kBool),
-    KOVA_TEXT("Name", AlarmInRecord, name),
-    KOVA_FIELD_P("ID", AlarmInRecord, id, FieldKind::kText, idPresent),
-    KOVA_ENUM("EnableControl", AlarmInRecord, enableControl, &kEnableControlNames),
-    KOVA_FIELD("DisableDelay", AlarmInRecord, disableDelay, FieldKind::kInt),
-    KOVA_ENUM("SenseMethod", AlarmInRecord, senseMethod, &kSenseMethodNames),
-    KOVA_FIELD("EnableDelay", AlarmInRecord, enableDelay, FieldKind::kInt),
-    KOVA_FIELD_P("Level2", AlarmInRecord, level2, FieldKind::kInt, level2Present),
+    KOVA_F(AlarmInRecord, enable, "Enable", kBool),
+    KOVA_F(AlarmInRecord, name, "Name", kText),
+    KOVA_F(AlarmInRecord, id, "ID", kText).Flag(KOVA_AT(AlarmInRecord, idPresent)),
+    KOVA_ENUM(AlarmInRecord, enableControl, "EnableControl", kEnableControlNames),
+    KOVA_F(AlarmInRecord, disableDelay, "DisableDelay", kInt),
+    KOVA_ENUM(AlarmInRecord, senseMethod, "SenseMethod", kSenseMethodNames),
+    KOVA_F(AlarmInRecord, enableDelay, "EnableDelay", kInt),
+    KOVA_F(AlarmInRecord, level2, "Level2", kInt).Flag(KOVA_AT(AlarmInRecord, level2Present)),
 };
 
 // "Slot" and "Level1" have no presence flag: -1 stands for "not given" in

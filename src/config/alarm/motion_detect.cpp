@@ -21,23 +21,22 @@ constexpr uint32_t kWindowCells = KOVA_MOTION_COLS;
 constexpr uint32_t kMaxWindows = KOVA_MOTION_MAX_WINDOWS;
 
 const Field kFields[] = {
-    KOVA_FIELD("Enable", MotionDetectRecord, enable, FieldKind::kBool),
-    KOVA_FIELD_P("Level", MotionDetectRecord, level, FieldKind::kInt, levelPresent),
-    KOVA_FIELD_P("VolumeRatio", MotionDetectRecord, volumeRatio, FieldKind::kInt,
-                 volumeRatioPresent),
-    KOVA_FIELD_P("SubRatio", MotionDetectRecord, subRatio, FieldKind::kInt, subRatioPresent),
+    KOVA_F(MotionDetectRecord, enable, "Enable", kBool),
+    KOVA_F(MotionDetectRecord, level, "Level", kInt).Flag(KOVA_AT(MotionDetectRecord, levelPresent)),
+    KOVA_F(MotionDetectRecord, volumeRatio, "VolumeRatio", kInt).Flag(KOVA_AT(MotionDetectRecord, volumeRatioPresent)),
+    KOVA_F(MotionDetectRecord, subRatio, "SubRatio", kInt).Flag(KOVA_AT(MotionDetectRecord, subRatioPresent)),
 };
 
 const Field kWindowFields[] = {
-    KOVA_FIELD("Threshold", MotionWindow, threshold, FieldKind::kInt),
-    KOVA_FIELD("Sensitive", MotionWindow, sensitive, FieldKind::kInt),
+    KOVA_F(MotionWindow, threshold, "Threshold", kInt),
+    KOVA_F(MotionWindow, sensitive, "Sensitive", kInt),
 };
 
 const Field kDetectWindowFields[] = {
-    KOVA_FIELD("Id", MotionDetectWindow, id, FieldKind::kInt),
-    KOVA_TEXT("Name", MotionDetectWindow, name),
-    KOVA_FIELD("Threshold", MotionDetectWindow, threshold, FieldKind::kInt),
-    KOVA_FIELD("Sensitive", MotionDetectWindow, sensitive, FieldKind::kInt),
+    KOVA_F(MotionDetectWindow, id, "Id", kInt),
+    KOVA_F(MotionDetectWindow, name, "Name", kText),
+    KOVA_F(MotionDetectWindow, threshold, "Threshold", kInt),
+    KOVA_F(MotionDetectWindow, sensitive, "Sensitive", kInt),
 };
 
 // A row count from the caller's record, cut to the grid.

@@ -10,8 +10,8 @@ namespace kova {
 namespace {
 
 const Field kFields[] = {
-    KOVA_FIELD("Enable", NetAlarmRecord, enable, FieldKind::kBool),
-    KOVA_TEXT("Name", NetAlarmRecord, name),
+    KOVA_F(NetAlarmRecord, enable, "Enable", kBool),
+    KOVA_F(NetAlarmRecord, name, "Name", kText),
 };
 
 void Fill(const Json::Value& /*params*/, const Json::Value& table, NetAlarmRecord* r) {

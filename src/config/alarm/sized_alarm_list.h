@@ -17,6 +17,7 @@
 
 #include "common/json/json.h"
 #include "config/alarm/alarm_frame.h"
+#include "drivers/response_frame.h"
 #include "drivers/table_driver.h"
 
 namespace kova {
@@ -26,9 +27,6 @@ namespace kova {
 // than n times this many bytes of text.
 constexpr uint32_t kMinPackedEntryText = 42 * 21;
 
-// Reads the caller's stride from the first record: 0 when the buffer cannot
-// hold the size word or the size is 0 or larger than `len`.
-uint32_t CallerRecordSize(const void* buf, uint32_t len);
 
 template <typename Rec>
 int ParseSizedAlarmList(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen,

@@ -11,13 +11,13 @@ namespace kova {
 namespace {
 
 const Field kTemperatureFields[] = {
-    KOVA_FIELD("Enable", TemperatureAlarmRecord, enable, FieldKind::kBool),
-    KOVA_TEXT("Name", TemperatureAlarmRecord, name),
+    KOVA_F(TemperatureAlarmRecord, enable, "Enable", kBool),
+    KOVA_F(TemperatureAlarmRecord, name, "Name", kText),
 };
 
 const Field kFanFields[] = {
-    KOVA_FIELD("Enable", FanSpeedAlarmRecord, enable, FieldKind::kBool),
-    KOVA_TEXT("Name", FanSpeedAlarmRecord, name),
+    KOVA_F(FanSpeedAlarmRecord, enable, "Enable", kBool),
+    KOVA_F(FanSpeedAlarmRecord, name, "Name", kText),
 };
 
 void FillTemperature(const Json::Value& entry, TemperatureAlarmRecord* r) {

@@ -13,12 +13,12 @@ namespace kova {
 namespace {
 
 const Field kEventFields[] = {
-    KOVA_FIELD("Enable", SystemEventRecord, enable, FieldKind::kBool),
+    KOVA_F(SystemEventRecord, enable, "Enable", kBool),
 };
 
 const Field kLowSpaceFields[] = {
-    KOVA_FIELD("Enable", StorageLowSpaceRecord, enable, FieldKind::kBool),
-    KOVA_FIELD("LowerLimit", StorageLowSpaceRecord, lowerLimit, FieldKind::kInt),
+    KOVA_F(StorageLowSpaceRecord, enable, "Enable", kBool),
+    KOVA_F(StorageLowSpaceRecord, lowerLimit, "LowerLimit", kInt),
 };
 
 }  // namespace

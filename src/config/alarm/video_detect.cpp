@@ -9,12 +9,12 @@ namespace kova {
 namespace {
 
 const Field kLossFields[] = {
-    KOVA_FIELD("Enable", LossDetectRecord, enable, FieldKind::kBool),
+    KOVA_F(LossDetectRecord, enable, "Enable", kBool),
 };
 
 const Field kBlindFields[] = {
-    KOVA_FIELD("Enable", BlindDetectRecord, enable, FieldKind::kBool),
-    KOVA_FIELD("Level", BlindDetectRecord, level, FieldKind::kInt),
+    KOVA_F(BlindDetectRecord, enable, "Enable", kBool),
+    KOVA_F(BlindDetectRecord, level, "Level", kInt),
 };
 
 }  // namespace

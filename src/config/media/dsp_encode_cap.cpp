@@ -21,16 +21,16 @@ namespace {
 constexpr uint32_t kRecordSize = sizeof(DspEncodeCapRecord);
 
 const Field kScalarFields[] = {
-    KOVA_FIELD("MaxEncodePower", DspEncodeCapRecord, maxEncodePower, FieldKind::kUInt),
-    KOVA_FIELD("MaxSupportChannel", DspEncodeCapRecord, maxSupportChannel, FieldKind::kUInt),
-    KOVA_FIELD("ChannelMaxSetSync", DspEncodeCapRecord, channelMaxSetSync, FieldKind::kBool),
-    KOVA_FIELD("VideoStandardMask", DspEncodeCapRecord, videoStandardMask, FieldKind::kUInt),
-    KOVA_FIELD("EncodeModeMask", DspEncodeCapRecord, encodeModeMask, FieldKind::kUInt),
-    KOVA_FIELD("ImageSizeMask", DspEncodeCapRecord, imageSizeMask, FieldKind::kUInt),
-    KOVA_FIELD("EncodeCap", DspEncodeCapRecord, encodeCap, FieldKind::kUInt),
-    KOVA_FIELD("StreamCap", DspEncodeCapRecord, streamCap, FieldKind::kUInt),
-    KOVA_FIELD("ResolutionNum", DspEncodeCapRecord, resolutionNum, FieldKind::kInt),
-    KOVA_FIELD("ResolutionNum_1", DspEncodeCapRecord, resolutionNum1, FieldKind::kInt),
+    KOVA_F(DspEncodeCapRecord, maxEncodePower, "MaxEncodePower", kUInt),
+    KOVA_F(DspEncodeCapRecord, maxSupportChannel, "MaxSupportChannel", kUInt),
+    KOVA_F(DspEncodeCapRecord, channelMaxSetSync, "ChannelMaxSetSync", kBool),
+    KOVA_F(DspEncodeCapRecord, videoStandardMask, "VideoStandardMask", kUInt),
+    KOVA_F(DspEncodeCapRecord, encodeModeMask, "EncodeModeMask", kUInt),
+    KOVA_F(DspEncodeCapRecord, imageSizeMask, "ImageSizeMask", kUInt),
+    KOVA_F(DspEncodeCapRecord, encodeCap, "EncodeCap", kUInt),
+    KOVA_F(DspEncodeCapRecord, streamCap, "StreamCap", kUInt),
+    KOVA_F(DspEncodeCapRecord, resolutionNum, "ResolutionNum", kInt),
+    KOVA_F(DspEncodeCapRecord, resolutionNum1, "ResolutionNum_1", kInt),
 };
 
 // The list members: a count member and the array it counts.

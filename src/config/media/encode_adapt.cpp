@@ -21,8 +21,8 @@ const EnumNames kPolicyNames = {kPolicy, 3, true, 1, true, 0, false};
 const EnumNames kFluencyModeNames = {kFluencyMode, 4, true, 1, true, 0, false};
 
 const Field kAdaptFields[] = {
-    KOVA_ENUM("Policy", EncodeAdaptConfig, policy, &kPolicyNames),
-    KOVA_ENUM("FluencyMode", EncodeAdaptConfig, fluencyMode, &kFluencyModeNames),
+    KOVA_ENUM(EncodeAdaptConfig, policy, "Policy", kPolicyNames),
+    KOVA_ENUM(EncodeAdaptConfig, fluencyMode, "FluencyMode", kFluencyModeNames),
 };
 
 void ParseAdaptRecord(const Json::Value& channel, unsigned char* record) {

@@ -12,33 +12,31 @@ namespace kova {
 namespace {
 
 const Field kSwitchFields[] = {
-    KOVA_FIELD_P("AudioEnable", EncodeFormat, audioEnable, FieldKind::kBool, hasAudioEnable),
-    KOVA_FIELD_P("VideoEnable", EncodeFormat, videoEnable, FieldKind::kBool, hasVideoEnable),
-    KOVA_FIELD_P("SnapEnable", EncodeFormat, snapEnable, FieldKind::kBool, hasSnapEnable),
+    KOVA_F(EncodeFormat, audioEnable, "AudioEnable", kBool).Flag(KOVA_AT(EncodeFormat, hasAudioEnable)),
+    KOVA_F(EncodeFormat, videoEnable, "VideoEnable", kBool).Flag(KOVA_AT(EncodeFormat, hasVideoEnable)),
+    KOVA_F(EncodeFormat, snapEnable, "SnapEnable", kBool).Flag(KOVA_AT(EncodeFormat, hasSnapEnable)),
 };
 
 const Field kVideoFields[] = {
-    KOVA_FIELD_P("BitRate", VideoFormat, bitRate, FieldKind::kInt, hasBitRate),
-    KOVA_ENUM_FIRST_P("BitRateControl", VideoFormat, bitRateControl, &kBitRateControlNames,
-                      hasBitRateControl),
-    KOVA_ENUM_P("Compression", VideoFormat, compression, &kVideoCompressionNames, hasCompression),
-    KOVA_FIELD_P("FPS", VideoFormat, frameRate, FieldKind::kReal, hasFrameRate),
-    KOVA_ENUM_P("Pack", VideoFormat, pack, &kPackFormatNames, hasPack),
-    KOVA_FIELD_P("Height", VideoFormat, height, FieldKind::kInt, hasHeight),
-    KOVA_FIELD_P("GOP", VideoFormat, gop, FieldKind::kInt, hasGop),
-    KOVA_FIELD_P("Quality", VideoFormat, quality, FieldKind::kInt, hasQuality),
-    KOVA_FIELD_P("Width", VideoFormat, width, FieldKind::kInt, hasWidth),
-    KOVA_ENUM_FIRST_P("Profile", VideoFormat, profile, &kProfileNames, hasProfile),
+    KOVA_F(VideoFormat, bitRate, "BitRate", kInt).Flag(KOVA_AT(VideoFormat, hasBitRate)),
+    KOVA_ENUM(VideoFormat, bitRateControl, "BitRateControl", kBitRateControlNames).UnnamedAs(::kova::Unnamed::kFirstName).Flag(KOVA_AT(VideoFormat, hasBitRateControl)),
+    KOVA_ENUM(VideoFormat, compression, "Compression", kVideoCompressionNames).Flag(KOVA_AT(VideoFormat, hasCompression)),
+    KOVA_F(VideoFormat, frameRate, "FPS", kReal).Flag(KOVA_AT(VideoFormat, hasFrameRate)),
+    KOVA_ENUM(VideoFormat, pack, "Pack", kPackFormatNames).Flag(KOVA_AT(VideoFormat, hasPack)),
+    KOVA_F(VideoFormat, height, "Height", kInt).Flag(KOVA_AT(VideoFormat, hasHeight)),
+    KOVA_F(VideoFormat, gop, "GOP", kInt).Flag(KOVA_AT(VideoFormat, hasGop)),
+    KOVA_F(VideoFormat, quality, "Quality", kInt).Flag(KOVA_AT(VideoFormat, hasQuality)),
+    KOVA_F(VideoFormat, width, "Width", kInt).Flag(KOVA_AT(VideoFormat, hasWidth)),
+    KOVA_ENUM(VideoFormat, profile, "Profile", kProfileNames).UnnamedAs(::kova::Unnamed::kFirstName).Flag(KOVA_AT(VideoFormat, hasProfile)),
 };
 
 const Field kAudioFields[] = {
-    KOVA_ENUM_FIRST_P("Compression", AudioFormat, compression, &kAudioCompressionNames,
-                      hasCompression),
-    KOVA_FIELD_P("Depth", AudioFormat, depth, FieldKind::kInt, hasDepth),
-    KOVA_ENUM_P("Pack", AudioFormat, pack, &kPackFormatNames, hasPack),
-    KOVA_FIELD_P("Frequency", AudioFormat, frequency, FieldKind::kInt, hasFrequency),
-    KOVA_FIELD_P("Mode", AudioFormat, mode, FieldKind::kInt, hasMode),
-    KOVA_FIELD_P("PacketPeriod", AudioFormat, packetPeriod, FieldKind::kInt, hasPacketPeriod),
+    KOVA_ENUM(AudioFormat, compression, "Compression", kAudioCompressionNames).UnnamedAs(::kova::Unnamed::kFirstName).Flag(KOVA_AT(AudioFormat, hasCompression)),
+    KOVA_F(AudioFormat, depth, "Depth", kInt).Flag(KOVA_AT(AudioFormat, hasDepth)),
+    KOVA_ENUM(AudioFormat, pack, "Pack", kPackFormatNames).Flag(KOVA_AT(AudioFormat, hasPack)),
+    KOVA_F(AudioFormat, frequency, "Frequency", kInt).Flag(KOVA_AT(AudioFormat, hasFrequency)),
+    KOVA_F(AudioFormat, mode, "Mode", kInt).Flag(KOVA_AT(AudioFormat, hasMode)),
+    KOVA_F(AudioFormat, packetPeriod, "PacketPeriod", kInt).Flag(KOVA_AT(AudioFormat, hasPacketPeriod)),
 };
 
 constexpr size_t kVideoOffset = offsetof(EncodeFormat, video);
@@ -49,14 +47,14 @@ constexpr size_t kHasAudioFormat = offsetof(EncodeFormat, hasAudioFormat);
 // for absent keys, so the flags are cleared before the walk.
 template <size_t N>
 void ParseWithFlags(const Json::Value& obj, unsigned char* record, const Field (&fields)[N]) {
-  for (const Field& f : fields) StoreInt(record + f.presence, f.presenceSize, 0);
+  for (const Field& f : fields) StoreInt(record + f.flag.offset, f.flag.size, 0);
   ParseFields(obj, record, fields);
 }
 
 template <size_t N>
 bool AnyFlag(const unsigned char* record, const Field (&fields)[N]) {
   for (const Field& f : fields) {
-    if (LoadInt(record + f.presence, f.presenceSize, false) != 0) return true;
+    if (LoadInt(record + f.flag.offset, f.flag.size, false) != 0) return true;
   }
   return false;
 }

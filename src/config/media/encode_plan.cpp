@@ -21,8 +21,8 @@ namespace {
 constexpr uint32_t kEntrySize = sizeof(EncodePlanEntry);
 
 const Field kEntryFields[] = {
-    KOVA_FIELD("BitRate", EncodePlanEntry, bitRate, FieldKind::kUInt),
-    KOVA_FIELD("ExpectTime", EncodePlanEntry, expectTime, FieldKind::kUInt),
+    KOVA_F(EncodePlanEntry, bitRate, "BitRate", kUInt),
+    KOVA_F(EncodePlanEntry, expectTime, "ExpectTime", kUInt),
 };
 
 constexpr size_t kEnable = offsetof(EncodePlanEntry, enable);

@@ -22,12 +22,12 @@ constexpr uint32_t kRegionNumbers = 4;
 
 const Field kRoiFields[] = {
     // One byte on purpose: a quality above 255 wraps.
-    KOVA_FIELD("Quality", EncodeRoiConfig, quality, FieldKind::kUInt),
-    KOVA_FIELD("Main", EncodeRoiConfig, main, FieldKind::kBool),
-    KOVA_FIELD("Extra1", EncodeRoiConfig, extra1, FieldKind::kBool),
-    KOVA_FIELD("Extra2", EncodeRoiConfig, extra2, FieldKind::kBool),
-    KOVA_FIELD("Extra3", EncodeRoiConfig, extra3, FieldKind::kBool),
-    KOVA_FIELD("Snapshot", EncodeRoiConfig, snapshot, FieldKind::kBool),
+    KOVA_F(EncodeRoiConfig, quality, "Quality", kUInt),
+    KOVA_F(EncodeRoiConfig, main, "Main", kBool),
+    KOVA_F(EncodeRoiConfig, extra1, "Extra1", kBool),
+    KOVA_F(EncodeRoiConfig, extra2, "Extra2", kBool),
+    KOVA_F(EncodeRoiConfig, extra3, "Extra3", kBool),
+    KOVA_F(EncodeRoiConfig, snapshot, "Snapshot", kBool),
 };
 
 constexpr size_t RegionOffset(uint32_t i) {

@@ -1,0 +1,190 @@
+#include "drivers/response_frame.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+#include <vector>
+
+#include "common/json/json.h"
+#include "common/json/json_writer.h"
+#include "drivers/table_driver.h"
+
+namespace kova {
+
+namespace {
+
+void ReportLength(const ResponseFrame& f, uint32_t* retLen, uint64_t bytes) {
+  if (retLen == nullptr) return;
+  switch (f.returned) {
+    case ReturnedLength::kSetBytes:
+      *retLen = static_cast<uint32_t>(bytes);
+      break;
+    case ReturnedLength::kAddBytes:
+      *retLen += static_cast<uint32_t>(bytes);
+      break;
+    case ReturnedLength::kSetRecord:
+      *retLen = f.recordSize;
+      break;
+  }
+}
+
+const Json::Value& TableOf(const ResponseFrame& f, const Json::Value& root) {
+  switch (f.tableAt) {
+    case TableAt::kParamsTable:
+      return Member(Member(root, "params"), "table");
+    case TableAt::kParams:
+      return Member(root, "params");
+    case TableAt::kRoot:
+      return root;
+  }
+  return root;
+}
+
+// Clears what the clearing rule covers; caller-sized slots keep their size word.
+void ClearOutput(const ResponseFrame& f, unsigned char* out, uint32_t outLen, uint32_t stride) {
+  switch (f.clearing) {
+    case Clearing::kNone:
+      return;
+    case Clearing::kWholeBuffer:
+      std::memset(out, 0, outLen);
+      break;
+    case Clearing::kRecords:
+      std::memset(out, 0, static_cast<size_t>(outLen / stride) * stride);
+      break;
+  }
+  if (f.walk == RecordWalk::kCallerSized) {
+    const uint32_t word = std::min<uint32_t>(stride, sizeof stride);
+    for (uint32_t i = 0; i < outLen / stride; ++i) {
+      std::memcpy(out + static_cast<size_t>(i) * stride, &stride, word);
+    }
+  }
+}
+
+}  // namespace
+
+uint32_t CallerRecordSize(const void* buf, uint32_t len) {
+  uint32_t size = 0;
+  if (buf == nullptr || len < sizeof size) return 0;
+  std::memcpy(&size, buf, sizeof size);
+  return (size < 1 || size > len) ? 0 : size;
+}
+
+int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule) {
+  const std::string text = WriteJson(value);
+  const bool copied = rule == CopyRule::kAtMost ? CopyTextAtMost(text, outJson, outLen)
+                                                : CopyTextStrict(text, outJson, outLen);
+  return copied ? 1 : 0;
+}
+
+int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, uint32_t outLen,
+                   uint32_t* retLen) {
+  try {
+    if (jsonText == nullptr || outBuf == nullptr || f.parse == nullptr || f.recordSize == 0) {
+      return 0;
+    }
+    unsigned char* out = static_cast<unsigned char*>(outBuf);
+    uint32_t stride = f.recordSize;
+    if (f.walk == RecordWalk::kCallerSized) {
+      stride = CallerRecordSize(outBuf, outLen);
+      if (stride == 0) return 0;
+    } else if (outLen < f.recordSize) {
+      return 0;
+    }
+    ClearOutput(f, out, outLen, stride);
+
+    Json::Value root;
+    if (!ReadJson(jsonText, &root)) return 0;
+    if (f.result == ResultRule::kMustBeTrue && !ResultIsTrue(root)) return 0;
+    const Json::Value& table = TableOf(f, root);
+    if (table.isNull()) {
+      switch (f.nullTable) {
+        case NullTable::kFail:
+          return 0;
+        case NullTable::kSucceedEmpty:
+          ReportLength(f, retLen, 0);
+          return 1;
+        case NullTable::kAllZeroRecord:
+          if (f.clearing == Clearing::kNone) std::memset(out, 0, std::min(stride, outLen));
+          ReportLength(f, retLen, stride);
+          return 1;
+      }
+    }
+
+    const bool perElement = f.walk != RecordWalk::kOne && table.isArray();
+    const uint32_t slots = outLen / stride;
+    const uint32_t n = perElement ? std::min(Count(table), slots) : 1;
+    // A caller's record shorter than ours is built in a scratch record and
+    // copied out as far as the caller's size reaches.
+    std::vector<unsigned char> scratch;
+    if (stride < f.recordSize) {
+      scratch.assign(f.recordSize, 0);
+    }
+    const StepContext ctxBase{root, Member(root, "params"), 0, f.recordSize};
+    uint32_t filled = 0;
+    for (uint32_t i = 0; i < n; ++i) {
+      const Json::Value& element = perElement ? Element(table, i) : table;
+      if (f.skipNullElements && element.isNull()) continue;
+      unsigned char* slot = out + static_cast<size_t>(i) * stride;
+      unsigned char* record = slot;
+      if (!scratch.empty()) {
+        std::fill(scratch.begin(), scratch.end(), 0);
+        std::memcpy(scratch.data(), slot, std::min<size_t>(stride, sizeof(uint32_t)));
+        record = scratch.data();
+      }
+      const StepContext ctx{ctxBase.root, ctxBase.params, i, f.recordSize};
+      if (!f.parse(element, ctx, record)) {
+        if (f.clearing != Clearing::kNone) ClearOutput(f, out, outLen, stride);
+        return 0;
+      }
+      if (!scratch.empty()) std::memcpy(slot, scratch.data(), stride);
+      ++filled;
+    }
+    ReportLength(f, retLen, static_cast<uint64_t>(filled) * stride);
+    return 1;
+  } catch (...) {
+    return 0;
+  }
+}
+
+int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, char* outJson,
+                  uint32_t outLen) {
+  try {
+    if (outJson == nullptr || outLen == 0) return 0;
+    std::memset(outJson, 0, outLen);
+    if (inBuf == nullptr || f.pack == nullptr || f.recordSize == 0) return 0;
+    const unsigned char* in = static_cast<const unsigned char*>(inBuf);
+    uint32_t stride = f.recordSize;
+    if (f.packWalk == PackWalk::kCallerSized) {
+      stride = CallerRecordSize(inBuf, inLen);
+      if (stride == 0) return 0;
+    } else if (inLen < f.recordSize) {
+      return 0;
+    }
+    const uint32_t n = f.packWalk == PackWalk::kOne ? 1 : inLen / stride;
+    std::vector<unsigned char> scratch;
+    if (stride < f.recordSize) scratch.assign(f.recordSize, 0);
+
+    Json::Value root;
+    const bool array = n > 1 || f.packArrayAlways;
+    if (array) root = Json::Value(Json::arrayValue);
+    for (uint32_t i = 0; i < n; ++i) {
+      const unsigned char* record = in + static_cast<size_t>(i) * stride;
+      if (!scratch.empty()) {
+        std::fill(scratch.begin(), scratch.end(), 0);
+        std::memcpy(scratch.data(), record, stride);
+        record = scratch.data();
+      }
+      Json::Value& target = array ? SetElement(root, i) : root;
+      if (!f.pack(record, target)) {
+        std::memset(outJson, 0, outLen);
+        return 0;
+      }
+    }
+    return CopyPacked(root, outJson, outLen, f.copy);
+  } catch (...) {
+    std::memset(outJson, 0, outLen);
+    return 0;
+  }
+}
+
+}  // namespace kova

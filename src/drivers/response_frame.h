@@ -1,0 +1,136 @@
+// The response frame: everything around a per-record step for the
+// translators that are not table drivers, described per configuration.
+//
+//   parse: argument checks -> clearing -> JSON text -> envelope ("result",
+//          where the table sits) -> record walk (one record, per channel,
+//          caller-sized) -> returned length
+//   pack:  argument checks -> record walk -> single-line text -> copy rule
+//
+// A configuration states its frame once:
+//
+//   constexpr ResponseFrame kFrame = ResponseFrame::For<NtpRecord>(ParseNtp, PackNtp)
+//                                        .Walk(RecordWalk::kPerChannel)
+//                                        .IgnoreResult();
+//   int ParseNtpConfig(const char* t, void* o, uint32_t n, uint32_t* r) {
+//     return ParseWithFrame(kFrame, t, o, n, r);
+//   }
+//
+// Steps work on the record in place: the caller's buffer is aligned for its
+// records (the public contract) and was cleared before the step runs.
+#ifndef KOVA_DRIVERS_RESPONSE_FRAME_H_
+#define KOVA_DRIVERS_RESPONSE_FRAME_H_
+
+#include <json/value.h>
+
+#include <cstdint>
+
+namespace kova {
+
+// What the step sees besides its own element.
+struct StepContext {
+  const Json::Value& root;    // the whole response
+  const Json::Value& params;  // root "params" (null when missing)
+  uint32_t index;             // record index in the walk
+  uint32_t recordBytes;       // bytes of the record the step may touch
+};
+
+// One record from one JSON element. false fails the whole parse.
+using ParseStep = bool (*)(const Json::Value& element, const StepContext& ctx,
+                           unsigned char* record);
+// One record into one JSON value (null on entry). false fails the whole pack.
+using PackStep = bool (*)(const unsigned char* record, Json::Value& out);
+
+// Whether "result" decides anything.
+enum class ResultRule : uint8_t { kMustBeTrue, kIgnored };
+// Where the records' JSON sits.
+enum class TableAt : uint8_t { kParamsTable, kParams, kRoot };
+// What a missing or null table does.
+enum class NullTable : uint8_t {
+  kSucceedEmpty,   // success, no record filled (returned length 0)
+  kFail,           // failure
+  kAllZeroRecord,  // success with one cleared record
+};
+// How the caller's buffer is cleared before the text is read.
+enum class Clearing : uint8_t { kWholeBuffer, kRecords, kNone };
+enum class RecordWalk : uint8_t {
+  kOne,          // the table fills record 0
+  kPerChannel,   // an array fills record i from element i (as many as fit); anything else record 0
+  kCallerSized,  // as kPerChannel, stepping by the size word the caller wrote into record 0
+};
+// What `retLen` receives.
+enum class ReturnedLength : uint8_t {
+  kSetBytes,    // set to the bytes of the records filled
+  kAddBytes,    // increased by them
+  kSetRecord,   // set to one record's size whenever the parse succeeds
+};
+// When packed text is copied: its length at most, or strictly less than, the output size.
+enum class CopyRule : uint8_t { kAtMost, kStrictlyLess };
+// What pack writes for several records.
+enum class PackWalk : uint8_t {
+  kOne,          // exactly one record (an input shorter than it is refused)
+  kPerChannel,   // inLen / size records: one as the bare value, several as an array
+  kCallerSized,  // as kPerChannel, stepping by the size word of the first record
+};
+
+struct ResponseFrame {
+  uint32_t recordSize = 0;
+  ParseStep parse = nullptr;
+  PackStep pack = nullptr;
+  ResultRule result = ResultRule::kMustBeTrue;
+  TableAt tableAt = TableAt::kParamsTable;
+  NullTable nullTable = NullTable::kSucceedEmpty;
+  Clearing clearing = Clearing::kWholeBuffer;
+  RecordWalk walk = RecordWalk::kOne;
+  bool skipNullElements = false;  // per-channel: a null element leaves its record and is not counted
+  ReturnedLength returned = ReturnedLength::kSetBytes;
+  CopyRule copy = CopyRule::kStrictlyLess;
+  PackWalk packWalk = PackWalk::kOne;
+  bool packArrayAlways = false;  // several-record pack: an array even for one record
+
+  template <typename Rec>
+  static constexpr ResponseFrame For(ParseStep p, PackStep k) {
+    ResponseFrame f;
+    f.recordSize = static_cast<uint32_t>(sizeof(Rec));
+    f.parse = p;
+    f.pack = k;
+    return f;
+  }
+  constexpr ResponseFrame IgnoreResult() const { auto f = *this; f.result = ResultRule::kIgnored; return f; }
+  constexpr ResponseFrame Table(TableAt t) const { auto f = *this; f.tableAt = t; return f; }
+  constexpr ResponseFrame OnNullTable(NullTable n) const { auto f = *this; f.nullTable = n; return f; }
+  constexpr ResponseFrame Clear(Clearing c) const { auto f = *this; f.clearing = c; return f; }
+  constexpr ResponseFrame Walk(RecordWalk w) const {
+    auto f = *this;
+    f.walk = w;
+    f.packWalk = w == RecordWalk::kOne           ? PackWalk::kOne
+                 : w == RecordWalk::kPerChannel ? PackWalk::kPerChannel
+                                                : PackWalk::kCallerSized;
+    return f;
+  }
+  constexpr ResponseFrame SkipNullElements() const { auto f = *this; f.skipNullElements = true; return f; }
+  constexpr ResponseFrame Returned(ReturnedLength r) const { auto f = *this; f.returned = r; return f; }
+  constexpr ResponseFrame Copy(CopyRule c) const { auto f = *this; f.copy = c; return f; }
+  constexpr ResponseFrame Pack(PackWalk w) const { auto f = *this; f.packWalk = w; return f; }
+  constexpr ResponseFrame PackArrayAlways() const { auto f = *this; f.packArrayAlways = true; return f; }
+};
+
+// 1 on success, 0 on failure. Never writes past `outLen`; on failure the
+// buffer is left as the clearing rule made it (a step's partial record is
+// cleared again).
+int ParseWithFrame(const ResponseFrame& frame, const char* jsonText, void* outBuf, uint32_t outLen,
+                   uint32_t* retLen);
+// 1 on success, 0 on failure. Never reads past `inLen`; `outJson` is cleared
+// first and stays cleared on failure.
+int PackWithFrame(const ResponseFrame& frame, const void* inBuf, uint32_t inLen, char* outJson,
+                  uint32_t outLen);
+
+// The caller's record size from the first record's leading uint32: 0 when
+// the buffer cannot hold the size word, or the size is 0 or above `len`.
+uint32_t CallerRecordSize(const void* buf, uint32_t len);
+
+// Writes `value` as single-line text into `outJson` under `rule`. 1 when copied.
+int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule);
+
+}  // namespace kova
+
+#endif  // KOVA_DRIVERS_RESPONSE_FRAME_H_
