@@ -25,10 +25,21 @@ bool TextEquals(const char* a, const std::string& b, bool exact) {
   return true;
 }
 
-void SetFlag(unsigned char* record, const Field& f) {
+void WriteFlag(unsigned char* record, const Field& f, int64_t value) {
   if (f.presence != Presence::kFlag || f.flag.size == 0) return;
-  StoreInt(record + f.flag.offset, f.flag.size, 1);
+  StoreInt(record + f.flag.offset, f.flag.size, value);
 }
+
+bool AnyByteSet(const unsigned char* p, uint32_t n) {
+  for (uint32_t i = 0; i < n; ++i) {
+    if (p[i] != 0) return true;
+  }
+  return false;
+}
+
+// Whether a nested block or list reads a value that is not of its JSON type
+// (as empty).
+bool ReadsAnyType(const Field& f) { return f.anyType || f.alwaysRead; }
 
 bool Present(const unsigned char* record, const Field& f) {
   switch (f.presence) {
@@ -40,6 +51,8 @@ bool Present(const unsigned char* record, const Field& f) {
       return LoadInt(record + f.offset, f.size, true) != f.sentinel;
     case Presence::kNonNegative:
       return LoadInt(record + f.offset, f.size, true) >= 0;
+    case Presence::kAnySet:
+      return AnyByteSet(record + f.flag.offset, f.flag.size);
   }
   return true;
 }
@@ -134,13 +147,26 @@ bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
         return true;
       }
       Unnamed rule = f.unnamed;
-      if (rule == Unnamed::kTable) rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
-      if (rule == Unnamed::kOmit) return false;
-      if (rule == Unnamed::kFirstName && f.names->count > 0 && f.names->names[0] != nullptr) {
-        *out = f.names->names[0];
-      } else {
-        *out = "";
+      if (rule == Unnamed::kTable)
+        rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
+      const char* fallback = nullptr;
+      switch (rule) {
+        case Unnamed::kOmit:
+          return false;
+        case Unnamed::kNull:
+          *out = Json::Value(Json::nullValue);
+          return true;
+        case Unnamed::kFirstName:
+          fallback = f.names->count > 0 ? f.names->names[0] : nullptr;
+          break;
+        case Unnamed::kUnknownName:
+          fallback = EnumName(*f.names, f.names->unknownValue);
+          break;
+        case Unnamed::kTable:
+        case Unnamed::kEmptyText:
+          break;
       }
+      *out = fallback != nullptr ? fallback : "";
       return true;
     }
     case FieldKind::kObject:
@@ -152,34 +178,61 @@ bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
 
 uint32_t LoadCount(const unsigned char* record, const Field& f) {
   if (f.count.size == 0) return f.capacity;
-  const int64_t n = LoadInt(record + f.count.offset, f.count.size, false);
-  if (n < 0) return 0;
-  return n > static_cast<int64_t>(f.capacity) ? f.capacity : static_cast<uint32_t>(n);
+  return CutCount(LoadInt(record + f.count.offset, f.count.size, f.count.isSigned), f.capacity);
 }
 
 // A list: element i (or the i-th entry taken) into its slot; the count
-// member by the field's rule. A non-array leaves everything as it was.
+// member by the field's rule. `record` is where the field's offset and its
+// count's offset count from (a list entry's own slot for an entry that is
+// itself a list). A non-array leaves everything as it was, unless the field
+// reads any type (then it is an empty list).
 bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
-  if (!v.isArray() || f.element == nullptr) return false;
+  if (f.element == nullptr || (!v.isArray() && !ReadsAnyType(f))) return false;
   unsigned char* base = record + f.offset;
-  const uint32_t n = Count(v);
+  const uint32_t n = v.isArray() ? Count(v) : 0;
   uint32_t looked = 0, taken = 0, nonNull = 0;
   for (uint32_t i = 0; i < n; ++i) {
     const uint32_t slot = f.keepSlots ? i : taken;
     if (slot >= f.capacity) break;
     ++looked;
     const Json::Value& e = Element(v, i);
-    if (e.isNull()) continue;
-    ++nonNull;
+    if (e.isNull()) {
+      if (!f.element->alwaysRead) continue;
+    } else {
+      ++nonNull;
+    }
     if (ParseValue(e, base + static_cast<size_t>(slot) * f.size, *f.element)) ++taken;
   }
   if (f.count.size != 0) {
-    const uint32_t c = f.countRule == CountRule::kAll     ? looked
-                       : f.countRule == CountRule::kTaken ? taken
-                                                          : nonNull;
+    uint32_t c = looked;
+    switch (f.countRule) {
+      case CountRule::kAll:
+        break;
+      case CountRule::kTaken:
+        c = taken;
+        break;
+      case CountRule::kNonNull:
+        c = nonNull;
+        break;
+      case CountRule::kLength:
+        c = n;
+        break;
+    }
     StoreInt(record + f.count.offset, f.count.size, c);
   }
   return true;
+}
+
+void PackList(const unsigned char* record, const Field& f, Json::Value* out) {
+  const uint32_t n = LoadCount(record, f);
+  *out = Json::Value(Json::arrayValue);
+  if (f.element == nullptr) return;
+  for (uint32_t k = 0; k < n; ++k) {
+    Json::Value item;
+    if (PackValue(record + f.offset + static_cast<size_t>(k) * f.size, *f.element, &item)) {
+      out->append(item);
+    }
+  }
 }
 
 }  // namespace
@@ -189,7 +242,8 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
     case FieldShape::kScalar:
       return ParseScalar(value, member, f);
     case FieldShape::kNested:
-      if (!value.isObject() || f.table == nullptr) return false;
+      if (f.table == nullptr || (!value.isObject() && !ReadsAnyType(f))) return false;
+      // Member() of anything but an object is null: every member reads as missing.
       ParseFields(value, member, f.table->fields, f.table->count);
       return true;
     case FieldShape::kTuple: {
@@ -198,12 +252,10 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
       for (uint32_t i = 0; i < n; ++i) ParseScalar(Element(value, i), member + i * f.size, f);
       return true;
     }
-    case FieldShape::kList: {
-      // A list entry that is itself a list: member is the start of its slot.
-      Field inner = f;
-      inner.offset = 0;
-      return ParseList(value, member, inner);
-    }
+    case FieldShape::kList:
+      // A list entry that is itself a list: `member` is the start of its
+      // slot, from which the field's offset and its count's offset count.
+      return ParseList(value, member, f);
     case FieldShape::kCustom:
       return false;
   }
@@ -218,6 +270,7 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
       if (f.table == nullptr) return false;
       *out = Json::Value(Json::objectValue);
       PackFields(member, *out, f.table->fields, f.table->count);
+      if (f.nullWhenEmpty && out->empty()) *out = Json::Value(Json::nullValue);
       return true;
     case FieldShape::kTuple: {
       *out = Json::Value(Json::arrayValue);
@@ -228,26 +281,15 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
       }
       return true;
     }
-    case FieldShape::kList: {
+    case FieldShape::kList:
       if (f.element == nullptr) return false;
-      Field inner = f;
-      inner.offset = 0;
-      const uint32_t n = LoadCount(member, inner);
-      *out = Json::Value(Json::arrayValue);
-      for (uint32_t i = 0; i < n; ++i) {
-        Json::Value item;
-        if (PackValue(member + static_cast<size_t>(i) * f.size, *f.element, &item)) {
-          out->append(item);
-        }
-      }
+      PackList(member, f, out);  // a list entry that is itself a list, as in ParseValue
       return true;
-    }
     case FieldShape::kCustom:
       return false;
   }
   return false;
 }
-
 
 int64_t LoadInt(const void* p, uint32_t size, bool isSigned) {
   switch (size) {
@@ -304,10 +346,13 @@ void StoreInt(void* p, uint32_t size, int64_t value) {
 bool EnumValue(const EnumNames& e, const Json::Value& v, int32_t* value) {
   if (!v.isString()) return false;
   const std::string text = ToText(v);
-  for (uint32_t i = 0; i < e.count; ++i) {
-    if (e.names[i] != nullptr && TextEquals(e.names[i], text, e.exact)) {
-      *value = e.first + static_cast<int32_t>(i);
-      return true;
+  for (const char* const* list : {e.names, e.aliases}) {
+    if (list == nullptr) continue;
+    for (uint32_t i = 0; i < e.count; ++i) {
+      if (list[i] != nullptr && TextEquals(list[i], text, e.exact)) {
+        *value = e.first + static_cast<int32_t>(i);
+        return true;
+      }
     }
   }
   return false;
@@ -315,8 +360,15 @@ bool EnumValue(const EnumNames& e, const Json::Value& v, int32_t* value) {
 
 const char* EnumName(const EnumNames& e, int64_t value) {
   const int64_t i = value - e.first;
-  if (i < 0 || i >= static_cast<int64_t>(e.count)) return nullptr;
+  if (e.names == nullptr || i < 0 || i >= static_cast<int64_t>(e.count)) return nullptr;
   return e.names[i];
+}
+
+void MarkPresent(unsigned char* record, const Field& f) { WriteFlag(record, f, 1); }
+
+uint32_t CutCount(int64_t count, uint32_t capacity) {
+  if (count <= 0) return 0;
+  return count < static_cast<int64_t>(capacity) ? static_cast<uint32_t>(count) : capacity;
 }
 
 void ParseFields(const Json::Value& obj, void* record, const Field* fields, size_t count) {
@@ -329,12 +381,23 @@ void ParseFields(const Json::Value& obj, void* record, const Field* fields, size
       continue;
     }
     const Json::Value& v = Member(obj, f.key);
-    if (v.isNull()) continue;
-    const bool read = f.shape == FieldShape::kList ? ParseList(v, base, f)
-                                                    : ParseValue(v, base + f.offset, f);
+    if (v.isNull()) {
+      if (f.hasMissingValue) StoreInt(base + f.offset, f.size, f.missingValue);
+      if (!f.alwaysRead) {
+        if (f.clearsFlag) WriteFlag(base, f, 0);
+        continue;
+      }
+    }
+    const bool read =
+        f.shape == FieldShape::kList ? ParseList(v, base, f) : ParseValue(v, base + f.offset, f);
     // A scalar that is present counts as present even when its text names
-    // nothing; a block or list of the wrong JSON type does not.
-    if (read || f.shape == FieldShape::kScalar) SetFlag(base, f);
+    // nothing; a block or list of the wrong JSON type does not (unless it
+    // reads any type).
+    if (read || f.shape == FieldShape::kScalar || f.alwaysRead) {
+      WriteFlag(base, f, 1);
+    } else if (f.clearsFlag) {
+      WriteFlag(base, f, 0);
+    }
   }
 }
 
@@ -349,18 +412,9 @@ void PackFields(const void* record, Json::Value& obj, const Field* fields, size_
       continue;
     }
     Json::Value v;
-    bool written;
+    bool written = true;
     if (f.shape == FieldShape::kList) {
-      // The count member lives in the record, not in the list's slots.
-      const uint32_t n = LoadCount(base, f);
-      v = Json::Value(Json::arrayValue);
-      for (uint32_t k = 0; k < n && f.element != nullptr; ++k) {
-        Json::Value item;
-        if (PackValue(base + f.offset + static_cast<size_t>(k) * f.size, *f.element, &item)) {
-          v.append(item);
-        }
-      }
-      written = true;
+      PackList(base, f, &v);  // the count member lives in the record, not in the list's slots
     } else {
       written = PackValue(base + f.offset, f, &v);
     }

@@ -77,6 +77,8 @@ enum class Presence : uint8_t {
   kFlag,         // written when the flag member is non-zero
   kSentinel,     // written unless the member equals `sentinel`
   kNonNegative,  // written unless the member is negative
+  kAnySet,       // written when any byte of `flag` is non-zero (a group of the members' own
+                 // flags); parse never writes those bytes
 };
 
 enum class Direction : uint8_t { kBoth, kParseOnly, kPackOnly };
@@ -94,6 +96,8 @@ enum class Unnamed : uint8_t {
   kEmptyText,  // ""
   kOmit,       // nothing
   kFirstName,  // the table's first name
+  kNull,       // null
+  kUnknownName,  // the name of the value an unknown text reads as (EnumNames::UnknownAs)
 };
 
 // How a list's count member is set on parse.
@@ -101,6 +105,7 @@ enum class CountRule : uint8_t {
   kAll,      // elements looked at: the array's length cut to the capacity
   kTaken,    // entries stored
   kNonNull,  // non-null elements among those looked at
+  kLength,   // the array's whole length, not cut (only the capacity is read)
 };
 
 // An enumeration held as text in JSON and as a number in the record.
@@ -114,6 +119,8 @@ struct EnumNames {
   bool setOnUnknown = false;  // parse: an unknown text (or a non-string) stores unknownValue...
   int32_t unknownValue = 0;   // ...instead of leaving the field as it was
   bool omitUnnamed = false;   // pack: a value without a name is not written (else "")
+  const char* const* aliases = nullptr;  // aliases[i]: a second text of value first + i (or
+                                         // null); parse only, pack writes names[i]
 
   template <size_t N>
   static constexpr EnumNames Of(const char* const (&list)[N]) {
@@ -131,6 +138,14 @@ struct EnumNames {
     return e;
   }
   constexpr EnumNames OmitUnnamed() const { EnumNames e = *this; e.omitUnnamed = true; return e; }
+  // Second texts, index for index with the names (same count); read after
+  // every name has been tried.
+  template <size_t N>
+  constexpr EnumNames Aliases(const char* const (&list)[N]) const {
+    EnumNames e = *this;
+    e.aliases = N == count ? list : nullptr;
+    return e;
+  }
 };
 
 struct Field;
@@ -150,6 +165,7 @@ using CustomPack = void (*)(const unsigned char* record, Json::Value& obj, const
 struct Slot {
   uint32_t offset;
   uint32_t size;
+  bool isSigned = false;  // a count member that may hold a negative value (read as 0)
 };
 
 struct Field {
@@ -174,6 +190,14 @@ struct Field {
   bool keepSlots = false;  // kList: element i goes to slot i, a skipped element leaves its slot
   CustomParse parse = nullptr;  // kCustom
   CustomPack pack = nullptr;    // kCustom
+  // Parse rules for a member that is missing, null or of another JSON type
+  // (see the builders below).
+  bool alwaysRead = false;
+  bool anyType = false;
+  bool clearsFlag = false;
+  bool hasMissingValue = false;
+  int64_t missingValue = 0;
+  bool nullWhenEmpty = false;  // kNested pack: null instead of an object with no members
 
   constexpr Field Flag(Slot s) const { Field f = *this; f.presence = Presence::kFlag; f.flag = s; return f; }
   constexpr Field Sentinel(int64_t v) const {
@@ -197,6 +221,36 @@ struct Field {
   constexpr Field KeepSlots() const { Field f = *this; f.keepSlots = true; return f; }
   constexpr Field MinItems(uint32_t n) const { Field f = *this; f.minItems = n; return f; }
   constexpr Field Names(const EnumNames& e) const { Field f = *this; f.names = &e; return f; }
+
+  // Parse reads the member even when it is missing or null, as null (a
+  // scalar stores its null conversion: 0, false, empty text, an enumeration's
+  // unknown value; a nested block reads its table with every member
+  // missing), and sets the flag. A nested block or list given with another
+  // JSON type reads as empty. List entries: null elements are read too.
+  constexpr Field AlwaysRead() const { Field f = *this; f.alwaysRead = true; return f; }
+  // A nested block or list given (not null) with another JSON type counts
+  // as present (its flag is set) and reads as empty: no member, no element.
+  constexpr Field AnyType() const { Field f = *this; f.anyType = true; return f; }
+  // Parse writes the flag both ways: 0 when the member is missing, null or
+  // not read (for records that parse does not clear first).
+  constexpr Field ClearsFlag() const { Field f = *this; f.clearsFlag = true; return f; }
+  // Parse stores `v` when the member is missing or null (an integer member).
+  constexpr Field MissingAs(int64_t v) const {
+    Field f = *this;
+    f.hasMissingValue = true;
+    f.missingValue = v;
+    return f;
+  }
+  // Pack: a nested block none of whose members is written packs as null.
+  constexpr Field NullWhenEmpty() const { Field f = *this; f.nullWhenEmpty = true; return f; }
+  // Pack: written when any byte of `s` is non-zero (the members' own flags,
+  // see KOVA_FLAGS); parse leaves those bytes to the members.
+  constexpr Field WhenAnySet(Slot s) const {
+    Field f = *this;
+    f.presence = Presence::kAnySet;
+    f.flag = s;
+    return f;
+  }
 };
 
 // The description of a record type, found by the member's type for nested
@@ -245,6 +299,13 @@ const char* EnumName(const EnumNames& e, int64_t value);
 int64_t LoadInt(const void* p, uint32_t size, bool isSigned);
 void StoreInt(void* p, uint32_t size, int64_t value);
 
+// Sets the presence flag of `f` (when it has one) in `record`: for custom
+// steps, which decide themselves when their member counts as present.
+void MarkPresent(unsigned char* record, const Field& f);
+
+// A count (from a caller's record or a device's array) cut to [0, capacity].
+uint32_t CutCount(int64_t count, uint32_t capacity);
+
 // ---------------------------------------------------------------------------
 // Compile-time checks of a kind against a member type.
 
@@ -284,7 +345,13 @@ constexpr Field MakeField(const char* key, size_t offset) {
 template <typename T>
 constexpr Slot MakeSlot(size_t offset) {
   static_assert(IsIntegerMember<T>() && sizeof(T) <= 8, "flag and count members are integers");
-  return Slot{static_cast<uint32_t>(offset), static_cast<uint32_t>(sizeof(T))};
+  return Slot{static_cast<uint32_t>(offset), static_cast<uint32_t>(sizeof(T)),
+              std::is_signed<T>::value};
+}
+
+// The bytes from member `first` to the end of member `last`: a group of flags.
+constexpr Slot MakeSpan(size_t first, size_t end) {
+  return Slot{static_cast<uint32_t>(first), static_cast<uint32_t>(end - first)};
 }
 
 template <typename T>
@@ -312,7 +379,7 @@ constexpr Field MakeTuple(const char* key, size_t offset, uint32_t n) {
 
 template <typename T>
 constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
-  static_assert(std::is_array<T>::value && std::rank<T>::value == 1, "a list member is an array");
+  static_assert(std::is_array<T>::value, "a list member is an array");
   Field f;
   f.key = key;
   f.offset = static_cast<uint32_t>(offset);
@@ -321,6 +388,17 @@ constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
   f.shape = FieldShape::kList;
   f.element = element;
   f.capacity = static_cast<uint32_t>(std::extent<T>::value);
+  return f;
+}
+
+// A JSON object whose members are fields of the enclosing record itself.
+constexpr Field MakeGroup(const char* key, uint32_t recordSize, const FieldTable* table) {
+  Field f;
+  f.key = key;
+  f.size = recordSize;
+  f.kind = FieldKind::kObject;
+  f.shape = FieldShape::kNested;
+  f.table = table;
   return f;
 }
 
@@ -350,6 +428,19 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
 #define KOVA_ENUM(Rec, member, key, namesTable) KOVA_F(Rec, member, key, kEnum).Names(namesTable)
 // A flag or count member, for .Flag() and .Count().
 #define KOVA_AT(Rec, member) ::kova::MakeSlot<KOVA_MEMBER_T(Rec, member)>(offsetof(Rec, member))
+// Element `i` of an integer array member used as flags (present[i]).
+#define KOVA_AT_ITEM(Rec, member, i)                                               \
+  ::kova::MakeSlot<std::remove_extent_t<KOVA_MEMBER_T(Rec, member)>>(              \
+      offsetof(Rec, member) + (i) * sizeof(std::remove_extent_t<KOVA_MEMBER_T(Rec, member)>))
+// The bytes from `first` through `last` (several one-byte flags), for .WhenAnySet().
+#define KOVA_FLAGS(Rec, first, last) \
+  ::kova::MakeSpan(offsetof(Rec, first), offsetof(Rec, last) + KOVA_MEMBER_SIZE(Rec, last))
+// A JSON object "key" whose members are fields of Rec itself (a FieldTable,
+// see KOVA_TABLE): KOVA_GROUP(Rec, "Sound", kSoundTable).
+#define KOVA_GROUP(Rec, key, fieldTable) \
+  ::kova::MakeGroup(key, static_cast<uint32_t>(sizeof(Rec)), &(fieldTable))
+// A FieldTable over a constexpr Field array.
+#define KOVA_TABLE(fields) ::kova::FieldTable{fields, sizeof(fields) / sizeof((fields)[0])}
 // A nested object read with its type's own table (see KOVA_DESCRIBE).
 #define KOVA_NESTED(Rec, member, key) \
   ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
