@@ -1,8 +1,8 @@
 #include "drivers/response_frame.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
-#include <new>
 #include <vector>
 
 #include "common/json/json.h"
@@ -44,6 +44,7 @@ const Json::Value& TableOf(const ResponseFrame& f, const Json::Value& root) {
 void ClearOutput(const ResponseFrame& f, unsigned char* out, uint32_t outLen, uint32_t stride) {
   switch (f.clearing) {
     case Clearing::kNone:
+    case Clearing::kEachRecord:
       return;
     case Clearing::kWholeBuffer:
       std::memset(out, 0, outLen);
@@ -76,6 +77,51 @@ int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRul
   return copied ? 1 : 0;
 }
 
+namespace {
+
+// Whether record i is worked in a copy: a slot shorter than the record, or
+// not aligned for it (caller-sized strides are arbitrary).
+bool NeedsCopy(const ResponseFrame& f, const unsigned char* slot, uint32_t stride) {
+  return stride < f.recordSize || reinterpret_cast<uintptr_t>(slot) % f.recordAlign != 0;
+}
+
+// How many records the table fills, and whether element i is table[i].
+struct Walk {
+  uint32_t records;
+  bool perElement;
+  bool refused;
+};
+
+Walk ChooseWalk(const ResponseFrame& f, const Json::Value& table, int32_t rootChannel,
+                uint32_t slots) {
+  bool perElement = false;
+  switch (f.walk) {
+    case RecordWalk::kOne:
+      return Walk{1, false, false};
+    case RecordWalk::kByRootChannel:
+      if (rootChannel >= 0) return Walk{1, false, false};
+      if (!table.isArray()) return Walk{0, false, true};
+      perElement = true;
+      break;
+    case RecordWalk::kPerChannel:
+    case RecordWalk::kCallerSized:
+      perElement = table.isArray();
+      break;
+  }
+  if (perElement) return Walk{std::min(Count(table), slots), true, false};
+  switch (f.nonArray) {
+    case NonArrayTable::kOneRecord:
+      return Walk{1, false, false};
+    case NonArrayTable::kObjectOnly:
+      return Walk{table.isObject() ? 1u : 0u, false, false};
+    case NonArrayTable::kNoRecord:
+      break;
+  }
+  return Walk{0, false, false};
+}
+
+}  // namespace
+
 int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, uint32_t outLen,
                    uint32_t* retLen) {
   try {
@@ -96,6 +142,8 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     if (!ReadJson(jsonText, &root)) return 0;
     if (f.result == ResultRule::kMustBeTrue && !ResultIsTrue(root)) return 0;
     const Json::Value& table = TableOf(f, root);
+    const int32_t rootChannel =
+        f.walk == RecordWalk::kByRootChannel ? ToInt32(Member(root, "channel")) : 0;
     if (table.isNull()) {
       switch (f.nullTable) {
         case NullTable::kFail:
@@ -104,39 +152,41 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
           ReportLength(f, retLen, 0);
           return 1;
         case NullTable::kAllZeroRecord:
-          if (f.clearing == Clearing::kNone) std::memset(out, 0, std::min(stride, outLen));
+          if (f.clearing == Clearing::kNone || f.clearing == Clearing::kEachRecord) {
+            std::memset(out, 0, std::min(stride, outLen));
+          }
           ReportLength(f, retLen, stride);
           return 1;
+        case NullTable::kReadAsTable:
+          break;
       }
     }
 
-    const bool perElement = f.walk != RecordWalk::kOne && table.isArray();
-    const uint32_t slots = outLen / stride;
-    const uint32_t n = perElement ? std::min(Count(table), slots) : 1;
-    // A caller's record shorter than ours is built in a scratch record and
-    // copied out as far as the caller's size reaches.
-    std::vector<unsigned char> scratch;
-    if (stride < f.recordSize) {
-      scratch.assign(f.recordSize, 0);
-    }
-    const StepContext ctxBase{root, Member(root, "params"), 0, f.recordSize};
+    const Walk walk = ChooseWalk(f, table, rootChannel, outLen / stride);
+    if (walk.refused) return 0;
+    const Json::Value& params = Member(root, "params");
+    std::vector<unsigned char> copy;  // only for caller-sized slots that need one
     uint32_t filled = 0;
-    for (uint32_t i = 0; i < n; ++i) {
-      const Json::Value& element = perElement ? Element(table, i) : table;
+    for (uint32_t i = 0; i < walk.records; ++i) {
+      const Json::Value& element = walk.perElement ? Element(table, i) : table;
       if (f.skipNullElements && element.isNull()) continue;
       unsigned char* slot = out + static_cast<size_t>(i) * stride;
+      if (f.clearing == Clearing::kEachRecord) std::memset(slot, 0, stride);
       unsigned char* record = slot;
-      if (!scratch.empty()) {
-        std::fill(scratch.begin(), scratch.end(), 0);
-        std::memcpy(scratch.data(), slot, std::min<size_t>(stride, sizeof(uint32_t)));
-        record = scratch.data();
+      if (NeedsCopy(f, slot, stride)) {
+        copy.assign(f.recordSize, 0);
+        std::memcpy(copy.data(), slot, std::min(stride, f.recordSize));
+        record = copy.data();
       }
-      const StepContext ctx{ctxBase.root, ctxBase.params, i, f.recordSize};
+      const int32_t channel = walk.perElement ? static_cast<int32_t>(i) : rootChannel;
+      const StepContext ctx{
+          root, params, i, f.recordSize,
+          f.walk == RecordWalk::kByRootChannel ? channel : static_cast<int32_t>(i)};
       if (!f.parse(element, ctx, record)) {
         if (f.clearing != Clearing::kNone) ClearOutput(f, out, outLen, stride);
         return 0;
       }
-      if (!scratch.empty()) std::memcpy(slot, scratch.data(), stride);
+      if (record != slot) std::memcpy(slot, record, std::min(stride, f.recordSize));
       ++filled;
     }
     ReportLength(f, retLen, static_cast<uint64_t>(filled) * stride);
@@ -151,28 +201,35 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
   try {
     if (outJson == nullptr || outLen == 0) return 0;
     std::memset(outJson, 0, outLen);
-    if (inBuf == nullptr || f.pack == nullptr || f.recordSize == 0) return 0;
+    if (inBuf == nullptr || f.pack == nullptr || f.recordSize == 0 || inLen == 0) return 0;
     const unsigned char* in = static_cast<const unsigned char*>(inBuf);
     uint32_t stride = f.recordSize;
     if (f.packWalk == PackWalk::kCallerSized) {
       stride = CallerRecordSize(inBuf, inLen);
       if (stride == 0) return 0;
     } else if (inLen < f.recordSize) {
+      // Nothing the input holds is read.
+      if (f.packWalk == PackWalk::kPerChannel && f.shortInputPacksNull) {
+        return CopyPacked(Json::Value(), outJson, outLen, f.copy);
+      }
       return 0;
     }
     const uint32_t n = f.packWalk == PackWalk::kOne ? 1 : inLen / stride;
-    std::vector<unsigned char> scratch;
-    if (stride < f.recordSize) scratch.assign(f.recordSize, 0);
+    if (f.minTextPerRecord != 0 && static_cast<uint64_t>(n) * f.minTextPerRecord > outLen) {
+      return 0;  // the text could not fit: give up before building it
+    }
 
     Json::Value root;
-    const bool array = n > 1 || f.packArrayAlways;
+    const bool array = n > 1 || f.packArrayAlways ||
+                       (f.packArrayBeyondOne && f.packWalk != PackWalk::kOne && inLen > stride);
     if (array) root = Json::Value(Json::arrayValue);
+    std::vector<unsigned char> copy;  // only for caller-sized slots that need one
     for (uint32_t i = 0; i < n; ++i) {
       const unsigned char* record = in + static_cast<size_t>(i) * stride;
-      if (!scratch.empty()) {
-        std::fill(scratch.begin(), scratch.end(), 0);
-        std::memcpy(scratch.data(), record, stride);
-        record = scratch.data();
+      if (NeedsCopy(f, record, stride)) {
+        copy.assign(f.recordSize, 0);
+        std::memcpy(copy.data(), record, std::min(stride, f.recordSize));
+        record = copy.data();
       }
       Json::Value& target = array ? SetElement(root, i) : root;
       if (!f.pack(record, target)) {

@@ -16,13 +16,17 @@
 //   }
 //
 // Steps work on the record in place: the caller's buffer is aligned for its
-// records (the public contract) and was cleared before the step runs.
+// records (the public contract) and, unless the frame says otherwise, was
+// cleared before the step runs. A caller-sized slot shorter than the record,
+// or not aligned for it, is worked in a copy.
 #ifndef KOVA_DRIVERS_RESPONSE_FRAME_H_
 #define KOVA_DRIVERS_RESPONSE_FRAME_H_
 
 #include <json/value.h>
 
 #include <cstdint>
+
+#include "common/fields/field_table.h"
 
 namespace kova {
 
@@ -32,6 +36,7 @@ struct StepContext {
   const Json::Value& params;  // root "params" (null when missing)
   uint32_t index;             // record index in the walk
   uint32_t recordBytes;       // bytes of the record the step may touch
+  int32_t channel;            // RecordWalk::kByRootChannel: the record's channel; else `index`
 };
 
 // One record from one JSON element. false fails the whole parse.
@@ -49,19 +54,34 @@ enum class NullTable : uint8_t {
   kSucceedEmpty,   // success, no record filled (returned length 0)
   kFail,           // failure
   kAllZeroRecord,  // success with one cleared record
+  kReadAsTable,    // the step reads the null table like any other (one record)
 };
-// How the caller's buffer is cleared before the text is read.
-enum class Clearing : uint8_t { kWholeBuffer, kRecords, kNone };
+// How the caller's buffer is cleared: before the text is read (the whole
+// buffer, or its whole records), not at all, or each record just before its
+// step runs (a record built zeroed and filled: nothing is written when the
+// envelope is refused).
+enum class Clearing : uint8_t { kWholeBuffer, kRecords, kNone, kEachRecord };
 enum class RecordWalk : uint8_t {
   kOne,          // the table fills record 0
   kPerChannel,   // an array fills record i from element i (as many as fit); anything else record 0
   kCallerSized,  // as kPerChannel, stepping by the size word the caller wrote into record 0
+  // The root's "channel" (missing reads 0) chooses: negative asks for every
+  // channel ("table" must be an array, else the parse fails; element i fills
+  // record i with channel i), otherwise the table fills record 0 for that
+  // channel.
+  kByRootChannel,
+};
+// What a per-channel or caller-sized walk does with a table that is not an array.
+enum class NonArrayTable : uint8_t {
+  kOneRecord,   // it fills record 0, whatever it is
+  kObjectOnly,  // an object fills record 0, anything else no record
+  kNoRecord,    // no record (success, returned length 0)
 };
 // What `retLen` receives.
 enum class ReturnedLength : uint8_t {
-  kSetBytes,    // set to the bytes of the records filled
-  kAddBytes,    // increased by them
-  kSetRecord,   // set to one record's size whenever the parse succeeds
+  kSetBytes,   // set to the bytes of the records filled
+  kAddBytes,   // increased by them
+  kSetRecord,  // set to one record's size whenever the parse succeeds
 };
 // When packed text is copied: its length at most, or strictly less than, the output size.
 enum class CopyRule : uint8_t { kAtMost, kStrictlyLess };
@@ -74,6 +94,7 @@ enum class PackWalk : uint8_t {
 
 struct ResponseFrame {
   uint32_t recordSize = 0;
+  uint32_t recordAlign = 1;  // a caller's slot not aligned for the record is worked in a copy
   ParseStep parse = nullptr;
   PackStep pack = nullptr;
   ResultRule result = ResultRule::kMustBeTrue;
@@ -81,37 +102,110 @@ struct ResponseFrame {
   NullTable nullTable = NullTable::kSucceedEmpty;
   Clearing clearing = Clearing::kWholeBuffer;
   RecordWalk walk = RecordWalk::kOne;
-  bool skipNullElements = false;  // per-channel: a null element leaves its record and is not counted
+  bool skipNullElements =
+      false;  // per-channel: a null element leaves its record and is not counted
   ReturnedLength returned = ReturnedLength::kSetBytes;
   CopyRule copy = CopyRule::kStrictlyLess;
   PackWalk packWalk = PackWalk::kOne;
   bool packArrayAlways = false;  // several-record pack: an array even for one record
+  NonArrayTable nonArray = NonArrayTable::kOneRecord;
+  bool shortInputPacksNull = false;  // per-channel pack of 1 byte up to one record: "null"
+  bool packArrayBeyondOne = false;   // per-channel pack: an array once inLen exceeds one record
+  uint32_t minTextPerRecord = 0;     // pack: refused early when outLen < records x this
 
   template <typename Rec>
   static constexpr ResponseFrame For(ParseStep p, PackStep k) {
     ResponseFrame f;
     f.recordSize = static_cast<uint32_t>(sizeof(Rec));
+    f.recordAlign = static_cast<uint32_t>(alignof(Rec));
     f.parse = p;
     f.pack = k;
     return f;
   }
-  constexpr ResponseFrame IgnoreResult() const { auto f = *this; f.result = ResultRule::kIgnored; return f; }
-  constexpr ResponseFrame Table(TableAt t) const { auto f = *this; f.tableAt = t; return f; }
-  constexpr ResponseFrame OnNullTable(NullTable n) const { auto f = *this; f.nullTable = n; return f; }
-  constexpr ResponseFrame Clear(Clearing c) const { auto f = *this; f.clearing = c; return f; }
+  constexpr ResponseFrame IgnoreResult() const {
+    auto f = *this;
+    f.result = ResultRule::kIgnored;
+    return f;
+  }
+  constexpr ResponseFrame Result(ResultRule r) const {
+    auto f = *this;
+    f.result = r;
+    return f;
+  }
+  constexpr ResponseFrame Table(TableAt t) const {
+    auto f = *this;
+    f.tableAt = t;
+    return f;
+  }
+  constexpr ResponseFrame OnNullTable(NullTable n) const {
+    auto f = *this;
+    f.nullTable = n;
+    return f;
+  }
+  constexpr ResponseFrame Clear(Clearing c) const {
+    auto f = *this;
+    f.clearing = c;
+    return f;
+  }
   constexpr ResponseFrame Walk(RecordWalk w) const {
     auto f = *this;
     f.walk = w;
     f.packWalk = w == RecordWalk::kOne           ? PackWalk::kOne
-                 : w == RecordWalk::kPerChannel ? PackWalk::kPerChannel
-                                                : PackWalk::kCallerSized;
+                 : w == RecordWalk::kCallerSized ? PackWalk::kCallerSized
+                                                 : PackWalk::kPerChannel;
     return f;
   }
-  constexpr ResponseFrame SkipNullElements() const { auto f = *this; f.skipNullElements = true; return f; }
-  constexpr ResponseFrame Returned(ReturnedLength r) const { auto f = *this; f.returned = r; return f; }
-  constexpr ResponseFrame Copy(CopyRule c) const { auto f = *this; f.copy = c; return f; }
-  constexpr ResponseFrame Pack(PackWalk w) const { auto f = *this; f.packWalk = w; return f; }
-  constexpr ResponseFrame PackArrayAlways() const { auto f = *this; f.packArrayAlways = true; return f; }
+  constexpr ResponseFrame NonArray(NonArrayTable n) const {
+    auto f = *this;
+    f.nonArray = n;
+    return f;
+  }
+  constexpr ResponseFrame SkipNullElements() const {
+    auto f = *this;
+    f.skipNullElements = true;
+    return f;
+  }
+  constexpr ResponseFrame Returned(ReturnedLength r) const {
+    auto f = *this;
+    f.returned = r;
+    return f;
+  }
+  constexpr ResponseFrame Copy(CopyRule c) const {
+    auto f = *this;
+    f.copy = c;
+    return f;
+  }
+  constexpr ResponseFrame Pack(PackWalk w) const {
+    auto f = *this;
+    f.packWalk = w;
+    return f;
+  }
+  constexpr ResponseFrame PackArrayAlways() const {
+    auto f = *this;
+    f.packArrayAlways = true;
+    return f;
+  }
+  // An input of at least one byte but shorter than one record packs as the
+  // text "null" (no record is read); without this it is refused.
+  constexpr ResponseFrame ShortInputPacksNull() const {
+    auto f = *this;
+    f.shortInputPacksNull = true;
+    return f;
+  }
+  // An array whenever the input is longer than one record, even by a
+  // partial record (one record and a few bytes: an array of one).
+  constexpr ResponseFrame PackArrayBeyondOne() const {
+    auto f = *this;
+    f.packArrayBeyondOne = true;
+    return f;
+  }
+  // Every record packs into at least `n` bytes of text: a text buffer too
+  // short for all of them is refused before any record is read.
+  constexpr ResponseFrame MinTextPerRecord(uint32_t n) const {
+    auto f = *this;
+    f.minTextPerRecord = n;
+    return f;
+  }
 };
 
 // 1 on success, 0 on failure. Never writes past `outLen`; on failure the
@@ -119,10 +213,23 @@ struct ResponseFrame {
 // cleared again).
 int ParseWithFrame(const ResponseFrame& frame, const char* jsonText, void* outBuf, uint32_t outLen,
                    uint32_t* retLen);
-// 1 on success, 0 on failure. Never reads past `inLen`; `outJson` is cleared
-// first and stays cleared on failure.
+// 1 on success, 0 on failure. Never reads past `inLen`; an empty input is
+// refused; `outJson` is cleared first and stays cleared on failure.
 int PackWithFrame(const ResponseFrame& frame, const void* inBuf, uint32_t inLen, char* outJson,
                   uint32_t outLen);
+
+// Steps of a record that is one field table: the element's members through
+// the walker, and back.
+template <const FieldTable& kTable>
+bool ParseTableStep(const Json::Value& element, const StepContext& /*ctx*/, unsigned char* record) {
+  ParseFields(element, record, kTable);
+  return true;
+}
+template <const FieldTable& kTable>
+bool PackTableStep(const unsigned char* record, Json::Value& out) {
+  PackFields(record, out, kTable);
+  return true;
+}
 
 // The caller's record size from the first record's leading uint32: 0 when
 // the buffer cannot hold the size word, or the size is 0 or above `len`.

@@ -200,7 +200,7 @@ constexpr Field kEventHandlerFields[] = {
     KOVA_GROUP(R, "Talkback", kTalkback).Flag(KOVA_AT(R, talkbackPresent)).AnyType(),
     KOVA_GROUP(R, "PSTNAlarmServer", kPstn).Flag(KOVA_AT(R, pstnAlarmServerPresent)).AnyType(),
 };
-const size_t kEventHandlerFieldCount = sizeof kEventHandlerFields / sizeof kEventHandlerFields[0];
+constexpr FieldTable kEventHandler = KOVA_TABLE(kEventHandlerFields);
 
 #undef EH_AT
 
@@ -208,20 +208,18 @@ const size_t kEventHandlerFieldCount = sizeof kEventHandlerFields / sizeof kEven
 
 bool ParseEventHandler(const Json::Value& obj, EventHandlerRecord* r) {
   if (r == nullptr) return false;
-  ParseFields(obj, r, kEventHandlerFields);
+  ParseFields(obj, r, kEventHandler);
   return true;
 }
 
 void ParseWeekSections(const Json::Value& timeSection, WeekSchedule7x6* week) {
-  if (timeSection.isNull()) return;
-  for (uint32_t d = 0; d < KOVA_WEEK_DAYS; ++d) {
-    const Json::Value& day = Element(timeSection, d);
-    for (uint32_t s = 0; s < KOVA_SECTIONS_PER_DAY; ++s) {
+  ForEachElement(timeSection, KOVA_WEEK_DAYS, [week](uint32_t d, const Json::Value& day) {
+    ForEachElement(day, KOVA_SECTIONS_PER_DAY, [week, d](uint32_t s, const Json::Value& section) {
       // A section that does not read keeps what converted; the rest of
       // the week is still read.
-      ParseTimeSection(Element(day, s), &week->sections[d][s]);
-    }
-  }
+      ParseTimeSection(section, &week->sections[d][s]);
+    });
+  });
 }
 
 bool ParseEventHandlerWithWeek(const Json::Value& obj, EventHandlerRecord* record,
@@ -235,7 +233,7 @@ bool ParseEventHandlerWithWeek(const Json::Value& obj, EventHandlerRecord* recor
 
 void PackEventHandler(const EventHandlerRecord& r, Json::Value& obj) {
   if (!obj.isObject()) obj = Json::Value(Json::objectValue);
-  PackFields(&r, obj, kEventHandlerFields);
+  PackFields(&r, obj, kEventHandler);
 }
 
 void PackWeekSections(const WeekSchedule7x6& week, Json::Value& timeSection) {

@@ -17,29 +17,37 @@ constexpr int kAnyWidth = 0;
 
 bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
+// A section's text as the JSON value holds it, read up to its end or its
+// first NUL (the C string the device's text would be).
+struct Text {
+  const char* p;
+  const char* end;
+  char Peek() const { return p != end ? *p : '\0'; }
+};
+
 // Reads one "%d" (or "%<width>d") the way scanf does: leading whitespace
 // skipped, an optional sign, at least one digit, at most `width` characters
 // when width is set. Out-of-range numbers are clamped to 64 bits and then
 // cut to 32, as the C library does for "%d". Returns false on no digits.
-bool ScanInt(const char** cursor, int width, int32_t* out) {
-  const char* p = *cursor;
-  while (IsSpace(*p)) ++p;
+bool ScanInt(Text* t, int width, int32_t* out) {
+  Text c = *t;
+  while (IsSpace(c.Peek())) ++c.p;
   int left = width == kAnyWidth ? -1 : width;
   bool negative = false;
-  if ((*p == '+' || *p == '-') && left != 0) {
-    negative = *p == '-';
-    ++p;
+  if ((c.Peek() == '+' || c.Peek() == '-') && left != 0) {
+    negative = c.Peek() == '-';
+    ++c.p;
     if (left > 0) --left;
   }
   uint64_t magnitude = 0;
   bool digits = false;
-  while (*p >= '0' && *p <= '9' && left != 0) {
+  while (c.Peek() >= '0' && c.Peek() <= '9' && left != 0) {
     if (magnitude <= (UINT64_MAX - 9) / 10)
-      magnitude = magnitude * 10 + static_cast<uint64_t>(*p - '0');
+      magnitude = magnitude * 10 + static_cast<uint64_t>(c.Peek() - '0');
     else
       magnitude = UINT64_MAX;
     digits = true;
-    ++p;
+    ++c.p;
     if (left > 0) --left;
   }
   if (!digits) return false;
@@ -52,43 +60,80 @@ bool ScanInt(const char** cursor, int width, int32_t* out) {
         magnitude > static_cast<uint64_t>(INT64_MAX) ? INT64_MAX : static_cast<int64_t>(magnitude);
   }
   *out = static_cast<int32_t>(static_cast<uint32_t>(static_cast<uint64_t>(value)));
-  *cursor = p;
+  t->p = c.p;
   return true;
 }
 
 // Matches the literal that follows field i of "%d %d:%d:%d-%d:%d:%d":
 // the blank of the format accepts any run of whitespace (none included).
-bool ScanSeparator(const char** cursor, int i) {
+bool ScanSeparator(Text* t, int i) {
   static const char kSeparators[] = " ::-::";
   const char sep = kSeparators[i];
   if (sep == ' ') {
-    while (IsSpace(**cursor)) ++*cursor;
+    while (IsSpace(t->Peek())) ++t->p;
     return true;
   }
-  if (**cursor != sep) return false;
-  ++*cursor;
+  if (t->Peek() != sep) return false;
+  ++t->p;
   return true;
 }
 
-// Scans the section text into the seven fields of `fields` in record order,
-// storing each number as it converts. `width` limits each time field (not
-// the leading enable number) to that many characters. Returns the count of
-// numbers converted.
-int ScanSection(const char* text, int width, int32_t* fields[7]) {
-  const char* p = text;
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// The form devices send, "1 08:00:00-17:30:00": an enable number of at most
+// nine digits right at the start, one blank, two digits per time field and
+// no digit after the last. Both read forms read it alike (the width of two
+// never cuts a field), so it is read directly; false sends anything else to
+// the general scan.
+bool ScanUsualForm(const Text& t, int32_t* fields[7]) {
+  const char* p = t.p;
+  const char* const end = t.end;
+  bool negative = false;
+  if (p != end && (*p == '-' || *p == '+')) negative = *p++ == '-';
+  int32_t enable = 0;
+  int digits = 0;
+  for (; p != end && IsDigit(*p) && digits < 9; ++p, ++digits) enable = enable * 10 + (*p - '0');
+  if (digits == 0 || (p != end && IsDigit(*p))) return false;
+  static const char kShape[] = " dd:dd:dd-dd:dd:dd";  // 'd': a digit
+  constexpr int kShapeLength = sizeof kShape - 1;
+  if (end - p < kShapeLength) return false;
+  for (int i = 0; i < kShapeLength; ++i) {
+    if (kShape[i] == 'd' ? !IsDigit(p[i]) : p[i] != kShape[i]) return false;
+  }
+  if (end - p > kShapeLength && IsDigit(p[kShapeLength])) return false;
+  *fields[0] = negative ? -enable : enable;
+  for (int i = 0; i < 6; ++i) *fields[i + 1] = (p[1 + 3 * i] - '0') * 10 + (p[2 + 3 * i] - '0');
+  return true;
+}
+
+// Scans the section text of `v` (no text when it is not a string) into the
+// seven fields of `fields` in record order, storing each number as it
+// converts. `width` limits each time field (not the leading enable number)
+// to that many characters. Returns the count of numbers converted.
+int ScanSection(const Json::Value& v, int width, int32_t* fields[7]) {
+  Text t{nullptr, nullptr};
+  if (!v.isString() || !v.getString(&t.p, &t.end)) t = Text{nullptr, nullptr};
+  if (ScanUsualForm(t, fields)) return 7;
   for (int i = 0; i < 7; ++i) {
-    if (i > 0 && !ScanSeparator(&p, i - 1)) return i;
+    if (i > 0 && !ScanSeparator(&t, i - 1)) return i;
     int32_t value = 0;
-    if (!ScanInt(&p, i == 0 ? kAnyWidth : width, &value)) return i;
+    if (!ScanInt(&t, i == 0 ? kAnyWidth : width, &value)) return i;
     *fields[i] = value;
   }
   return 7;
 }
 
-int ScanRecord(const std::string& text, int width, TimeSectionRecord* r) {
+// Whether `v` holds text that reads as a non-empty C string.
+bool HasText(const Json::Value& v) {
+  const char* begin = nullptr;
+  const char* end = nullptr;
+  return v.isString() && v.getString(&begin, &end) && begin != end && *begin != '\0';
+}
+
+int ScanRecord(const Json::Value& v, int width, TimeSectionRecord* r) {
   int32_t* fields[7] = {&r->enable,  &r->beginHour, &r->beginMinute, &r->beginSecond,
                         &r->endHour, &r->endMinute, &r->endSecond};
-  return ScanSection(text.c_str(), width, fields);
+  return ScanSection(v, width, fields);
 }
 
 void FormatSection(int32_t enable, int32_t bh, int32_t bm, int32_t bs, int32_t eh, int32_t em,
@@ -130,19 +175,19 @@ bool ParseTimeSectionGrid(const Json::Value& jsonIn, TimeSectionRecord* sections
   uint32_t days = Count(jsonIn);
   if (days > static_cast<uint32_t>(maxDays)) days = static_cast<uint32_t>(maxDays);
   if (daysOut != nullptr) *daysOut = static_cast<int32_t>(days);
-  for (uint32_t d = 0; d < days; ++d) {
-    const Json::Value& day = Element(jsonIn, d);
+  bool scanned = true;
+  ForEachElement(jsonIn, days, [&](uint32_t d, const Json::Value& day) {
     // A day that is not an array is skipped, not an error: the device
     // sends null for days it has no schedule for.
-    if (!day.isArray() || Count(day) == 0) continue;
-    uint32_t n = Count(day);
-    if (n > static_cast<uint32_t>(maxSectionsPerDay)) n = static_cast<uint32_t>(maxSectionsPerDay);
-    for (uint32_t s = 0; s < n; ++s) {
-      const size_t index = static_cast<size_t>(d) * static_cast<size_t>(maxSectionsPerDay) + s;
-      if (ScanRecord(ToText(Element(day, s)), kAnyWidth, &sections[index]) != 7) return false;
-    }
-  }
-  return true;
+    if (!scanned || !day.isArray()) return;
+    ForEachElement(
+        day, static_cast<uint32_t>(maxSectionsPerDay), [&](uint32_t s, const Json::Value& section) {
+          const size_t index = static_cast<size_t>(d) * static_cast<size_t>(maxSectionsPerDay) + s;
+          // The first section that does not read ends the grid.
+          if (scanned) scanned = ScanRecord(section, kAnyWidth, &sections[index]) == 7;
+        });
+  });
+  return scanned;
 }
 
 bool PackTimeSection(Json::Value& jsonOut, const TimeSectionRecord& section) {
@@ -151,10 +196,8 @@ bool PackTimeSection(Json::Value& jsonOut, const TimeSectionRecord& section) {
 }
 
 bool ParseTimeSection(const Json::Value& jsonIn, TimeSectionRecord* section) {
-  if (section == nullptr) return false;
-  const std::string text = ToText(jsonIn);
-  if (text.empty()) return false;
-  return ScanRecord(text, kSingleSectionWidth, section) == 7;
+  if (section == nullptr || !HasText(jsonIn)) return false;
+  return ScanRecord(jsonIn, kSingleSectionWidth, section) == 7;
 }
 
 bool PackSizedTimeSection(Json::Value& jsonOut, const SizedTimeSection& sized) {
@@ -165,13 +208,11 @@ bool PackSizedTimeSection(Json::Value& jsonOut, const SizedTimeSection& sized) {
 }
 
 bool ParseSizedTimeSection(const Json::Value& jsonIn, SizedTimeSection* sized) {
-  if (sized == nullptr) return false;
-  const std::string text = ToText(jsonIn);
-  if (text.empty()) return false;
+  if (sized == nullptr || !HasText(jsonIn)) return false;
   int32_t* fields[7] = {&sized->enable,      &sized->beginHour, &sized->beginMinute,
                         &sized->beginSecond, &sized->endHour,   &sized->endMinute,
                         &sized->endSecond};
-  return ScanSection(text.c_str(), kSingleSectionWidth, fields) == 7;
+  return ScanSection(jsonIn, kSingleSectionWidth, fields) == 7;
 }
 
 bool PackHolidaySchedule(Json::Value& jsonOut, const HolidaySchedule& schedule) {
@@ -195,13 +236,12 @@ bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule) 
 
 bool ParseDaySections(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxSections) {
   if (sections == nullptr || maxSections < 1) return false;
-  uint32_t n = jsonIn.isArray() ? Count(jsonIn) : 0;
-  if (n > static_cast<uint32_t>(maxSections)) n = static_cast<uint32_t>(maxSections);
-  for (uint32_t i = 0; i < n; ++i) {
-    // The converted count is deliberately not checked: a malformed string
-    // leaves a partly filled record and the day still reads as good.
-    ScanRecord(ToText(Element(jsonIn, i)), kAnyWidth, &sections[i]);
-  }
+  // The converted count is deliberately not checked: a malformed string
+  // leaves a partly filled record and the day still reads as good.
+  ForEachElement(jsonIn, static_cast<uint32_t>(maxSections),
+                 [&](uint32_t i, const Json::Value& section) {
+                   ScanRecord(section, kAnyWidth, &sections[i]);
+                 });
   return true;
 }
 

@@ -191,18 +191,20 @@ bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
   unsigned char* base = record + f.offset;
   const uint32_t n = v.isArray() ? Count(v) : 0;
   uint32_t looked = 0, taken = 0, nonNull = 0;
-  for (uint32_t i = 0; i < n; ++i) {
+  // Slots are filled in element order; the walk stops at the first element
+  // that has no slot left.
+  ForEachElement(v, n, [&](uint32_t i, const Json::Value& e) {
     const uint32_t slot = f.keepSlots ? i : taken;
-    if (slot >= f.capacity) break;
+    if (slot >= f.capacity) return false;
     ++looked;
-    const Json::Value& e = Element(v, i);
     if (e.isNull()) {
-      if (!f.element->alwaysRead) continue;
+      if (!f.element->alwaysRead) return true;
     } else {
       ++nonNull;
     }
     if (ParseValue(e, base + static_cast<size_t>(slot) * f.size, *f.element)) ++taken;
-  }
+    return true;
+  });
   if (f.count.size != 0) {
     uint32_t c = looked;
     switch (f.countRule) {
@@ -244,7 +246,7 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
     case FieldShape::kNested:
       if (f.table == nullptr || (!value.isObject() && !ReadsAnyType(f))) return false;
       // Member() of anything but an object is null: every member reads as missing.
-      ParseFields(value, member, f.table->fields, f.table->count);
+      ParseFields(value, member, *f.table);
       return true;
     case FieldShape::kTuple: {
       if (!value.isArray() || Count(value) < f.minItems) return false;
@@ -371,34 +373,80 @@ uint32_t CutCount(int64_t count, uint32_t capacity) {
   return count < static_cast<int64_t>(capacity) ? static_cast<uint32_t>(count) : capacity;
 }
 
+namespace {
+
+// One field of a parse walk, given the member's value (null when missing).
+void ParseField(const Json::Value& obj, const Json::Value& v, unsigned char* base, const Field& f) {
+  if (f.direction == Direction::kPackOnly) return;
+  if (f.shape == FieldShape::kCustom) {
+    if (f.parse != nullptr) f.parse(obj, base, f);
+    return;
+  }
+  if (v.isNull()) {
+    if (f.hasMissingValue) StoreInt(base + f.offset, f.size, f.missingValue);
+    if (!f.alwaysRead) {
+      if (f.clearsFlag) WriteFlag(base, f, 0);
+      return;
+    }
+  }
+  const bool read =
+      f.shape == FieldShape::kList ? ParseList(v, base, f) : ParseValue(v, base + f.offset, f);
+  // A scalar that is present counts as present even when its text names
+  // nothing; a block or list of the wrong JSON type does not (unless it
+  // reads any type).
+  if (read || f.shape == FieldShape::kScalar || f.alwaysRead) {
+    WriteFlag(base, f, 1);
+  } else if (f.clearsFlag) {
+    WriteFlag(base, f, 0);
+  }
+}
+
+// Whether the key of object member `it` is `key` (<0: before it, >0: after).
+int MemberKeyCompare(const Json::Value::const_iterator& it, const char* key) {
+  const char* end = nullptr;
+  const char* name = it.memberName(&end);
+  if (name == nullptr) name = end = "";
+  const size_t n = static_cast<size_t>(end - name);
+  const size_t k = std::strlen(key);
+  const int c = std::memcmp(name, key, std::min(n, k));
+  if (c != 0) return c;
+  return n < k ? -1 : (n > k ? 1 : 0);
+}
+
+}  // namespace
+
 void ParseFields(const Json::Value& obj, void* record, const Field* fields, size_t count) {
   unsigned char* base = static_cast<unsigned char*>(record);
   for (size_t i = 0; i < count; ++i) {
     const Field& f = fields[i];
-    if (f.direction == Direction::kPackOnly) continue;
-    if (f.shape == FieldShape::kCustom) {
-      if (f.parse != nullptr) f.parse(obj, base, f);
+    ParseField(obj, f.shape == FieldShape::kCustom ? Null() : Member(obj, f.key), base, f);
+  }
+}
+
+void ParseFields(const Json::Value& obj, void* record, const FieldTable& t) {
+  constexpr size_t kMaxJoined = 256;
+  if (t.byKey == nullptr || !obj.isObject() || t.count > kMaxJoined) {
+    ParseFields(obj, record, t.fields, t.count);
+    return;
+  }
+  // The object's members and the table's keys, both in key order, walked
+  // side by side: each member value found without a lookup.
+  const Json::Value* values[kMaxJoined];
+  size_t k = 0;
+  const Json::Value::const_iterator end = obj.end();
+  for (Json::Value::const_iterator it = obj.begin(); it != end && k < t.count;) {
+    const Field& f = t.fields[t.byKey[k]];
+    const int c = MemberKeyCompare(it, f.key != nullptr ? f.key : "");
+    if (c < 0) {
+      ++it;
       continue;
     }
-    const Json::Value& v = Member(obj, f.key);
-    if (v.isNull()) {
-      if (f.hasMissingValue) StoreInt(base + f.offset, f.size, f.missingValue);
-      if (!f.alwaysRead) {
-        if (f.clearsFlag) WriteFlag(base, f, 0);
-        continue;
-      }
-    }
-    const bool read =
-        f.shape == FieldShape::kList ? ParseList(v, base, f) : ParseValue(v, base + f.offset, f);
-    // A scalar that is present counts as present even when its text names
-    // nothing; a block or list of the wrong JSON type does not (unless it
-    // reads any type).
-    if (read || f.shape == FieldShape::kScalar || f.alwaysRead) {
-      WriteFlag(base, f, 1);
-    } else if (f.clearsFlag) {
-      WriteFlag(base, f, 0);
-    }
+    values[t.byKey[k]] = c == 0 ? &*it : &Null();
+    ++k;  // fields sharing a key each take the member: `it` stays
   }
+  for (; k < t.count; ++k) values[t.byKey[k]] = &Null();
+  unsigned char* base = static_cast<unsigned char*>(record);
+  for (size_t i = 0; i < t.count; ++i) ParseField(obj, *values[i], base, t.fields[i]);
 }
 
 void PackFields(const void* record, Json::Value& obj, const Field* fields, size_t count) {

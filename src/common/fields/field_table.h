@@ -43,6 +43,7 @@
 
 #include <json/value.h>
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
@@ -92,11 +93,11 @@ enum class PackAs : uint8_t {
 
 // What pack writes for an enumeration value without a name.
 enum class Unnamed : uint8_t {
-  kTable,      // as the EnumNames table says (omitUnnamed)
-  kEmptyText,  // ""
-  kOmit,       // nothing
-  kFirstName,  // the table's first name
-  kNull,       // null
+  kTable,        // as the EnumNames table says (omitUnnamed)
+  kEmptyText,    // ""
+  kOmit,         // nothing
+  kFirstName,    // the table's first name
+  kNull,         // null
   kUnknownName,  // the name of the value an unknown text reads as (EnumNames::UnknownAs)
 };
 
@@ -129,15 +130,27 @@ struct EnumNames {
     e.count = static_cast<uint32_t>(N);
     return e;
   }
-  constexpr EnumNames Exact() const { EnumNames e = *this; e.exact = true; return e; }
-  constexpr EnumNames FirstValue(int32_t v) const { EnumNames e = *this; e.first = v; return e; }
+  constexpr EnumNames Exact() const {
+    EnumNames e = *this;
+    e.exact = true;
+    return e;
+  }
+  constexpr EnumNames FirstValue(int32_t v) const {
+    EnumNames e = *this;
+    e.first = v;
+    return e;
+  }
   constexpr EnumNames UnknownAs(int32_t v) const {
     EnumNames e = *this;
     e.setOnUnknown = true;
     e.unknownValue = v;
     return e;
   }
-  constexpr EnumNames OmitUnnamed() const { EnumNames e = *this; e.omitUnnamed = true; return e; }
+  constexpr EnumNames OmitUnnamed() const {
+    EnumNames e = *this;
+    e.omitUnnamed = true;
+    return e;
+  }
   // Second texts, index for index with the names (same count); read after
   // every name has been tried.
   template <size_t N>
@@ -154,6 +167,10 @@ struct Field;
 struct FieldTable {
   const Field* fields;
   size_t count;
+  // The field indices in the byte order of their keys (see KOVA_TABLE), so
+  // that parse finds an object's members in one pass instead of one lookup
+  // per field; null: looked up one by one.
+  const uint16_t* byKey = nullptr;
 };
 
 // Hand-written step: reads (or writes) its own member(s) of the object
@@ -177,15 +194,15 @@ struct Field {
   Direction direction = Direction::kBoth;
   PackAs packAs = PackAs::kNatural;
   Presence presence = Presence::kAlways;
-  Slot flag = {0, 0};          // Presence::kFlag
-  int64_t sentinel = 0;        // Presence::kSentinel
+  Slot flag = {0, 0};                // Presence::kFlag
+  int64_t sentinel = 0;              // Presence::kSentinel
   const EnumNames* names = nullptr;  // kEnum
   Unnamed unnamed = Unnamed::kTable;
   const FieldTable* table = nullptr;  // kNested: the member type's table
   const Field* element = nullptr;     // kList: one entry, at offset 0 of its slot
-  uint32_t capacity = 0;   // kList: slots; kTuple: items
-  uint32_t minItems = 0;   // kTuple: an array with fewer items leaves the member as it was
-  Slot count = {0, 0};     // kList: count member (size 0: none; pack then writes every slot)
+  uint32_t capacity = 0;              // kList: slots; kTuple: items
+  uint32_t minItems = 0;  // kTuple: an array with fewer items leaves the member as it was
+  Slot count = {0, 0};    // kList: count member (size 0: none; pack then writes every slot)
   CountRule countRule = CountRule::kAll;
   bool keepSlots = false;  // kList: element i goes to slot i, a skipped element leaves its slot
   CustomParse parse = nullptr;  // kCustom
@@ -199,41 +216,94 @@ struct Field {
   int64_t missingValue = 0;
   bool nullWhenEmpty = false;  // kNested pack: null instead of an object with no members
 
-  constexpr Field Flag(Slot s) const { Field f = *this; f.presence = Presence::kFlag; f.flag = s; return f; }
+  constexpr Field Flag(Slot s) const {
+    Field f = *this;
+    f.presence = Presence::kFlag;
+    f.flag = s;
+    return f;
+  }
   constexpr Field Sentinel(int64_t v) const {
     Field f = *this;
     f.presence = Presence::kSentinel;
     f.sentinel = v;
     return f;
   }
-  constexpr Field NonNegative() const { Field f = *this; f.presence = Presence::kNonNegative; return f; }
-  constexpr Field ParseOnly() const { Field f = *this; f.direction = Direction::kParseOnly; return f; }
-  constexpr Field PackOnly() const { Field f = *this; f.direction = Direction::kPackOnly; return f; }
-  constexpr Field PackBoolEqualsOne() const { Field f = *this; f.packAs = PackAs::kBoolEqualsOne; return f; }
-  constexpr Field PackBool() const { Field f = *this; f.packAs = PackAs::kBoolNonZero; return f; }
-  constexpr Field UnnamedAs(Unnamed u) const { Field f = *this; f.unnamed = u; return f; }
+  constexpr Field NonNegative() const {
+    Field f = *this;
+    f.presence = Presence::kNonNegative;
+    return f;
+  }
+  constexpr Field ParseOnly() const {
+    Field f = *this;
+    f.direction = Direction::kParseOnly;
+    return f;
+  }
+  constexpr Field PackOnly() const {
+    Field f = *this;
+    f.direction = Direction::kPackOnly;
+    return f;
+  }
+  constexpr Field PackBoolEqualsOne() const {
+    Field f = *this;
+    f.packAs = PackAs::kBoolEqualsOne;
+    return f;
+  }
+  constexpr Field PackBool() const {
+    Field f = *this;
+    f.packAs = PackAs::kBoolNonZero;
+    return f;
+  }
+  constexpr Field UnnamedAs(Unnamed u) const {
+    Field f = *this;
+    f.unnamed = u;
+    return f;
+  }
   constexpr Field Count(Slot s, CountRule rule) const {
     Field f = *this;
     f.count = s;
     f.countRule = rule;
     return f;
   }
-  constexpr Field KeepSlots() const { Field f = *this; f.keepSlots = true; return f; }
-  constexpr Field MinItems(uint32_t n) const { Field f = *this; f.minItems = n; return f; }
-  constexpr Field Names(const EnumNames& e) const { Field f = *this; f.names = &e; return f; }
+  constexpr Field KeepSlots() const {
+    Field f = *this;
+    f.keepSlots = true;
+    return f;
+  }
+  constexpr Field MinItems(uint32_t n) const {
+    Field f = *this;
+    f.minItems = n;
+    return f;
+  }
+  constexpr Field Names(const EnumNames& e) const {
+    Field f = *this;
+    f.names = &e;
+    return f;
+  }
 
   // Parse reads the member even when it is missing or null, as null (a
   // scalar stores its null conversion: 0, false, empty text, an enumeration's
   // unknown value; a nested block reads its table with every member
   // missing), and sets the flag. A nested block or list given with another
   // JSON type reads as empty. List entries: null elements are read too.
-  constexpr Field AlwaysRead() const { Field f = *this; f.alwaysRead = true; return f; }
+  constexpr Field AlwaysRead() const {
+    Field f = *this;
+    f.alwaysRead = true;
+    return f;
+  }
   // A nested block or list given (not null) with another JSON type counts
   // as present (its flag is set) and reads as empty: no member, no element.
-  constexpr Field AnyType() const { Field f = *this; f.anyType = true; return f; }
+  constexpr Field AnyType() const {
+    Field f = *this;
+    f.anyType = true;
+    return f;
+  }
   // Parse writes the flag both ways: 0 when the member is missing, null or
   // not read (for records that parse does not clear first).
-  constexpr Field ClearsFlag() const { Field f = *this; f.clearsFlag = true; return f; }
+  constexpr Field ClearsFlag() const {
+    Field f = *this;
+    f.clearsFlag = true;
+    return f;
+  }
   // Parse stores `v` when the member is missing or null (an integer member).
   constexpr Field MissingAs(int64_t v) const {
     Field f = *this;
@@ -242,7 +312,11 @@ struct Field {
     return f;
   }
   // Pack: a nested block none of whose members is written packs as null.
-  constexpr Field NullWhenEmpty() const { Field f = *this; f.nullWhenEmpty = true; return f; }
+  constexpr Field NullWhenEmpty() const {
+    Field f = *this;
+    f.nullWhenEmpty = true;
+    return f;
+  }
   // Pack: written when any byte of `s` is non-zero (the members' own flags,
   // see KOVA_FLAGS); parse leaves those bytes to the members.
   constexpr Field WhenAnySet(Slot s) const {
@@ -269,9 +343,7 @@ void ParseFields(const Json::Value& obj, void* record, const Field* fields, size
 // Counts read from the record are cut to the list's capacity.
 void PackFields(const void* record, Json::Value& obj, const Field* fields, size_t count);
 
-inline void ParseFields(const Json::Value& obj, void* record, const FieldTable& t) {
-  ParseFields(obj, record, t.fields, t.count);
-}
+void ParseFields(const Json::Value& obj, void* record, const FieldTable& t);
 inline void PackFields(const void* record, Json::Value& obj, const FieldTable& t) {
   PackFields(record, obj, t.fields, t.count);
 }
@@ -415,11 +487,43 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
   return f;
 }
 
+// Compares two keys in the order of the JSON library's object members (byte
+// by byte, a prefix first).
+constexpr int KeyCompare(const char* a, const char* b) {
+  if (a == nullptr) a = "";
+  if (b == nullptr) b = "";
+  while (*a != '\0' && *a == *b) {
+    ++a;
+    ++b;
+  }
+  return static_cast<int>(static_cast<unsigned char>(*a)) -
+         static_cast<int>(static_cast<unsigned char>(*b));
+}
+
+// The indices of a table's fields sorted by key, made at compile time.
+template <const Field* kFields, size_t N>
+struct KeyOrder {
+  static_assert(N < 0xFFFF, "a field table of at most 65534 fields");
+  static constexpr std::array<uint16_t, N> Make() {
+    std::array<uint16_t, N> order{};
+    for (size_t i = 0; i < N; ++i) {
+      size_t j = i;
+      for (; j > 0 && KeyCompare(kFields[order[j - 1]].key, kFields[i].key) > 0; --j) {
+        order[j] = order[j - 1];
+      }
+      order[j] = static_cast<uint16_t>(i);
+    }
+    return order;
+  }
+  static constexpr std::array<uint16_t, N> value = Make();
+};
+
 }  // namespace kova
 
 #define KOVA_MEMBER_TYPE(Rec, member) decltype(static_cast<Rec*>(nullptr)->member)
 #define KOVA_MEMBER_T(Rec, member) std::remove_reference_t<KOVA_MEMBER_TYPE(Rec, member)>
-#define KOVA_MEMBER_SIZE(Rec, member) static_cast<uint32_t>(sizeof(static_cast<Rec*>(nullptr)->member))
+#define KOVA_MEMBER_SIZE(Rec, member) \
+  static_cast<uint32_t>(sizeof(static_cast<Rec*>(nullptr)->member))
 
 // A scalar member: KOVA_F(Rec, member, "Key", kInt).
 #define KOVA_F(Rec, member, key, KIND) \
@@ -429,8 +533,8 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
 // A flag or count member, for .Flag() and .Count().
 #define KOVA_AT(Rec, member) ::kova::MakeSlot<KOVA_MEMBER_T(Rec, member)>(offsetof(Rec, member))
 // Element `i` of an integer array member used as flags (present[i]).
-#define KOVA_AT_ITEM(Rec, member, i)                                               \
-  ::kova::MakeSlot<std::remove_extent_t<KOVA_MEMBER_T(Rec, member)>>(              \
+#define KOVA_AT_ITEM(Rec, member, i)                                  \
+  ::kova::MakeSlot<std::remove_extent_t<KOVA_MEMBER_T(Rec, member)>>( \
       offsetof(Rec, member) + (i) * sizeof(std::remove_extent_t<KOVA_MEMBER_T(Rec, member)>))
 // The bytes from `first` through `last` (several one-byte flags), for .WhenAnySet().
 #define KOVA_FLAGS(Rec, first, last) \
@@ -439,18 +543,22 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
 // see KOVA_TABLE): KOVA_GROUP(Rec, "Sound", kSoundTable).
 #define KOVA_GROUP(Rec, key, fieldTable) \
   ::kova::MakeGroup(key, static_cast<uint32_t>(sizeof(Rec)), &(fieldTable))
-// A FieldTable over a constexpr Field array.
-#define KOVA_TABLE(fields) ::kova::FieldTable{fields, sizeof(fields) / sizeof((fields)[0])}
+// A FieldTable over a constexpr Field array (with static storage).
+#define KOVA_TABLE(fields)                                                           \
+  ::kova::FieldTable {                                                               \
+    fields, sizeof(fields) / sizeof((fields)[0]),                                    \
+        ::kova::KeyOrder<fields, sizeof(fields) / sizeof((fields)[0])>::value.data() \
+  }
 // A nested object read with its type's own table (see KOVA_DESCRIBE).
 #define KOVA_NESTED(Rec, member, key) \
   ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
 // A tuple of n items of type Item ([x, y]: KOVA_TUPLE(Rec, pt, "Point", int32_t, 2)); by
 // default all n items are required, .MinItems(k) lowers that.
-#define KOVA_TUPLE(Rec, member, key, Item, n)                                                    \
-  ::kova::MakeTuple<Item, ::kova::FieldKind::kInt, KOVA_MEMBER_T(Rec, member)>(key,              \
-                                                                              offsetof(Rec, member), n)
-#define KOVA_TUPLE_OF(Rec, member, key, Item, KIND, n)                                           \
-  ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, KOVA_MEMBER_T(Rec, member)>(                  \
+#define KOVA_TUPLE(Rec, member, key, Item, n)                                   \
+  ::kova::MakeTuple<Item, ::kova::FieldKind::kInt, KOVA_MEMBER_T(Rec, member)>( \
+      key, offsetof(Rec, member), n)
+#define KOVA_TUPLE_OF(Rec, member, key, Item, KIND, n)                          \
+  ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, KOVA_MEMBER_T(Rec, member)>( \
       key, offsetof(Rec, member), n)
 // A fixed list: `elementField` (a constexpr Field, see KOVA_ITEM*) describes one entry.
 #define KOVA_LIST(Rec, member, key, elementField) \
@@ -462,17 +570,18 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
 // List entries: a scalar, nested or tuple entry of type Type at offset 0 of its slot.
 #define KOVA_ITEM(Type, KIND) ::kova::MakeField<::kova::FieldKind::KIND, Type>(nullptr, 0)
 #define KOVA_ITEM_NESTED(Type) ::kova::MakeNested<Type>(nullptr, 0)
-#define KOVA_ITEM_TUPLE(Type, Item, KIND, n) ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, Type>(nullptr, 0, n)
+#define KOVA_ITEM_TUPLE(Type, Item, KIND, n) \
+  ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, Type>(nullptr, 0, n)
 
 // Registers `fields` (a constexpr Field array) as the description of Type,
 // for KOVA_NESTED and KOVA_ITEM_NESTED. Use at global scope. A description
 // shared between files lives in a header as an `inline constexpr` array.
-#define KOVA_DESCRIBE(Type, fields)                                                    \
-  namespace kova {                                                                     \
-  template <>                                                                          \
-  struct Description<Type> {                                                           \
-    static constexpr FieldTable table{fields, sizeof(fields) / sizeof((fields)[0])};   \
-  };                                                                                   \
+#define KOVA_DESCRIBE(Type, fields)                         \
+  namespace kova {                                          \
+  template <>                                               \
+  struct Description<Type> {                                \
+    static constexpr FieldTable table = KOVA_TABLE(fields); \
+  };                                                        \
   }
 
 #endif  // KOVA_COMMON_FIELD_TABLE_H_

@@ -9,8 +9,10 @@
 
 #include <json/value.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
+#include <type_traits>
 
 namespace kova {
 
@@ -30,6 +32,36 @@ bool HasMember(const Json::Value& v, const char* key);
 const Json::Value& Element(const Json::Value& v, uint64_t i);
 // Number of elements of an array or members of an object; 0 otherwise.
 uint32_t Count(const Json::Value& v);
+
+// The shared null value that Member and Element return for what is missing.
+const Json::Value& Null();
+
+// Calls fn(i, element) for i = 0 .. min(Count(v), limit) - 1 of an array
+// (nothing for any other value), in order: Element(v, i) for each i, but
+// without a lookup per element. A `fn` that returns bool stops the walk by
+// returning false.
+template <typename Fn>
+void ForEachElement(const Json::Value& v, uint32_t limit, Fn&& fn) {
+  if (!v.isArray()) return;
+  const uint32_t size = v.size();
+  const uint32_t n = std::min<uint32_t>(size, limit);
+  // The reader's arrays are dense (an entry for every index below the size)
+  // and are walked entry by entry; an array with missing indices, which
+  // read as null, is walked index by index.
+  const Json::Value::const_iterator begin = v.begin();
+  const Json::Value::const_iterator end = v.end();
+  uint32_t entries = 0;
+  for (Json::Value::const_iterator it = begin; it != end && entries <= size; ++it) ++entries;
+  Json::Value::const_iterator it = begin;
+  for (uint32_t i = 0; i < n; ++i) {
+    const Json::Value& e = entries == size ? *it++ : Element(v, i);
+    if constexpr (std::is_same<decltype(fn(i, e)), bool>::value) {
+      if (!fn(i, e)) return;
+    } else {
+      fn(i, e);
+    }
+  }
+}
 
 // The four conversions every translator relies on. None fails or throws.
 // Signed 32-bit: null 0; an integer its value when it fits in 32 bits and
