@@ -7,7 +7,7 @@
 namespace kova {
 
 const PackName kPackNames[] = {
-    {"Encode", PackEncode, sizeof(EncodeConfig)},
+    {"Encode", PackEncode, sizeof(EncodeConfig), true},
     {"Record", nullptr, 0},
     {"Alarm", PackAlarm, sizeof(AlarmInRecord)},
     {"NetAlarm", PackNetAlarm, sizeof(NetAlarmRecord)},

@@ -24,9 +24,10 @@ uint32_t PackSizeOrDefault(int k) {
   return n != 0 ? n : kUnknownRecordSize;
 }
 
-bool PackAcceptsShortInput(int k) {
+bool PackAcceptsShortInput(int k, uint32_t inLen) {
   const kova::DriverBinding* b = kova::PackBinding(k);
-  return b != nullptr && b->packArray != 0;
+  if (b != nullptr) return b->packArray != 0;
+  return inLen > 0 && kPackNames[k].shortInputPacksNull;
 }
 
 std::vector<int> BuiltParseNames() {

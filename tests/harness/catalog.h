@@ -28,10 +28,11 @@ uint32_t PackSize(int k);
 uint32_t ParseSizeOrDefault(int i);
 uint32_t PackSizeOrDefault(int k);
 
-// Whether the packer of pack name `k` is the table driver in array mode,
-// which packs an input shorter than one record as "null" instead of
-// refusing it.
-bool PackAcceptsShortInput(int k);
+// Whether the packer of pack name `k` packs an input of `inLen` bytes,
+// shorter than one record, as "null" instead of refusing it: the table
+// driver in array mode (any length, none included) and the translators whose
+// list entry says so (at least one byte).
+bool PackAcceptsShortInput(int k, uint32_t inLen);
 
 // Indices of the names whose translator is built, in list order.
 std::vector<int> BuiltParseNames();
