@@ -4,7 +4,8 @@
 // case-insensitive whole-name comparison, first match wins. An entry whose
 // translator is not built yet has a null function. The last
 // kDriverNameCount names of both lists are served by the table drivers, in
-// the same order as kDriverBindings.
+// the same order as kDriverBindings: all three are made from the one list
+// in driver_names.h.
 #ifndef KOVA_API_DISPATCH_H_
 #define KOVA_API_DISPATCH_H_
 
