@@ -206,7 +206,7 @@ bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
     return true;
   });
   if (f.count.size != 0) {
-    uint32_t c = looked;
+    uint32_t c = std::min(looked, f.capacity);
     switch (f.countRule) {
       case CountRule::kAll:
         break;
