@@ -9,11 +9,11 @@
 // type at compile time (a real kind on an integer member does not compile).
 //
 // How one configuration is declared (a record with a nested list, a tuple
-// and an enumeration):
+// and an enumeration; field_table_test.cpp compiles this very example):
 //
 //   struct Zone  { int32_t id; char name[32]; };
 //   struct Fence { int32_t enable; int32_t mode; int32_t modePresent;
-//                  Point origin; int32_t zoneCount; Zone zones[8]; };
+//                  int32_t origin[2]; int32_t zoneCount; Zone zones[8]; };
 //
 //   constexpr const char* kModeNames[] = {"Auto", "Manual"};
 //   constexpr EnumNames kModes = EnumNames::Of(kModeNames).UnknownAs(-1);
@@ -24,16 +24,33 @@
 //   };
 //   KOVA_DESCRIBE(Zone, kZoneFields)          // at global scope
 //
+//   constexpr Field kZone = KOVA_ITEM_NESTED(Zone);     // one list entry
 //   constexpr Field kFenceFields[] = {
 //       KOVA_F(Fence, enable, "Enable", kBool),
 //       KOVA_ENUM(Fence, mode, "Mode", kModes).Flag(KOVA_AT(Fence, modePresent)),
 //       KOVA_TUPLE(Fence, origin, "Origin", int32_t, 2),           // [x, y]
-//       KOVA_LIST(Fence, zones, "Zones", KOVA_ITEM_NESTED(Zone))
+//       KOVA_LIST(Fence, zones, "Zones", kZone)
 //           .Count(KOVA_AT(Fence, zoneCount), CountRule::kTaken),
 //   };
+//   constexpr FieldTable kFence = KOVA_TABLE(kFenceFields);
 //
-//   ParseFields(table, &fence, kFenceFields);   // JSON object -> record
-//   PackFields(&fence, table, kFenceFields);    // record -> JSON object
+//   ParseFields(table, &fence, kFence);   // JSON object -> record
+//   PackFields(&fence, table, kFence);    // record -> JSON object
+//
+// A translator runs such a table inside its response frame
+// (drivers/response_frame.h): ParseTableStep<kFence> / PackTableStep<kFence>.
+//
+// Beside the shape, kind and names, a field takes independent attributes:
+//   presence  .Flag(slot) (KOVA_AT, KOVA_AT_ITEM for present[i]), .Sentinel(v),
+//             .NonNegative(), .WhenAnySet(KOVA_FLAGS(Rec, first, last))
+//   parse     .AlwaysRead() (missing reads as null), .MissingAs(v), .ClearsFlag()
+//             (for records parse does not clear), .AnyType() (a block or list
+//             of another JSON type reads as empty)
+//   pack      .PackBool(), .PackBoolEqualsOne(), .UnnamedAs(...), .NullWhenEmpty()
+//   direction .ParseOnly(), .PackOnly()
+//   lists     .Count(slot, rule), .KeepSlots(); tuples .MinItems(n)
+// A JSON object whose members are fields of the record itself is a group:
+// KOVA_GROUP(Rec, "Sound", kSoundTable).
 //
 // Deliberate irregularities stay hand-written beside the table, either as a
 // custom step (KOVA_CUSTOM) that the walker calls in its turn, or as code

@@ -61,16 +61,50 @@ constexpr kova::Field kInnerFields[] = {
     KOVA_F(Inner, a, "A", kInt).Flag(KOVA_AT(Inner, aPresent)).ClearsFlag(),
 };
 
+// The example at the top of field_table.h, as written there.
+struct Zone {
+  int32_t id;
+  char name[32];
+};
+struct Fence {
+  int32_t enable;
+  int32_t mode;
+  int32_t modePresent;
+  int32_t origin[2];
+  int32_t zoneCount;
+  Zone zones[8];
+};
+
+using kova::CountRule;
+using kova::EnumNames;
+using kova::Field;
+using kova::FieldTable;
+
+constexpr const char* kModeNames[] = {"Auto", "Manual"};
+constexpr EnumNames kModes = EnumNames::Of(kModeNames).UnknownAs(-1);
+
+constexpr Field kZoneFields[] = {
+    KOVA_F(Zone, id, "Id", kInt),
+    KOVA_F(Zone, name, "Name", kText),
+};
+
 }  // namespace
 
 KOVA_DESCRIBE(Inner, kInnerFields)
+KOVA_DESCRIBE(Zone, kZoneFields)
 
 namespace {
 
-using kova::CountRule;
-using kova::Field;
-using kova::FieldTable;
 using kova::Unnamed;
+
+constexpr Field kZone = KOVA_ITEM_NESTED(Zone);  // one list entry
+constexpr Field kFenceFields[] = {
+    KOVA_F(Fence, enable, "Enable", kBool),
+    KOVA_ENUM(Fence, mode, "Mode", kModes).Flag(KOVA_AT(Fence, modePresent)),
+    KOVA_TUPLE(Fence, origin, "Origin", int32_t, 2),  // [x, y]
+    KOVA_LIST(Fence, zones, "Zones", kZone).Count(KOVA_AT(Fence, zoneCount), CountRule::kTaken),
+};
+constexpr FieldTable kFence = KOVA_TABLE(kFenceFields);
 
 constexpr Field kInt32Item = KOVA_ITEM(int32_t, kInt);
 constexpr Field kInt32ItemAlways = KOVA_ITEM(int32_t, kInt).AlwaysRead();
@@ -343,6 +377,27 @@ TEST(FieldTable, GroupsListsOfListsSharedKeysAndCustomSteps) {
       R"({ "Custom" : 4, "Lock" : { "Doors" : [ [ 1, 0 ], [  ] ], "Enable" : false }, "Z" : 4 })"
       "\n",
       kova::WriteJson(out));
+}
+
+TEST(FieldTable, HeaderExampleDeclaresAFence) {
+  Json::Value table;
+  ASSERT_TRUE(kova::ReadJson(R"({"Enable": true, "Mode": "manual", "Origin": [3, 4],
+      "Zones": [{"Id": 1, "Name": "Gate"}, 7, {"Id": 2}]})",
+                             &table));
+  Fence fence;
+  std::memset(&fence, 0, sizeof fence);
+  kova::ParseFields(table, &fence, kFence);  // JSON object -> record
+  EXPECT_EQ(1, fence.mode);
+  EXPECT_EQ(1, fence.modePresent);
+  EXPECT_EQ(2, fence.zoneCount);  // entries taken: the 7 is not a zone
+  EXPECT_STREQ("Gate", fence.zones[0].name);
+  EXPECT_EQ(2, fence.zones[1].id);
+  Json::Value out;
+  kova::PackFields(&fence, out, kFence);  // record -> JSON object
+  EXPECT_EQ(R"({ "Enable" : true, "Mode" : "Manual", "Origin" : [ 3, 4 ], "Zones" : [ { "Id" : 1, )"
+            R"("Name" : "Gate" }, { "Id" : 2, "Name" : "" } ] })"
+            "\n",
+            kova::WriteJson(out));
 }
 
 TEST(FieldTable, EnumerationAndCountHelpers) {
