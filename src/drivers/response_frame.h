@@ -8,9 +8,10 @@
 //
 // A configuration states its frame once:
 //
-//   constexpr ResponseFrame kFrame = ResponseFrame::For<NtpRecord>(ParseNtp, PackNtp)
-//                                        .Walk(RecordWalk::kPerChannel)
-//                                        .IgnoreResult();
+//   constexpr ResponseFrame kFrame =
+//       ResponseFrame::For<NtpRecord>(ParseTableStep<kNtp>, PackTableStep<kNtp>)
+//           .Walk(RecordWalk::kPerChannel)
+//           .IgnoreResult();
 //   int ParseNtpConfig(const char* t, void* o, uint32_t n, uint32_t* r) {
 //     return ParseWithFrame(kFrame, t, o, n, r);
 //   }

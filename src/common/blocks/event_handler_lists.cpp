@@ -49,6 +49,7 @@ uint32_t EntriesToRecordEnd(size_t offset, size_t entrySize) {
   return static_cast<uint32_t>((sizeof(EventHandlerRecord) - offset) / entrySize);
 }
 
+// Intended: an entry is a five-item array, type name first, not an object.
 void ParsePtzLinks(const Json::Value& obj, unsigned char* record, const Field& f) {
   const Json::Value* links = GivenArray(obj, f);
   if (links == nullptr) return;
@@ -88,6 +89,7 @@ void PackPtzLinks(const unsigned char* record, Json::Value& obj, const Field& f)
   }
 }
 
+// Intended: pairs and colours of exactly their length, sizes read as integers into floats.
 void ParseTitles(const Json::Value& obj, unsigned char* record, const Field& f) {
   const Json::Value* list = GivenArray(obj, f);
   if (list == nullptr) return;
@@ -132,6 +134,8 @@ void PackTitles(const unsigned char* record, Json::Value& obj, const Field& f) {
   }
 }
 
+// Intended: a null operation is 0, an unknown name leaves the value, and a
+// value without a name packs as nothing at its index.
 void ParseAccessControls(const Json::Value& obj, unsigned char* record, const Field& f) {
   const Json::Value* list = GivenArray(obj, f);
   if (list == nullptr) return;

@@ -25,8 +25,8 @@ constexpr Field kEntryFields[] = {
 };
 constexpr FieldTable kEntry = KOVA_TABLE(kEntryFields);
 
-// `enable` is the element itself: a null element only switches its entry
-// off (the rest keeps its bytes) and packs back as null.
+// Intended: `enable` is the element itself; a null element only switches
+// its entry off (the rest keeps its bytes) and packs back as null.
 bool ParseEntry(const Json::Value& element, const StepContext& ctx, unsigned char* entry) {
   StoreInt(entry + offsetof(P, enable), sizeof(int32_t), element.isNull() ? 0 : 1);
   return element.isNull() || ParseTableStep<kEntry>(element, ctx, entry);
