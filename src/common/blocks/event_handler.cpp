@@ -15,20 +15,6 @@ namespace {
 
 using R = EventHandlerRecord;
 
-// "TimeSection": an object (or any other non-array) leaves the schedule as
-// the caller left it, a null one clears it, a failed read is ignored; pack
-// always writes it. The holiday schedule's own rules: intended.
-void ParseScheduleStep(const Json::Value& obj, unsigned char* record, const Field& f) {
-  const Json::Value& timeSection = Member(obj, f.key);
-  if (timeSection.isArray() || timeSection.isNull()) {
-    ParseHolidaySchedule(timeSection, reinterpret_cast<HolidaySchedule*>(record + f.offset));
-  }
-}
-void PackScheduleStep(const unsigned char* record, Json::Value& obj, const Field& f) {
-  PackHolidaySchedule(SetMember(obj, f.key),
-                      *reinterpret_cast<const HolidaySchedule*>(record + f.offset));
-}
-
 // present[i], the one-byte flag of most members.
 #define EH_AT(index) KOVA_AT_ITEM(R, present, index)
 
@@ -104,10 +90,8 @@ namespace {
 
 constexpr Field kMonitorTour = KOVA_ITEM_NESTED(MonitorTourEntry);
 
-// The whole block. Each member travels with its presence flag; the members
-// without one ("TimeSection") are always written.
+// The block but its schedule. Each member travels with its presence flag.
 constexpr Field kEventHandlerFields[] = {
-    KOVA_CUSTOM(R, schedule, "TimeSection", ParseScheduleStep, PackScheduleStep),
     // Always read (missing reads as false) and always marked present.
     KOVA_F(R, recordEnable, "RecordEnable", kBool).Flag(EH_AT(KOVA_EH_RECORD_ENABLE)).AlwaysRead(),
     KOVA_F(R, alarmOutEnable, "AlarmOutEnable", kBool)
@@ -206,33 +190,45 @@ constexpr FieldTable kEventHandler = KOVA_TABLE(kEventHandlerFields);
 
 }  // namespace
 
+// "TimeSection", the holiday schedule, with its own rules (intended): an
+// object (or any other non-array) leaves the schedule and the week as the
+// caller left them, a null one clears the schedule, a failed read is
+// ignored; pack always writes it.
 bool ParseEventHandler(const Json::Value& obj, EventHandlerRecord* r) {
   if (r == nullptr) return false;
+  const Json::Value& timeSection = Member(obj, "TimeSection");
+  if (timeSection.isArray() || timeSection.isNull())
+    ParseHolidaySchedule(timeSection, &r->schedule);
   ParseFields(obj, r, kEventHandler);
   return true;
 }
 
-void ParseWeekSections(const Json::Value& timeSection, WeekSchedule7x6* week) {
-  ForEachElement(timeSection, KOVA_WEEK_DAYS, [week](uint32_t d, const Json::Value& day) {
-    ForEachElement(day, KOVA_SECTIONS_PER_DAY, [week, d](uint32_t s, const Json::Value& section) {
-      // A section that does not read keeps what converted; the rest of
-      // the week is still read.
-      ParseTimeSection(section, &week->sections[d][s]);
-    });
-  });
+namespace {
+
+// ParseEventHandler for a cleared record, reading the 7 x 6 week grid beside
+// it from the same texts in the same walk.
+void ParseWithWeek(const Json::Value& obj, EventHandlerRecord* r, WeekSchedule7x6* week) {
+  const Json::Value& timeSection = Member(obj, "TimeSection");
+  if (timeSection.isArray() || timeSection.isNull()) {
+    ParseHolidayScheduleWithWeek(timeSection, &r->schedule, week);
+  }
+  ParseFields(obj, r, kEventHandler);
 }
+
+}  // namespace
 
 bool ParseEventHandlerWithWeek(const Json::Value& obj, EventHandlerRecord* record,
                                WeekSchedule7x6* week) {
   if (record == nullptr || week == nullptr) return false;
   std::memset(week, 0, sizeof *week);
   std::memset(record, 0, sizeof *record);
-  ParseWeekSections(Member(obj, "TimeSection"), week);
-  return ParseEventHandler(obj, record);
+  ParseWithWeek(obj, record, week);
+  return true;
 }
 
 void PackEventHandler(const EventHandlerRecord& r, Json::Value& obj) {
   if (!obj.isObject()) obj = Json::Value(Json::objectValue);
+  PackHolidaySchedule(SetMember(obj, "TimeSection"), r.schedule);
   PackFields(&r, obj, kEventHandler);
 }
 
@@ -273,9 +269,7 @@ void PackEventHandlerStep(const unsigned char* record, Json::Value& obj, const F
 void ParseEventHandlerWithWeekStep(const Json::Value& obj, unsigned char* record, const Field& f) {
   // The record was cleared before the walk: no second clearing of its
   // 338 KB here (ParseEventHandlerWithWeek would clear again).
-  const Json::Value& handler = Member(obj, f.key);
-  ParseWeekSections(Member(handler, "TimeSection"), WeekAfter(record, f));
-  ParseEventHandler(handler, LinkageAt(record, f));
+  ParseWithWeek(Member(obj, f.key), LinkageAt(record, f), WeekAfter(record, f));
 }
 
 void PackEventHandlerWithWeekStep(const unsigned char* record, Json::Value& obj, const Field& f) {

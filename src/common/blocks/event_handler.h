@@ -38,11 +38,7 @@ bool ParseEventHandlerWithWeek(const Json::Value& jsonEventHandler, EventHandler
 // record's arrays extend, whatever they hold. Always succeeds.
 void PackEventHandler(const EventHandlerRecord& record, Json::Value& jsonEventHandler);
 
-// The 7 x 6 grid of a "TimeSection" value, without clearing `week` first:
-// "TimeSection"[d][s] for d < 7, s < 6 with ParseTimeSection (failures
-// ignored); a null value reads nothing. And the grid written over the first
-// seven days of a "TimeSection" value.
-void ParseWeekSections(const Json::Value& timeSection, WeekSchedule7x6* week);
+// The 7 x 6 grid written over the first seven days of a "TimeSection" value.
 void PackWeekSections(const WeekSchedule7x6& week, Json::Value& timeSection);
 
 // Custom steps of a field table for an "EventHandler" member, read whether

@@ -136,6 +136,15 @@ int ScanRecord(const Json::Value& v, int width, TimeSectionRecord* r) {
   return ScanSection(v, width, fields);
 }
 
+// A section text of the usual form, read into `r`; false for any other text.
+bool ScanUsual(const Json::Value& v, TimeSectionRecord* r) {
+  Text t{nullptr, nullptr};
+  if (!v.isString() || !v.getString(&t.p, &t.end)) return false;
+  int32_t* fields[7] = {&r->enable,  &r->beginHour, &r->beginMinute, &r->beginSecond,
+                        &r->endHour, &r->endMinute, &r->endSecond};
+  return ScanUsualForm(t, fields);
+}
+
 void FormatSection(int32_t enable, int32_t bh, int32_t bm, int32_t bs, int32_t eh, int32_t em,
                    int32_t es, Json::Value& out) {
   char text[128];
@@ -168,8 +177,13 @@ bool PackTimeSectionGrid(Json::Value& jsonOut, const TimeSectionRecord* sections
   return true;
 }
 
-bool ParseTimeSectionGrid(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxDays,
-                          int32_t maxSectionsPerDay, int32_t* daysOut) {
+namespace {
+
+// ParseTimeSectionGrid's walk; with `week`, every text of the first 7 days x
+// 6 sections is also read as ParseTimeSection reads it, whether the grid
+// has failed by then or not.
+bool ScanGrid(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxDays,
+              int32_t maxSectionsPerDay, int32_t* daysOut, WeekSchedule7x6* week) {
   if (sections == nullptr || maxDays < 1 || maxSectionsPerDay < 1) return false;
   if (!jsonIn.isArray() || Count(jsonIn) == 0) return false;
   uint32_t days = Count(jsonIn);
@@ -179,15 +193,33 @@ bool ParseTimeSectionGrid(const Json::Value& jsonIn, TimeSectionRecord* sections
   ForEachElement(jsonIn, days, [&](uint32_t d, const Json::Value& day) {
     // A day that is not an array is skipped, not an error: the device
     // sends null for days it has no schedule for.
-    if (!scanned || !day.isArray()) return;
+    if (!day.isArray()) return true;
+    const bool inWeek = week != nullptr && d < KOVA_WEEK_DAYS;
     ForEachElement(
         day, static_cast<uint32_t>(maxSectionsPerDay), [&](uint32_t s, const Json::Value& section) {
-          const size_t index = static_cast<size_t>(d) * static_cast<size_t>(maxSectionsPerDay) + s;
+          TimeSectionRecord& cell = sections[static_cast<size_t>(d) * maxSectionsPerDay + s];
+          TimeSectionRecord* weekCell =
+              inWeek && s < KOVA_SECTIONS_PER_DAY ? &week->sections[d][s] : nullptr;
+          TimeSectionRecord usual;
+          if (ScanUsual(section, &usual)) {
+            if (scanned) cell = usual;
+            if (weekCell != nullptr) *weekCell = usual;
+            return;
+          }
+          if (weekCell != nullptr) ParseTimeSection(section, weekCell);
           // The first section that does not read ends the grid.
-          if (scanned) scanned = ScanRecord(section, kAnyWidth, &sections[index]) == 7;
+          if (scanned) scanned = ScanRecord(section, kAnyWidth, &cell) == 7;
         });
+    return scanned || week != nullptr;
   });
   return scanned;
+}
+
+}  // namespace
+
+bool ParseTimeSectionGrid(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxDays,
+                          int32_t maxSectionsPerDay, int32_t* daysOut) {
+  return ScanGrid(jsonIn, sections, maxDays, maxSectionsPerDay, daysOut, nullptr);
 }
 
 bool PackTimeSection(Json::Value& jsonOut, const TimeSectionRecord& section) {
@@ -221,11 +253,15 @@ bool PackHolidaySchedule(Json::Value& jsonOut, const HolidaySchedule& schedule) 
 }
 
 bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule) {
+  return ParseHolidayScheduleWithWeek(jsonIn, schedule, nullptr);
+}
+
+bool ParseHolidayScheduleWithWeek(const Json::Value& jsonIn, HolidaySchedule* schedule,
+                                  WeekSchedule7x6* week) {
   if (schedule == nullptr) return false;
   std::memset(schedule, 0, sizeof *schedule);
   int32_t days = 0;
-  if (!ParseTimeSectionGrid(jsonIn, &schedule->sections[0][0], kHolidayDays, kHolidaySections,
-                            &days)) {
+  if (!ScanGrid(jsonIn, &schedule->sections[0][0], kHolidayDays, kHolidaySections, &days, week)) {
     return false;
   }
   // A schedule must name at least the seven week days.
