@@ -1,8 +1,11 @@
 #include "common/fields/field_table.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdlib>
 #include <cstring>
 
+#include "common/base/log.h"
 #include "common/fields/fields.h"
 #include "common/json/json.h"
 
@@ -150,6 +153,62 @@ bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
   return false;
 }
 
+// Entries of an allocated list sit behind a header that holds their
+// number, so that release and copies never depend on the count member
+// (a list that keeps slots may count fewer entries than it holds).
+constexpr size_t kEntriesHeader = alignof(std::max_align_t);
+
+unsigned char* AllocateEntries(uint32_t slots, uint32_t size) {
+  void* block = std::calloc(1, kEntriesHeader + static_cast<size_t>(slots) * size);
+  if (block == nullptr) return nullptr;
+  const uint64_t n = slots;
+  std::memcpy(block, &n, sizeof n);
+  return static_cast<unsigned char*>(block) + kEntriesHeader;
+}
+
+unsigned char* LoadPointer(const unsigned char* member) {
+  unsigned char* p;
+  std::memcpy(&p, member, sizeof p);
+  return p;
+}
+
+void StorePointer(unsigned char* member, const unsigned char* p) {
+  std::memcpy(member, &p, sizeof p);
+}
+
+void ReleaseValue(unsigned char* member, const Field& f);
+
+// Frees list `f` of `record` (f.offset and the count inside `record`).
+void ReleaseList(unsigned char* record, const Field& f) {
+  unsigned char* base = record + f.offset;
+  if (!f.allocated) {
+    if (f.element == nullptr) return;
+    if (f.element->shape != FieldShape::kNested && f.element->shape != FieldShape::kList) return;
+    for (uint32_t i = 0; i < f.capacity; ++i) ReleaseValue(base + static_cast<size_t>(i) * f.size, *f.element);
+    return;
+  }
+  unsigned char* entries = LoadPointer(base);
+  if (entries == nullptr) return;
+  const uint32_t slots = AllocatedSlots(entries);
+  for (uint32_t i = 0; i < slots && f.element != nullptr; ++i) {
+    ReleaseValue(entries + static_cast<size_t>(i) * f.size, *f.element);
+  }
+  std::free(entries - kEntriesHeader);
+  StorePointer(base, nullptr);
+  if (f.count.size != 0) StoreInt(record + f.count.offset, f.count.size, 0);
+}
+
+// Releases one value laid out as `f` describes, starting at `member`.
+void ReleaseValue(unsigned char* member, const Field& f) {
+  if (f.shape == FieldShape::kNested && f.table != nullptr) {
+    ReleaseFields(member, f.table->fields, f.table->count);
+  } else if (f.shape == FieldShape::kList) {
+    Field inner = f;
+    inner.offset = 0;
+    ReleaseList(member, inner);
+  }
+}
+
 uint32_t LoadCount(const unsigned char* record, const Field& f) {
   if (f.count.size == 0) return f.capacity;
   const int64_t n = LoadInt(record + f.count.offset, f.count.size, false);
@@ -163,10 +222,21 @@ bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
   if (!v.isArray() || f.element == nullptr) return false;
   unsigned char* base = record + f.offset;
   const uint32_t n = Count(v);
+  uint32_t slots = f.capacity;
+  if (f.allocated) {
+    ReleaseList(record, f);
+    slots = std::min(n, f.capacity);
+    base = slots > 0 ? AllocateEntries(slots, f.size) : nullptr;
+    if (slots > 0 && base == nullptr) {
+      if (f.noMemoryReport != nullptr) KOVA_REPORT(kErrMalformedData, "%s", f.noMemoryReport);
+      return false;
+    }
+    StorePointer(record + f.offset, base);
+  }
   uint32_t looked = 0, taken = 0, nonNull = 0;
   for (uint32_t i = 0; i < n; ++i) {
     const uint32_t slot = f.keepSlots ? i : taken;
-    if (slot >= f.capacity) break;
+    if (slot >= slots) break;
     ++looked;
     const Json::Value& e = Element(v, i);
     if (e.isNull()) continue;
@@ -249,6 +319,24 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
 }
 
 
+uint32_t AllocatedSlots(const void* entries) {
+  uint64_t n;
+  std::memcpy(&n, static_cast<const unsigned char*>(entries) - kEntriesHeader, sizeof n);
+  return static_cast<uint32_t>(n);
+}
+
+void ReleaseFields(void* record, const Field* fields, size_t count) {
+  unsigned char* base = static_cast<unsigned char*>(record);
+  for (size_t i = 0; i < count; ++i) {
+    const Field& f = fields[i];
+    if (f.shape == FieldShape::kList) {
+      ReleaseList(base, f);
+    } else if (f.shape == FieldShape::kNested) {
+      ReleaseValue(base + f.offset, f);
+    }
+  }
+}
+
 int64_t LoadInt(const void* p, uint32_t size, bool isSigned) {
   switch (size) {
     case 1: {
@@ -328,7 +416,7 @@ void ParseFields(const Json::Value& obj, void* record, const Field* fields, size
       if (f.parse != nullptr) f.parse(obj, base, f);
       continue;
     }
-    const Json::Value& v = Member(obj, f.key);
+    const Json::Value& v = f.key != nullptr ? Member(obj, f.key) : obj;
     if (v.isNull()) continue;
     const bool read = f.shape == FieldShape::kList ? ParseList(v, base, f)
                                                     : ParseValue(v, base + f.offset, f);
@@ -346,6 +434,13 @@ void PackFields(const void* record, Json::Value& obj, const Field* fields, size_
     if (!Present(base, f)) continue;
     if (f.shape == FieldShape::kCustom) {
       if (f.pack != nullptr) f.pack(base, obj, f);
+      continue;
+    }
+    if (f.allocated) continue;
+    if (f.key == nullptr) {
+      if (f.shape == FieldShape::kNested && f.table != nullptr) {
+        PackFields(base + f.offset, obj, f.table->fields, f.table->count);
+      }
       continue;
     }
     Json::Value v;

@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace kova {
 
@@ -30,6 +31,9 @@ bool HasMember(const Json::Value& v, const char* key);
 const Json::Value& Element(const Json::Value& v, uint64_t i);
 // Number of elements of an array or members of an object; 0 otherwise.
 uint32_t Count(const Json::Value& v);
+// The member names of an object, in byte order of the names; empty for any
+// other value.
+std::vector<std::string> MemberNames(const Json::Value& v);
 
 // The four conversions every translator relies on. None fails or throws.
 // Signed 32-bit: null 0; an integer its value when it fits in 32 bits and
