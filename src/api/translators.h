@@ -9,6 +9,7 @@
 #include "config/network/translators.h"
 #include "config/ptz/translators.h"
 #include "config/storage/translators.h"
+#include "config/system/translators.h"
 #include "config/traffic/translators.h"
 
 #endif  // KOVA_API_TRANSLATORS_H_
