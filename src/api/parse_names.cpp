@@ -163,7 +163,7 @@ const ParseName kParseNames[] = {
     {"DeviceKeepAlive", nullptr, 0},
     {"VideoInExposure", nullptr, 0},
     {"AccessControlGeneral", ParseAccessControlGeneral, sizeof(AccessGeneralRecord)},
-    {"AccessControl", nullptr, 0},
+    {"AccessControl", ParseAccessControl, sizeof(AccessControlConfig)},
     {"Wireless", nullptr, 0},
     {"AlarmServer", nullptr, 0},
     {"CommGlobal", nullptr, 0},
@@ -174,8 +174,8 @@ const ParseName kParseNames[] = {
     {"Mobile", nullptr, 0},
     {"PhoneEventNotify", nullptr, 0},
     {"PSTNAlarmServer", nullptr, 0},
-    {"AudioOutputVolume", nullptr, 0},
-    {"AudioInputVolume", nullptr, 0},
+    {"AudioOutputVolume", ParseAudioVolume, sizeof(AudioVolumeConfig)},
+    {"AudioInputVolume", ParseAudioVolume, sizeof(AudioVolumeConfig)},
     {"AudioMixVolume", nullptr, 0},
     {"AlarmKeyboard", nullptr, 0},
     {"FileManager.getCaps", nullptr, 0}, // parse only
@@ -233,7 +233,7 @@ const ParseName kParseNames[] = {
     {"SCADADev", nullptr, 0},
     {"VSP_GAYS", nullptr, 0},
     {"LowRateWPAN.getCaps", nullptr, 0}, // parse only
-    {"AudioDetect", nullptr, 0},
+    {"AudioDetect", ParseAudioDetect, sizeof(AudioDetectConfig)},
     {"GuideScreen", nullptr, 0},
     {"VTSCallInfo", nullptr, 0},
     {"DevList", nullptr, 0},

@@ -5,6 +5,7 @@
 #include "config/access/translators.h"
 #include "config/alarm/translators.h"
 #include "config/analyse/translators.h"
+#include "config/audio/translators.h"
 #include "config/media/translators.h"
 #include "config/network/translators.h"
 #include "config/ptz/translators.h"
