@@ -26,7 +26,7 @@ struct EventContext {
   bool byCallback;
 };
 
-std::string FlatRecord(const unsigned char* record, size_t size, const kova::FieldTable* t,
+std::string FlatRecord(const unsigned char* record, size_t size, const kova::Field* element,
                        std::string* violation);
 
 // Flattens the lists of `record` (described by `t`) into `copy` (the
@@ -47,26 +47,30 @@ void FlattenLists(const unsigned char* record, const kova::FieldTable& t, char* 
       if (kova::LoadInt(record + f.count.offset, f.count.size, false) > slots) {
         *violation = std::string("list \"") + f.key + "\" counts more entries than it holds";
       }
-      const kova::FieldTable* inner = e->shape == kova::FieldShape::kNested ? e->table : nullptr;
       for (uint32_t k = 0; k < slots; ++k) {
-        tail->append(FlatRecord(entries + static_cast<size_t>(k) * f.size, f.size, inner, violation));
+        tail->append(FlatRecord(entries + static_cast<size_t>(k) * f.size, f.size, e, violation));
       }
     } else if (f.shape == kova::FieldShape::kList && e->shape == kova::FieldShape::kNested) {
       for (uint32_t k = 0; k < f.capacity; ++k) {
-        const size_t at = f.offset + static_cast<size_t>(k) * f.size;
+        const size_t at = f.offset + static_cast<size_t>(k) * f.size + e->offset;
         FlattenLists(record + at, *e->table, copy + at, tail, violation);
       }
     }
   }
 }
 
-// A record's bytes, then the entries of its lists: equal content gives
-// equal text wherever the lists were allocated.
-std::string FlatRecord(const unsigned char* record, size_t size, const kova::FieldTable* t,
+// A record's (or a list slot's) bytes, then the entries of its lists:
+// equal content gives equal text wherever the lists were allocated. The
+// record is laid out as `element` describes (nested: its table from the
+// element's offset on; null or any other shape: no lists).
+std::string FlatRecord(const unsigned char* record, size_t size, const kova::Field* element,
                        std::string* violation) {
   std::string copy(reinterpret_cast<const char*>(record), size);
   std::string tail;
-  if (t != nullptr) FlattenLists(record, *t, &copy[0], &tail, violation);
+  if (element != nullptr && element->shape == kova::FieldShape::kNested) {
+    FlattenLists(record + element->offset, *element->table, &copy[element->offset], &tail,
+                 violation);
+  }
   return copy + tail;
 }
 
@@ -82,8 +86,11 @@ int KOVA_CALL OnEvent(uint32_t code, const void* info, uint32_t infoSize, const 
   const kova::EventRecordKind& kind = kova::EventRecordOf(code);
   if (info != nullptr) {
     std::string violation;
+    kova::Field whole;  // the record as one nested value described by its code's table
+    whole.shape = kova::FieldShape::kNested;
+    whole.table = &kind.table;
     const std::string flat = FlatRecord(static_cast<const unsigned char*>(info), infoSize,
-                                        event ? &kind.table : nullptr, &violation);
+                                        event ? &whole : nullptr, &violation);
     r.digest = Digest(flat.data(), flat.size(), r.digest);
     if (r.violation.empty()) r.violation = violation;
   }

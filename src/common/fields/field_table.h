@@ -369,7 +369,7 @@ constexpr Field MakeAllocatedList(const char* key, size_t offset, const Field* e
 
 template <typename T>
 constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
-  static_assert(std::is_array<T>::value, "a list member is an array (of texts: an array of arrays)");
+  static_assert(std::is_array<T>::value, "a list member is an array");
   Field f;
   f.key = key;
   f.offset = static_cast<uint32_t>(offset);
