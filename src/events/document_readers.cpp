@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string>
 
+#include "common/base/platform.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "events/analyse_rule_reader.h"
@@ -123,11 +124,11 @@ void ForEachObject(const Json::Value& value, uint32_t cap, ReadOne readOne) {
     readOne(value);
     return;
   }
-  const uint32_t n = std::min(Count(value), cap);
-  for (uint32_t i = 0; i < n; ++i) {
-    const Json::Value& entry = Element(value, i);
+  ForEachElement(value, [&](uint32_t i, const Json::Value& entry) {
+    if (i >= cap) return false;
     if (entry.isObject()) readOne(entry);
-  }
+    return true;
+  });
 }
 
 void ReadRecords(const Json::Value& value, const RecordReader& reader, CReqRealPicture* out) {
@@ -190,6 +191,7 @@ int ParseDocumentByCallback(const char* buf, uint32_t len, KOVA_AnalyzerEventCal
                             void* user) {
   Json::Value root;
   if (!ReadJson(buf, &root) || !root.isObject()) return 0;
+  const platform::CodePagePin pin;  // one code page for every text of the document
   CReqRealPicture parser;
   parser.protocolVersion = CReqRealPicture::kProtocolVersion;
   parser.parseVersion = CReqRealPicture::kParseVersion;

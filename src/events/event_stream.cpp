@@ -46,21 +46,33 @@ CReqRealPicture::~CReqRealPicture() {
 
 bool CReqRealPicture::Parse(const char* text, uint32_t length) {
   if (parseVersion != kParseVersion) return false;
-  Json::Value root;
-  if (!ReadJson(text, &root)) return false;
-  ReadEvents(root);
+  if (!ReadJson(text, &document_)) return false;
+  ReadEvents(document_);
   return true;
 }
 
 void CReqRealPicture::ReadEvents(const Json::Value& root) {
   const Json::Value& events = EventArray(root);
   if (!events.isArray()) return;
-  const uint32_t n = std::min(Count(events), kMaxEventsPerNotification);
-  eventList.reserve(eventList.size() + n);
-  for (uint32_t i = 0; i < n; ++i) {
-    const Json::Value& event = Element(events, i);
+  const platform::CodePagePin pin;  // one code page for every text of the notification
+  eventList.reserve(eventList.size() + std::min(Count(events), kMaxEventsPerNotification));
+  ForEachElement(events, [this](uint32_t i, const Json::Value& event) {
+    if (i >= kMaxEventsPerNotification) return false;
     if (!event.isNull()) ReadEvent(event);
+    return true;
+  });
+}
+
+const CReqRealPicture::CodeOfText& CReqRealPicture::CodesOf(const std::string& text) {
+  for (const CodeOfText& seen : codesSeen_) {
+    if (seen.text == text) return seen;
   }
+  // At most 128 characters of the text are looked up, up to its first NUL.
+  char code[kCodeCapacity + 1] = {};
+  std::memcpy(code, text.data(), std::min(text.size(), kCodeCapacity));
+  codesSeen_.push_back(
+      CodeOfText{text, RuleTypeFromName(code), EventCodeDictionary::Instance().CodeOf(code)});
+  return codesSeen_.back();
 }
 
 void CReqRealPicture::ReadEvent(const Json::Value& event) {
@@ -68,11 +80,9 @@ void CReqRealPicture::ReadEvent(const Json::Value& event) {
   uint32_t dictionaryCode = 0;
   const Json::Value& codeText = Member(event, "Code");
   if (!codeText.isNull()) {
-    const std::string text = ToText(codeText);
-    char code[kCodeCapacity + 1] = {};
-    std::memcpy(code, text.data(), std::min(text.size(), kCodeCapacity));
-    node.eventCode = RuleTypeFromName(code);
-    dictionaryCode = EventCodeDictionary::Instance().CodeOf(code);
+    const CodeOfText& codes = CodesOf(ToText(codeText));
+    node.eventCode = codes.code;
+    dictionaryCode = codes.dictionaryCode;
   }
   const Json::Value& data = Member(event, "Data");
   if (data.isNull()) {

@@ -7,6 +7,7 @@
 #include <json/value.h>
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "common/base/platform.h"
@@ -65,6 +66,19 @@ class CReqRealPicture {
  private:
   void ReadEvent(const Json::Value& event);
 
+  // The codes of a "Code" text: a notification repeats a few texts many
+  // times, so each distinct one is looked up once.
+  struct CodeOfText {
+    std::string text;
+    uint32_t code;
+    uint32_t dictionaryCode;
+  };
+  const CodeOfText& CodesOf(const std::string& text);
+
+  // The document read by Parse, kept until the object goes: freeing the
+  // records first and the document's tree after it is the cheaper order.
+  Json::Value document_;
+  std::vector<CodeOfText> codesSeen_;
   std::vector<AnalyzerEventNode> eventList;
   platform::Mutex listLock;
 };

@@ -79,6 +79,13 @@ std::vector<char32_t> DecodeUtf8(const unsigned char* s, size_t n) {
   return out;
 }
 
+bool IsAscii(const char* s, size_t n) {
+  for (size_t i = 0; i < n; ++i) {
+    if (static_cast<unsigned char>(s[i]) >= 0x80) return false;
+  }
+  return true;
+}
+
 // Encodes code points as UTF-8 into at most `cap` bytes; stops before the
 // first character that does not fit whole.
 size_t EncodeUtf8(const std::vector<char32_t>& cps, char* dst, size_t cap) {
@@ -151,6 +158,15 @@ class ConverterCache {
   // Makes the converters match the current local code page, reopening them
   // only when its name changed since the last call on this thread.
   void Refresh() {
+    // Most calls find the code page as it was: that is told by comparing
+    // the text it is resolved from, without building its name.
+    const char* env = std::getenv("KOVA_CODEPAGE");
+    const bool fromEnv = env != nullptr && env[0] != '\0';
+    const char* source = fromEnv ? env : nl_langinfo(CODESET);
+    if (source == nullptr) source = "";
+    if (opened_ && fromEnv == fromEnv_ && source_.compare(source) == 0) return;
+    fromEnv_ = fromEnv;
+    source_ = source;
     std::string name = ResolveCodePage();
     if (opened_ && name == name_) return;
     Close();
@@ -183,15 +199,20 @@ class ConverterCache {
   }
 
   std::string name_;
+  std::string source_;  // what name_ was resolved from: KOVA_CODEPAGE, or the locale's codeset
+  bool fromEnv_ = false;
   bool opened_ = false;
   bool unknown_ = false;
   iconv_t toLocal_ = kNoConverter;
   iconv_t fromLocal_ = kNoConverter;
 };
 
+// Pins held on this thread (see CodePagePin).
+thread_local int tPins = 0;
+
 ConverterCache& Cache() {
   thread_local ConverterCache cache;
-  cache.Refresh();
+  if (tPins == 0) cache.Refresh();
   return cache;
 }
 
@@ -263,6 +284,12 @@ std::vector<char32_t> LocalToCodePoints(iconv_t cd, const char* src, size_t n) {
 
 Conversion Utf8ToLocal(const char* src, size_t n, char* dst, size_t cap) {
   ConverterCache& cache = Cache();
+  if (cache.native() && IsAscii(src, n)) {
+    // Plain ASCII into UTF-8: every character is one byte, nothing to decode.
+    const size_t w = n < cap ? n : cap;
+    std::memcpy(dst, src, w);
+    return Outcome(cache, w);
+  }
   std::vector<char32_t> cps = DecodeUtf8(reinterpret_cast<const unsigned char*>(src), n);
   if (cache.native()) return Outcome(cache, EncodeUtf8(cps, dst, cap));
   return Outcome(cache, CodePointsToLocal(cache.toLocal(), cps, dst, cap));
@@ -277,6 +304,13 @@ Conversion LocalToUtf8(const char* src, size_t n, char* dst, size_t cap) {
 }
 
 std::string LocalCodePage() { return ResolveCodePage(); }
+
+CodePagePin::CodePagePin() {
+  if (tPins == 0) Cache();  // the one look at the code page
+  ++tPins;
+}
+
+CodePagePin::~CodePagePin() { --tPins; }
 
 // ---- Clock and threads ---------------------------------------------------
 

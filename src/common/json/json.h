@@ -34,6 +34,20 @@ uint32_t Count(const Json::Value& v);
 // The member names of an object, in byte order of the names; empty for any
 // other value.
 std::vector<std::string> MemberNames(const Json::Value& v);
+// Calls fn(name, length, value) for every member of an object, in byte order
+// of the names (a name may hold NULs: use `length`); nothing for any other
+// value. `name` and `value` live as long as `v` is not changed.
+template <typename Fn>
+void ForEachMember(const Json::Value& v, Fn&& fn) {
+  if (!v.isObject()) return;
+  const Json::Value::const_iterator end = v.end();
+  for (Json::Value::const_iterator it = v.begin(); it != end; ++it) {
+    const char* nameEnd = nullptr;
+    const char* name = it.memberName(&nameEnd);
+    if (name == nullptr) continue;
+    fn(name, static_cast<size_t>(nameEnd - name), *it);
+  }
+}
 
 // The four conversions every translator relies on. None fails or throws.
 // Signed 32-bit: null 0; an integer its value when it fits in 32 bits and
@@ -52,6 +66,19 @@ double ToDouble(const Json::Value& v);
 bool ToBool(const Json::Value& v);
 // The text of a string value (embedded NULs kept); "" for any other type.
 std::string ToText(const Json::Value& v);
+
+// Calls fn(i, element) for the elements of an array in order (i from 0)
+// until fn returns false; nothing for any other value. Cheaper than
+// Element() in a loop: the JSON library finds an element by a search.
+template <typename Fn>
+void ForEachElement(const Json::Value& v, Fn&& fn) {
+  if (!v.isArray()) return;
+  uint32_t i = 0;
+  const Json::Value::const_iterator end = v.end();
+  for (Json::Value::const_iterator it = v.begin(); it != end; ++it, ++i) {
+    if (!fn(i, *it)) return;
+  }
+}
 
 // Writable member `key`: `obj` becomes an object first when it is not one
 // (a non-null value of another type is replaced).
