@@ -35,38 +35,6 @@ constexpr Field kFocusStatusFields[] = {
     KOVA_F(FocusStatusRecord, status, "Status", kText),
 };
 
-constexpr Field kStatSubtotalFields[] = {
-    KOVA_F(StatSubtotal, total, "Total", kInt),
-    KOVA_F(StatSubtotal, today, "Today", kInt),
-    KOVA_F(StatSubtotal, hour, "Hour", kInt),
-};
-
-}  // namespace
-}  // namespace kova
-
-KOVA_DESCRIBE(StatSubtotal, kStatSubtotalFields)
-
-namespace kova {
-namespace {
-
-}  // namespace
-}  // namespace kova
-
-KOVA_DESCRIBE(PtzStatusRecord, kPtzStatusFields)
-KOVA_DESCRIBE(FocusStatusRecord, kFocusStatusFields)
-
-namespace kova {
-namespace {
-
-constexpr Field kStatSummaryFields[] = {
-    KOVA_F(VideoStatSummaryRecord, channel, "Channel", kInt),
-    KOVA_F(VideoStatSummaryRecord, ruleName, "RuleName", kText),
-    KOVA_F(VideoStatSummaryRecord, utc, "UTC", kUInt),
-    KOVA_F(VideoStatSummaryRecord, insideNumber, "InsideSubtotal", kInt),
-    KOVA_NESTED(VideoStatSummaryRecord, entered, "EnteredSubtotal"),
-    KOVA_NESTED(VideoStatSummaryRecord, exited, "ExitedSubtotal"),
-};
-
 constexpr Field kTrafficFlowFields[] = {
     KOVA_F(TrafficFlowStatRecord, lane, "Lane", kInt),
     KOVA_F(TrafficFlowStatRecord, utc, "UTC", kUInt),
@@ -80,11 +48,36 @@ constexpr Field kTrafficFlowFields[] = {
     KOVA_F(TrafficFlowStatRecord, state, "State", kInt),
 };
 
+constexpr Field kStatSubtotalFields[] = {
+    KOVA_F(StatSubtotal, total, "Total", kInt),
+    KOVA_F(StatSubtotal, today, "Today", kInt),
+    KOVA_F(StatSubtotal, hour, "Hour", kInt),
+};
+
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(PtzStatusRecord, kPtzStatusFields)
+KOVA_DESCRIBE(FocusStatusRecord, kFocusStatusFields)
+KOVA_DESCRIBE(TrafficFlowStatRecord, kTrafficFlowFields)
+KOVA_DESCRIBE(StatSubtotal, kStatSubtotalFields)
+
+namespace kova {
+namespace {
+
+constexpr Field kStatSummaryFields[] = {
+    KOVA_F(VideoStatSummaryRecord, channel, "Channel", kInt),
+    KOVA_F(VideoStatSummaryRecord, ruleName, "RuleName", kText),
+    KOVA_F(VideoStatSummaryRecord, utc, "UTC", kUInt),
+    KOVA_F(VideoStatSummaryRecord, insideNumber, "InsideSubtotal", kInt),
+    KOVA_NESTED(VideoStatSummaryRecord, entered, "EnteredSubtotal"),
+    KOVA_NESTED(VideoStatSummaryRecord, exited, "ExitedSubtotal"),
+};
+
 }  // namespace
 }  // namespace kova
 
 KOVA_DESCRIBE(VideoStatSummaryRecord, kStatSummaryFields)
-KOVA_DESCRIBE(TrafficFlowStatRecord, kTrafficFlowFields)
 
 namespace kova {
 namespace {

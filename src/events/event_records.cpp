@@ -31,6 +31,9 @@ constexpr Field Polyline(const char* key, size_t offset) {
   KOVA_ALLOCATED_LIST(Rec, track, "Track", kPointItem, KOVA_EVENT_MAX_TRACK)      \
       .Count(KOVA_AT(Rec, trackCount), CountRule::kTaken)
 
+// ---- Blocks, innermost first: a table that nests a block needs its
+// description (KOVA_DESCRIBE) before it.
+
 constexpr Field kImageFields[] = {
     KOVA_F(EventImage, offset, "Offset", kUInt),
     KOVA_F(EventImage, length, "Length", kUInt),
@@ -38,17 +41,75 @@ constexpr Field kImageFields[] = {
     KOVA_F(EventImage, height, "Height", kUInt),
 };
 
-constexpr const char* kObjectActionNames[] = {"Appear", "Move",  "Stay",  "Remove",
-                                              "Disappear", "Split", "Merge", "Rename"};
-constexpr EnumNames kObjectActions = EnumNames::Of(kObjectActionNames).FirstValue(1);
+constexpr const char* kSexNames[] = {"Man", "Woman"};
+constexpr EnumNames kSexes = EnumNames::Of(kSexNames).FirstValue(1);
+
+constexpr Field kFaceAttributeFields[] = {
+    KOVA_ENUM(FaceAttributes, sex, "Sex", kSexes),
+    KOVA_F(FaceAttributes, age, "Age", kInt),
+    KOVA_F(FaceAttributes, glasses, "Glass", kText),
+    KOVA_F(FaceAttributes, mask, "Mask", kText),
+    KOVA_F(FaceAttributes, beard, "Beard", kText),
+    KOVA_F(FaceAttributes, emotion, "Emotion", kText),
+};
+
+constexpr Field kFacePersonFields[] = {
+    KOVA_F(FacePerson, uid, "UID", kText),
+    KOVA_F(FacePerson, name, "Name", kText),
+    KOVA_ENUM(FacePerson, sex, "Sex", kSexes),
+    KOVA_F(FacePerson, birthday, "Birthday", kText),
+    KOVA_F(FacePerson, certificateType, "CertificateType", kText),
+    KOVA_F(FacePerson, id, "ID", kText),
+    KOVA_F(FacePerson, groupId, "GroupID", kText),
+    KOVA_F(FacePerson, groupName, "GroupName", kText),
+};
+
+constexpr Field kTrafficCarFields[] = {
+    KOVA_F(TrafficCarInfo, plateNumber, "PlateNumber", kText),
+    KOVA_F(TrafficCarInfo, plateType, "PlateType", kText),
+    KOVA_F(TrafficCarInfo, plateColor, "PlateColor", kText),
+    KOVA_F(TrafficCarInfo, vehicleColor, "VehicleColor", kText),
+    KOVA_F(TrafficCarInfo, speed, "Speed", kInt),
+    KOVA_F(TrafficCarInfo, lane, "Lane", kInt),
+    KOVA_F(TrafficCarInfo, lowerSpeedLimit, "LowerSpeedLimit", kInt),
+    KOVA_F(TrafficCarInfo, upperSpeedLimit, "UpperSpeedLimit", kInt),
+    KOVA_F(TrafficCarInfo, overSpeedMargin, "OverSpeedMargin", kInt),
+    KOVA_F(TrafficCarInfo, underSpeedMargin, "UnderSpeedMargin", kInt),
+    KOVA_F(TrafficCarInfo, vehicleSize, "VehicleSize", kInt),
+    KOVA_F(TrafficCarInfo, event, "Event", kText),
+    KOVA_F(TrafficCarInfo, violationCode, "ViolationCode", kText),
+    KOVA_F(TrafficCarInfo, violationDesc, "ViolationDesc", kText),
+    KOVA_F(TrafficCarInfo, deviceAddress, "DeviceAddress", kText),
+};
+
+constexpr const char* kSeatTypeNames[] = {"Main", "Slave"};
+constexpr EnumNames kSeatTypes = EnumNames::Of(kSeatTypeNames).FirstValue(1);
+constexpr const char* kSafeBeltNames[] = {"WithSafeBelt", "WithoutSafeBelt"};
+constexpr EnumNames kSafeBelts = EnumNames::Of(kSafeBeltNames).FirstValue(1);
+
+constexpr Field kDriverSeatFields[] = {
+    KOVA_ENUM(TrafficDriverSeat, type, "Type", kSeatTypes),
+    KOVA_ENUM(TrafficDriverSeat, safeBelt, "SafeBelt", kSafeBelts),
+    KOVA_F(TrafficDriverSeat, smoking, "Smoking", kBool),
+    KOVA_F(TrafficDriverSeat, calling, "Calling", kBool),
+    KOVA_F(TrafficDriverSeat, sunShade, "SunShade", kBool),
+};
 
 }  // namespace
 }  // namespace kova
 
 KOVA_DESCRIBE(EventImage, kImageFields)
+KOVA_DESCRIBE(FaceAttributes, kFaceAttributeFields)
+KOVA_DESCRIBE(FacePerson, kFacePersonFields)
+KOVA_DESCRIBE(TrafficCarInfo, kTrafficCarFields)
+KOVA_DESCRIBE(TrafficDriverSeat, kDriverSeatFields)
 
 namespace kova {
 namespace {
+
+constexpr const char* kObjectActionNames[] = {"Appear", "Move",  "Stay",  "Remove",
+                                              "Disappear", "Split", "Merge", "Rename"};
+constexpr EnumNames kObjectActions = EnumNames::Of(kObjectActionNames).FirstValue(1);
 
 constexpr Field kObjectFields[] = {
     KOVA_F(EventObject, objectId, "ObjectID", kInt),
@@ -67,10 +128,25 @@ constexpr Field kObjectFields[] = {
     KOVA_NESTED(EventObject, image, "Image"),
 };
 
+constexpr Field kFaceCandidateFields[] = {
+    KOVA_NESTED(FaceCandidate, person, "Person"),
+    KOVA_F(FaceCandidate, similarity, "Similarity", kInt),
+};
+
+constexpr Field kSeatItem = KOVA_ITEM_NESTED(TrafficDriverSeat);
+
+constexpr Field kCommInfoFields[] = {
+    KOVA_ALLOCATED_LIST(TrafficCommInfo, seats, "Seat", kSeatItem, KOVA_EVENT_MAX_SEATS)
+        .Count(KOVA_AT(TrafficCommInfo, seatCount), CountRule::kTaken)
+        .NoMemoryReport("New pstDriversInfo Failed"),
+};
+
 }  // namespace
 }  // namespace kova
 
 KOVA_DESCRIBE(EventObject, kObjectFields)
+KOVA_DESCRIBE(FaceCandidate, kFaceCandidateFields)
+KOVA_DESCRIBE(TrafficCommInfo, kCommInfoFields)
 
 namespace kova {
 namespace {
@@ -82,6 +158,8 @@ constexpr Field kObjectItem = KOVA_ITEM_NESTED(EventObject);
   KOVA_ALLOCATED_LIST(Rec, member, key, kObjectItem, KOVA_EVENT_MAX_OBJECTS)             \
       .Count(KOVA_AT(Rec, countMember), CountRule::kTaken)                               \
       .NoMemoryReport("New pstObjectInfo Failed")
+
+constexpr Field kCandidateItem = KOVA_ITEM_NESTED(FaceCandidate);
 
 // ---- The common leading part -------------------------------------------------
 
@@ -166,53 +244,6 @@ constexpr Field kCrowdFields[] = {
 
 // ---- Faces --------------------------------------------------------------------------------
 
-constexpr const char* kSexNames[] = {"Man", "Woman"};
-constexpr EnumNames kSexes = EnumNames::Of(kSexNames).FirstValue(1);
-
-constexpr Field kFaceAttributeFields[] = {
-    KOVA_ENUM(FaceAttributes, sex, "Sex", kSexes),
-    KOVA_F(FaceAttributes, age, "Age", kInt),
-    KOVA_F(FaceAttributes, glasses, "Glass", kText),
-    KOVA_F(FaceAttributes, mask, "Mask", kText),
-    KOVA_F(FaceAttributes, beard, "Beard", kText),
-    KOVA_F(FaceAttributes, emotion, "Emotion", kText),
-};
-
-constexpr Field kFacePersonFields[] = {
-    KOVA_F(FacePerson, uid, "UID", kText),
-    KOVA_F(FacePerson, name, "Name", kText),
-    KOVA_ENUM(FacePerson, sex, "Sex", kSexes),
-    KOVA_F(FacePerson, birthday, "Birthday", kText),
-    KOVA_F(FacePerson, certificateType, "CertificateType", kText),
-    KOVA_F(FacePerson, id, "ID", kText),
-    KOVA_F(FacePerson, groupId, "GroupID", kText),
-    KOVA_F(FacePerson, groupName, "GroupName", kText),
-};
-
-}  // namespace
-}  // namespace kova
-
-KOVA_DESCRIBE(FaceAttributes, kFaceAttributeFields)
-KOVA_DESCRIBE(FacePerson, kFacePersonFields)
-
-namespace kova {
-namespace {
-
-constexpr Field kFaceCandidateFields[] = {
-    KOVA_NESTED(FaceCandidate, person, "Person"),
-    KOVA_F(FaceCandidate, similarity, "Similarity", kInt),
-};
-
-}  // namespace
-}  // namespace kova
-
-KOVA_DESCRIBE(FaceCandidate, kFaceCandidateFields)
-
-namespace kova {
-namespace {
-
-constexpr Field kCandidateItem = KOVA_ITEM_NESTED(FaceCandidate);
-
 constexpr Field kFaceFields[] = {
     KOVA_INLINE(FaceEventInfo, common),
     KOVA_NESTED(FaceEventInfo, face, "Face"),
@@ -225,62 +256,6 @@ constexpr Field kFaceFields[] = {
 };
 
 // ---- Traffic --------------------------------------------------------------------------------
-
-constexpr Field kTrafficCarFields[] = {
-    KOVA_F(TrafficCarInfo, plateNumber, "PlateNumber", kText),
-    KOVA_F(TrafficCarInfo, plateType, "PlateType", kText),
-    KOVA_F(TrafficCarInfo, plateColor, "PlateColor", kText),
-    KOVA_F(TrafficCarInfo, vehicleColor, "VehicleColor", kText),
-    KOVA_F(TrafficCarInfo, speed, "Speed", kInt),
-    KOVA_F(TrafficCarInfo, lane, "Lane", kInt),
-    KOVA_F(TrafficCarInfo, lowerSpeedLimit, "LowerSpeedLimit", kInt),
-    KOVA_F(TrafficCarInfo, upperSpeedLimit, "UpperSpeedLimit", kInt),
-    KOVA_F(TrafficCarInfo, overSpeedMargin, "OverSpeedMargin", kInt),
-    KOVA_F(TrafficCarInfo, underSpeedMargin, "UnderSpeedMargin", kInt),
-    KOVA_F(TrafficCarInfo, vehicleSize, "VehicleSize", kInt),
-    KOVA_F(TrafficCarInfo, event, "Event", kText),
-    KOVA_F(TrafficCarInfo, violationCode, "ViolationCode", kText),
-    KOVA_F(TrafficCarInfo, violationDesc, "ViolationDesc", kText),
-    KOVA_F(TrafficCarInfo, deviceAddress, "DeviceAddress", kText),
-};
-
-constexpr const char* kSeatTypeNames[] = {"Main", "Slave"};
-constexpr EnumNames kSeatTypes = EnumNames::Of(kSeatTypeNames).FirstValue(1);
-constexpr const char* kSafeBeltNames[] = {"WithSafeBelt", "WithoutSafeBelt"};
-constexpr EnumNames kSafeBelts = EnumNames::Of(kSafeBeltNames).FirstValue(1);
-
-constexpr Field kDriverSeatFields[] = {
-    KOVA_ENUM(TrafficDriverSeat, type, "Type", kSeatTypes),
-    KOVA_ENUM(TrafficDriverSeat, safeBelt, "SafeBelt", kSafeBelts),
-    KOVA_F(TrafficDriverSeat, smoking, "Smoking", kBool),
-    KOVA_F(TrafficDriverSeat, calling, "Calling", kBool),
-    KOVA_F(TrafficDriverSeat, sunShade, "SunShade", kBool),
-};
-
-}  // namespace
-}  // namespace kova
-
-KOVA_DESCRIBE(TrafficCarInfo, kTrafficCarFields)
-KOVA_DESCRIBE(TrafficDriverSeat, kDriverSeatFields)
-
-namespace kova {
-namespace {
-
-constexpr Field kSeatItem = KOVA_ITEM_NESTED(TrafficDriverSeat);
-
-constexpr Field kCommInfoFields[] = {
-    KOVA_ALLOCATED_LIST(TrafficCommInfo, seats, "Seat", kSeatItem, KOVA_EVENT_MAX_SEATS)
-        .Count(KOVA_AT(TrafficCommInfo, seatCount), CountRule::kTaken)
-        .NoMemoryReport("New pstDriversInfo Failed"),
-};
-
-}  // namespace
-}  // namespace kova
-
-KOVA_DESCRIBE(TrafficCommInfo, kCommInfoFields)
-
-namespace kova {
-namespace {
 
 constexpr Field kTrafficFields[] = {
     KOVA_INLINE(TrafficEventInfo, common),

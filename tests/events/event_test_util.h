@@ -49,9 +49,10 @@ inline std::vector<Delivery> Deliveries(const std::string& doc, bool byCallback 
 }
 
 // The codes of Deliveries(doc).
-inline std::vector<uint32_t> Codes(const std::string& doc, bool byCallback = false) {
+inline std::vector<uint32_t> Codes(const std::string& doc, bool byCallback = false,
+                                   int* ret = nullptr) {
   std::vector<uint32_t> codes;
-  for (const Delivery& d : Deliveries(doc, byCallback)) codes.push_back(d.code);
+  for (const Delivery& d : Deliveries(doc, byCallback, ret)) codes.push_back(d.code);
   return codes;
 }
 

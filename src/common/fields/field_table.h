@@ -351,33 +351,34 @@ constexpr Field MakeTuple(const char* key, size_t offset, uint32_t n) {
   return f;
 }
 
-template <typename T>
-constexpr Field MakeAllocatedList(const char* key, size_t offset, const Field* element,
-                                  uint32_t capacity) {
-  static_assert(std::is_pointer<T>::value, "an allocated list member is a pointer to its entries");
+// A list of `capacity` slots of `slotSize` bytes each.
+constexpr Field MakeListOf(const char* key, size_t offset, const Field* element, uint32_t slotSize,
+                           uint32_t capacity) {
   Field f;
   f.key = key;
   f.offset = static_cast<uint32_t>(offset);
-  f.size = static_cast<uint32_t>(sizeof(std::remove_pointer_t<T>));
+  f.size = slotSize;
   f.kind = FieldKind::kObject;
   f.shape = FieldShape::kList;
   f.element = element;
   f.capacity = capacity;
-  f.allocated = true;
   return f;
 }
 
 template <typename T>
 constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
   static_assert(std::is_array<T>::value, "a list member is an array");
-  Field f;
-  f.key = key;
-  f.offset = static_cast<uint32_t>(offset);
-  f.size = static_cast<uint32_t>(sizeof(std::remove_extent_t<T>));
-  f.kind = FieldKind::kObject;
-  f.shape = FieldShape::kList;
-  f.element = element;
-  f.capacity = static_cast<uint32_t>(std::extent<T>::value);
+  return MakeListOf(key, offset, element, static_cast<uint32_t>(sizeof(std::remove_extent_t<T>)),
+                    static_cast<uint32_t>(std::extent<T>::value));
+}
+
+template <typename T>
+constexpr Field MakeAllocatedList(const char* key, size_t offset, const Field* element,
+                                  uint32_t capacity) {
+  static_assert(std::is_pointer<T>::value, "an allocated list member is a pointer to its entries");
+  Field f = MakeListOf(key, offset, element,
+                       static_cast<uint32_t>(sizeof(std::remove_pointer_t<T>)), capacity);
+  f.allocated = true;
   return f;
 }
 
