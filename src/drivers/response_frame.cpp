@@ -110,7 +110,11 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
       }
     }
 
-    const bool perElement = f.walk != RecordWalk::kOne && table.isArray();
+    // Records that are arrays themselves: the table lists channels only one
+    // array level deeper (the table drivers' depth probe decides).
+    const bool perElement =
+        f.walk != RecordWalk::kOne && table.isArray() &&
+        (f.recordDepth == 0 || ArrayDepth(table, 4) == static_cast<int64_t>(f.recordDepth) + 1);
     const uint32_t slots = outLen / stride;
     const uint32_t n = perElement ? std::min(Count(table), slots) : 1;
     // A caller's record shorter than ours is built in a scratch record and
