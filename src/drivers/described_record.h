@@ -5,6 +5,9 @@
 //
 //   constexpr Field kWhole = KOVA_ITEM_NESTED(ChannelTitleConfig);
 //   constexpr ResponseFrame kFrame = DescribedFrame<ChannelTitleConfig, kWhole>();
+//
+// or, for a record that is one object (its KOVA_DESCRIBE in view),
+// DescribedObject<ChannelTitleConfig>::kFrame.
 #ifndef KOVA_DRIVERS_DESCRIBED_RECORD_H_
 #define KOVA_DRIVERS_DESCRIBED_RECORD_H_
 
@@ -36,13 +39,20 @@ bool PackDescribed(const unsigned char* record, Json::Value& out) {
 // (as many as fit), any other table fills record 0, and the returned length
 // is the bytes of the records filled. Pack writes one record bare and
 // several as an array. A record whose JSON is a list (profiles) takes the
-// table as channels only when it is an array of arrays.
+// table as channels only when its elements are arrays.
 template <typename Rec, const Field& kWhole>
 constexpr ResponseFrame DescribedFrame() {
-  return ResponseFrame::For<Rec>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
-      .Walk(RecordWalk::kPerChannel)
-      .RecordDepth(kWhole.shape == FieldShape::kList ? 1 : 0);
+  constexpr ResponseFrame frame = ResponseFrame::For<Rec>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
+                                       .Walk(RecordWalk::kPerChannel);
+  return kWhole.shape == FieldShape::kList ? frame.ArrayRecords() : frame;
 }
+
+// The frame of a record whose JSON is one object read with its own table.
+template <typename Rec>
+struct DescribedObject {
+  static constexpr Field kWhole = KOVA_ITEM_NESTED(Rec);
+  static constexpr ResponseFrame kFrame = DescribedFrame<Rec, kWhole>();
+};
 
 }  // namespace kova
 

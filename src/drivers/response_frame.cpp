@@ -60,6 +60,20 @@ void ClearOutput(const ResponseFrame& f, unsigned char* out, uint32_t outLen, ui
   }
 }
 
+// Whether an array table holds one element per record. For records that
+// are arrays themselves, the first element that is not null decides (a
+// channel left empty, [], must not turn the answer into one record).
+bool ListsChannels(const ResponseFrame& f, const Json::Value& table) {
+  if (!table.isArray()) return false;
+  if (!f.arrayRecords) return true;
+  const uint32_t n = Count(table);
+  for (uint32_t i = 0; i < n; ++i) {
+    const Json::Value& e = Element(table, i);
+    if (!e.isNull()) return e.isArray();
+  }
+  return false;
+}
+
 }  // namespace
 
 uint32_t CallerRecordSize(const void* buf, uint32_t len) {
@@ -110,11 +124,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
       }
     }
 
-    // Records that are arrays themselves: the table lists channels only one
-    // array level deeper (the table drivers' depth probe decides).
-    const bool perElement =
-        f.walk != RecordWalk::kOne && table.isArray() &&
-        (f.recordDepth == 0 || ArrayDepth(table, 4) == static_cast<int64_t>(f.recordDepth) + 1);
+    const bool perElement = f.walk != RecordWalk::kOne && ListsChannels(f, table);
     const uint32_t slots = outLen / stride;
     const uint32_t n = perElement ? std::min(Count(table), slots) : 1;
     // A caller's record shorter than ours is built in a scratch record and

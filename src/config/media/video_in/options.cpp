@@ -121,19 +121,14 @@ KOVA_DESCRIBE(VideoInOptionsConfig, kova::kOptionsFields)
 
 namespace kova {
 
-namespace {
-
-constexpr Field kOptionsRecord = KOVA_ITEM_NESTED(VideoInOptionsConfig);
-constexpr ResponseFrame kFrame = DescribedFrame<VideoInOptionsConfig, kOptionsRecord>();
-
-}  // namespace
-
 int ParseVideoInOptions(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
+  return ParseWithFrame(DescribedObject<VideoInOptionsConfig>::kFrame, jsonText, outBuf, outLen,
+                        retLen);
 }
 
 int PackVideoInOptions(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
+  return PackWithFrame(DescribedObject<VideoInOptionsConfig>::kFrame, inBuf, inLen, outJson,
+                       outLen);
 }
 
 }  // namespace kova

@@ -52,29 +52,22 @@ KOVA_DESCRIBE(VideoWidgetConfig, kova::kWidgetFields)
 
 namespace kova {
 
-namespace {
-
-constexpr Field kChannelTitleRecord = KOVA_ITEM_NESTED(ChannelTitleConfig);
-constexpr ResponseFrame kChannelTitleFrame = DescribedFrame<ChannelTitleConfig, kChannelTitleRecord>();
-constexpr Field kWidgetRecord = KOVA_ITEM_NESTED(VideoWidgetConfig);
-constexpr ResponseFrame kWidgetFrame = DescribedFrame<VideoWidgetConfig, kWidgetRecord>();
-
-}  // namespace
-
 int ParseChannelTitle(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kChannelTitleFrame, jsonText, outBuf, outLen, retLen);
+  return ParseWithFrame(DescribedObject<ChannelTitleConfig>::kFrame, jsonText, outBuf, outLen,
+                        retLen);
 }
 
 int PackChannelTitle(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kChannelTitleFrame, inBuf, inLen, outJson, outLen);
+  return PackWithFrame(DescribedObject<ChannelTitleConfig>::kFrame, inBuf, inLen, outJson, outLen);
 }
 
 int ParseVideoWidget(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kWidgetFrame, jsonText, outBuf, outLen, retLen);
+  return ParseWithFrame(DescribedObject<VideoWidgetConfig>::kFrame, jsonText, outBuf, outLen,
+                        retLen);
 }
 
 int PackVideoWidget(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kWidgetFrame, inBuf, inLen, outJson, outLen);
+  return PackWithFrame(DescribedObject<VideoWidgetConfig>::kFrame, inBuf, inLen, outJson, outLen);
 }
 
 }  // namespace kova
