@@ -296,8 +296,8 @@ constexpr Field kSnapshotFields[] = {
     KOVA_F(R, carType, "CarType", kInt),
     KOVA_F(R, maxSpeed, "MaxSpeed", kInt),
     KOVA_F(R, frameMode, "FrameMode", kInt),
-    KOVA_TUPLE(R, adaptiveSpeed, "AdaptiveSpeed", int32_t, 2)
-        .MinItems(0),  // element by element too
+    // Element by element as well.
+    KOVA_TUPLE(R, adaptiveSpeed, "AdaptiveSpeed", int32_t, 2).MinItems(0),
     KOVA_F(R, videoTitleMask1, "VideoTitleMask1", kInt),
     KOVA_F(R, mergeVideoTitleMask, "MergeVideoTitleMask", kInt),
     KOVA_F(R, mergeVideoTitleMask1, "MergeVideoTitleMask1", kInt),
