@@ -312,7 +312,6 @@ constexpr Field MakeTuple(const char* key, size_t offset, uint32_t n) {
 
 template <typename T>
 constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
-  // Entries may be arrays themselves (a list of text fields is char[n][cap]).
   static_assert(std::is_array<T>::value, "a list member is an array");
   Field f;
   f.key = key;
