@@ -3,9 +3,8 @@
 #include <type_traits>
 
 #include "common/fields/field_table.h"
-#include "config/storage/field_steps.h"
 #include "config/storage/translators.h"
-#include "drivers/response_frame.h"
+#include "drivers/described_steps.h"
 #include "kova/records/storage.h"
 
 namespace kova {
@@ -21,14 +20,21 @@ constexpr Field kRaidFields[] = {
         .KeepSlots(),
 };
 
-// An empty array packs as { "Level" : 0, "Members" : [ ], "Name" : "" }.
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(RaidRecord, kRaidFields)
+
+namespace kova {
+namespace {
+
+// An empty array packs as { "Level" : 0, "Members" : [  ], "Name" : "" }.
 constexpr uint32_t kMinRaidText = 40;
 
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<RaidRecord>(ParseFieldsStep<kRaidFields>, PackFieldsStep<kRaidFields>)
-        .Walk(RecordWalk::kCallerSized)
-        .PackArrayAlways()
-        .MinTextPerRecord(kMinRaidText);
+constexpr ResponseFrame kFrame = DescribedFrame<RaidRecord>()
+                                     .Walk(RecordWalk::kCallerSized)
+                                     .PackArrayAlways()
+                                     .MinTextPerRecord(kMinRaidText);
 
 }  // namespace
 

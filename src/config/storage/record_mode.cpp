@@ -1,9 +1,8 @@
 // "RecordMode": the recording mode of each channel, for the main and the
 // first extra stream.
 #include "common/fields/field_table.h"
-#include "config/storage/field_steps.h"
 #include "config/storage/translators.h"
-#include "drivers/response_frame.h"
+#include "drivers/described_steps.h"
 #include "kova/records/storage.h"
 
 namespace kova {
@@ -14,9 +13,15 @@ constexpr Field kModeFields[] = {
     KOVA_F(RecordModeConfig, modeExtra1, "ModeExtra1", kInt),
 };
 
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<RecordModeConfig>(ParseFieldsStep<kModeFields>, PackFieldsStep<kModeFields>)
-        .Walk(RecordWalk::kPerChannel);
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(RecordModeConfig, kModeFields)
+
+namespace kova {
+namespace {
+
+constexpr ResponseFrame kFrame = DescribedFrame<RecordModeConfig>().Walk(RecordWalk::kPerChannel);
 
 }  // namespace
 

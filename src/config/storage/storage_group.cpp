@@ -1,11 +1,8 @@
 // "StorageGroup": named storage groups, each with its file rules and its
 // channels, in caller-sized records.
-#include <type_traits>
-
 #include "common/fields/field_table.h"
-#include "config/storage/field_steps.h"
 #include "config/storage/translators.h"
-#include "drivers/response_frame.h"
+#include "drivers/described_steps.h"
 #include "kova/records/storage.h"
 
 namespace kova {
@@ -38,16 +35,22 @@ constexpr Field kGroupFields[] = {
         .KeepSlots(),
 };
 
-// An empty group packs as { "Channels" : [ ], "FileHoldTime" : 0, ... }:
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(StorageGroupRecord, kGroupFields)
+
+namespace kova {
+namespace {
+
+// An empty group packs as { "Channels" : [  ], "FileHoldTime" : 0, ... }:
 // well over this many bytes.
 constexpr uint32_t kMinGroupText = 120;
 
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<StorageGroupRecord>(ParseFieldsStep<kGroupFields>,
-                                           PackFieldsStep<kGroupFields>)
-        .Walk(RecordWalk::kCallerSized)
-        .PackArrayAlways()
-        .MinTextPerRecord(kMinGroupText);
+constexpr ResponseFrame kFrame = DescribedFrame<StorageGroupRecord>()
+                                     .Walk(RecordWalk::kCallerSized)
+                                     .PackArrayAlways()
+                                     .MinTextPerRecord(kMinGroupText);
 
 }  // namespace
 
