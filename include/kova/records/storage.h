@@ -80,8 +80,8 @@ typedef struct RecordConfig {
 // ("result" is not consulted for it).
 //
 // Parse needs a buffer of one NasConfig, clears it whole, and reports one
-// NasConfig as the returned length. Pack takes exactly one NasConfig
-// (a shorter input is refused) and writes the form `useServerList` names:
+// NasConfig as the returned length. Pack writes the first NasConfig of the
+// input (a shorter input is refused) in the form `useServerList` names:
 //   - 0: { "NAS" : { ... } }, every key of LegacyNasConfig;
 //   - otherwise: the array of servers up to the last slot that is not all
 //     zero bytes, an all-zero slot as null (as a null element reads), every

@@ -217,11 +217,6 @@ TEST(Record, ResponseChannelChoosesOneRecordOrEveryElement) {
       EXPECT_EQ(2, r[2].channel);
     }
   }
-  // Below one record: refused, untouched.
-  std::vector<unsigned char> small(sizeof(RecordConfig) - 1, 0xEE);
-  EXPECT_EQ(0, KOVA_ParseData("Record", kova_test::Sample("Record").c_str(), small.data(),
-                              static_cast<uint32_t>(small.size()), nullptr));
-  EXPECT_EQ(std::vector<unsigned char>(small.size(), 0xEE), small);
 }
 
 TEST(Record, PackWritesAnObjectOnlyForExactlyOneRecord) {
