@@ -150,7 +150,11 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     if (f.walk == RecordWalk::kObjectMembers) {
       return ParseObjectMembers(f, root, table, out, slots, retLen);
     }
-    const bool perElement = f.walk != RecordWalk::kOne && ListsChannels(f, table);
+    bool perElement = f.walk != RecordWalk::kOne && ListsChannels(f, table);
+    if (f.walk != RecordWalk::kOne && f.channelAtRoot) {
+      perElement = ToInt32(Member(root, "channel")) < 0;
+      if (perElement && !table.isArray()) return 0;
+    }
     const uint32_t n = perElement ? std::min(Count(table), slots) : 1;
     // A caller's record shorter than ours is built in a scratch record and
     // copied out as far as the caller's size reaches.
@@ -197,15 +201,18 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
       stride = CallerRecordSize(inBuf, inLen);
       if (stride == 0) return 0;
     } else if (inLen < f.recordSize) {
-      return 0;
+      return f.shortInputAsNull ? CopyPacked(Json::Value(), outJson, outLen, f.copy) : 0;
     }
     const uint32_t n = f.packWalk == PackWalk::kOne ? 1 : inLen / stride;
+    if (static_cast<uint64_t>(n) * f.minTextPerRecord > outLen) return 0;
     std::vector<unsigned char> scratch;
     if (stride < f.recordSize) scratch.assign(f.recordSize, 0);
 
     Json::Value root;
     const bool members = f.packWalk == PackWalk::kObjectMembers;
-    const bool array = !members && (n > 1 || f.packArrayAlways);
+    const bool array =
+        !members && (n > 1 || f.packArrayAlways ||
+                     (f.arrayUnlessExactlyOne && f.packWalk != PackWalk::kOne && inLen != stride));
     if (array) root = Json::Value(Json::arrayValue);
     if (members) root = Json::Value(Json::objectValue);
     for (uint32_t i = 0; i < n; ++i) {

@@ -98,6 +98,20 @@ struct ResponseFrame {
   CopyRule copy = CopyRule::kStrictlyLess;
   PackWalk packWalk = PackWalk::kOne;
   bool packArrayAlways = false;  // several-record pack: an array even for one record
+  // Per-element walks: the response's top-level "channel" decides the walk.
+  // Absent or not negative: the table is one record (record 0) whatever its
+  // type; negative: the table must be an array (anything else fails) and
+  // element i fills record i.
+  bool channelAtRoot = false;
+  // Pack: an input shorter than one record packs as null (the text "null"
+  // and a newline) instead of being refused.
+  bool shortInputAsNull = false;
+  // Several-record pack: a bare value only when the input is exactly one
+  // record; one record and a partial one are an array of one.
+  bool arrayUnlessExactlyOne = false;
+  // Pack: bytes of text every record needs at least; an input of more
+  // records than the output could hold is refused before any is packed.
+  uint32_t minTextPerRecord = 0;
 
   template <typename Rec>
   static constexpr ResponseFrame For(ParseStep p, PackStep k) {
@@ -126,6 +140,14 @@ struct ResponseFrame {
   constexpr ResponseFrame Copy(CopyRule c) const { auto f = *this; f.copy = c; return f; }
   constexpr ResponseFrame Pack(PackWalk w) const { auto f = *this; f.packWalk = w; return f; }
   constexpr ResponseFrame PackArrayAlways() const { auto f = *this; f.packArrayAlways = true; return f; }
+  constexpr ResponseFrame ChannelAtRoot() const { auto f = *this; f.channelAtRoot = true; return f; }
+  constexpr ResponseFrame ShortInputAsNull() const { auto f = *this; f.shortInputAsNull = true; return f; }
+  constexpr ResponseFrame ArrayUnlessExactlyOne() const {
+    auto f = *this;
+    f.arrayUnlessExactlyOne = true;
+    return f;
+  }
+  constexpr ResponseFrame MinTextPerRecord(uint32_t n) const { auto f = *this; f.minTextPerRecord = n; return f; }
 };
 
 // 1 on success, 0 on failure. Never writes past `outLen`; on failure the
