@@ -1,7 +1,5 @@
 // The POSIX (glibc) part of the platform module: iconv for code pages, the
 // C library's clock and files.
-#include "common/base/platform.h"
-
 #include <errno.h>
 #include <iconv.h>
 #include <langinfo.h>
@@ -15,6 +13,7 @@
 #include <cstring>
 #include <vector>
 
+#include "common/base/platform.h"
 #include "common/base/platform_internal.h"
 
 namespace kova {
