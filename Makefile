@@ -21,8 +21,8 @@ DEB_PACKAGES := cmake make g++ pkg-config libjsoncpp-dev libgtest-dev libgmock-d
 WINDOWS_PACKAGES := cmake make ninja-build g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 \
 	wine wine64 googletest dpkg-dev
 
-.PHONY: all deps build test demo fuzz-build fuzz fuzz-short tsan bench coverage package \
-	windows windows-test windows-deps clean
+.PHONY: all deps build test demo fuzz-build fuzz fuzz-short tsan bench coverage \
+	package package-check windows windows-test windows-deps clean
 
 all: build
 
@@ -98,6 +98,10 @@ coverage: deps
 # (CPack), in $(BUILD)/.
 package: build
 	cd $(BUILD) && cpack -G DEB
+
+# Installs that .deb with dpkg, builds a client against it, removes it again.
+package-check: package
+	sh tests/install/deb_test.sh $$(ls $(BUILD)/kova_*.deb | head -n 1) tests/install/consumer
 
 # kova.dll (with its import library kova.lib) and kova.exe for 64-bit
 # Windows, cross-built with MinGW-w64, in $(WINDOWS_BUILD)/. jsoncpp is built

@@ -21,11 +21,16 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/kovaConfigVersion.cmake
 install(FILES ${PROJECT_BINARY_DIR}/kovaConfig.cmake ${PROJECT_BINARY_DIR}/kovaConfigVersion.cmake
   DESTINATION ${KOVA_CMAKE_DIR})
 
-# The pkg-config file finds its prefix relative to itself.
-file(RELATIVE_PATH KOVA_PC_TO_PREFIX /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
-string(REGEX REPLACE "/$" "" KOVA_PC_TO_PREFIX ${KOVA_PC_TO_PREFIX})
-configure_file(${PROJECT_SOURCE_DIR}/cmake/kova.pc.in ${PROJECT_BINARY_DIR}/kova.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/kova.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+# The pkg-config file names the prefix it is installed into, which is known
+# only at install time (`--prefix`, or /usr when CPack installs for the .deb).
+set(KOVA_PREFIX @KOVA_PREFIX@)  # left for install time
+configure_file(${PROJECT_SOURCE_DIR}/cmake/kova.pc.in ${PROJECT_BINARY_DIR}/kova.pc.in @ONLY)
+install(CODE "
+  file(READ \"${PROJECT_BINARY_DIR}/kova.pc.in\" pc)
+  string(REPLACE \"@KOVA_PREFIX@\" \"\${CMAKE_INSTALL_PREFIX}\" pc \"\${pc}\")
+  file(WRITE \"${PROJECT_BINARY_DIR}/pkgconfig/kova.pc\" \"\${pc}\")
+  file(INSTALL \"${PROJECT_BINARY_DIR}/pkgconfig/kova.pc\"
+       DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/pkgconfig\")")
 
 # CPack: one .deb with everything above. The runtime dependencies (the C and
 # C++ runtimes, jsoncpp) are read off the binaries by dpkg-shlibdeps; the
