@@ -71,7 +71,7 @@ std::string ParsedName(const std::string& utf8Name) {
 const std::string kZhongWen = "\xE4\xB8\xAD\xE6\x96\x87";  // two Chinese characters, UTF-8
 const std::string kCafe = "caf\xC3\xA9";                   // "cafe" with an acute e, UTF-8
 
-TEST(LoadLibrary, FindsTheFourEntryPointsByTheirPlainNames) {
+TEST(KovaDll, FindsTheFourEntryPointsByTheirPlainNames) {
   const Kova& kova = Library();
   ASSERT_NE(nullptr, kova.module) << "LoadLibrary(kova.dll) failed: " << GetLastError();
   EXPECT_NE(nullptr, kova.parse);
@@ -83,7 +83,7 @@ TEST(LoadLibrary, FindsTheFourEntryPointsByTheirPlainNames) {
   EXPECT_EQ(nullptr, GetProcAddress(kova.module, "_KOVA_ParseData@20"));
 }
 
-TEST(LoadLibrary, ParsesAndPacksThroughThePointers) {
+TEST(KovaDll, ParsesAndPacksThroughThePointers) {
   const Kova& kova = Library();
   ASSERT_NE(nullptr, kova.parse);
   int32_t mode = 0;
@@ -104,7 +104,7 @@ TEST(LoadLibrary, ParsesAndPacksThroughThePointers) {
   EXPECT_EQ(0, kova.parse("AlarmLamp", "{ not json", &mode, sizeof mode, &filled));
 }
 
-TEST(LoadLibrary, CallbackEntriesTakeAClientCallback) {
+TEST(KovaDll, CallbackEntriesTakeAClientCallback) {
   const Kova& kova = Library();
   ASSERT_NE(nullptr, kova.events);
   int calls = 0;
@@ -115,7 +115,7 @@ TEST(LoadLibrary, CallbackEntriesTakeAClientCallback) {
   EXPECT_EQ(0, calls);
 }
 
-TEST(LoadLibrary, TextArrivesInTheProcessAnsiCodePage) {
+TEST(KovaDll, TextArrivesInTheProcessAnsiCodePage) {
   ASSERT_NE(nullptr, Library().parse);
   // The two Windows locales this test is run under (see CMakeLists.txt).
   switch (GetACP()) {
@@ -131,7 +131,7 @@ TEST(LoadLibrary, TextArrivesInTheProcessAnsiCodePage) {
   }
 }
 
-TEST(LoadLibrary, KovaCodePageTakesANumberOrAName) {
+TEST(KovaDll, KovaCodePageTakesANumberOrAName) {
   ASSERT_NE(nullptr, Library().parse);
   const struct {
     const char* codePage;
@@ -148,6 +148,7 @@ TEST(LoadLibrary, KovaCodePageTakesANumberOrAName) {
       {"28591", kZhongWen, "??"},
       {"65001", kZhongWen, kZhongWen},
       {"UTF-8", kCafe, kCafe},
+      {"936", "x\xF0\x9F\x98\x80y", "x?y"},        // an emoji: one "?", not one per UTF-16 unit
       {"NO-SUCH-CODEPAGE", kZhongWen, kZhongWen},  // unknown: UTF-8
   };
   for (const auto& c : cases) {
@@ -156,7 +157,18 @@ TEST(LoadLibrary, KovaCodePageTakesANumberOrAName) {
   }
 }
 
-TEST(LoadLibrary, PackedTextComesBackToUtf8FromTheCodePage) {
+TEST(KovaDll, LongTextIsCutBeforeACharacterThatDoesNotFitWhole) {
+  ASSERT_NE(nullptr, Library().parse);
+  CodePage use("GBK");
+  std::string utf8;
+  std::string local;
+  for (int i = 0; i < 40; ++i) utf8 += kZhongWen.substr(0, 3);
+  for (int i = 0; i < 31; ++i) local += "\xD6\xD0";
+  // 63 bytes of room in "Name": 31 two-byte characters, never half of one.
+  EXPECT_EQ(local, ParsedName(utf8));
+}
+
+TEST(KovaDll, PackedTextComesBackToUtf8FromTheCodePage) {
   ASSERT_NE(nullptr, Library().pack);
   CodePage use("936");
   NetAlarmRecord rec = {};

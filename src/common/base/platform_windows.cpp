@@ -11,6 +11,7 @@
 #include <io.h>
 #include <windows.h>
 
+#include <cstdint>
 #include <cstring>
 #include <vector>
 
@@ -104,18 +105,32 @@ class Converter {
     return page_;
   }
 
+  // All of `cps` in one call, when every character has a form in the code
+  // page and the whole text fits in `cap` bytes: the bytes written, or
+  // SIZE_MAX to go character by character instead.
+  size_t EncodeWhole(const std::vector<char32_t>& cps, char* dst, size_t cap) const {
+    if (!strict_ || cps.size() > static_cast<size_t>(INT32_MAX) / 2) return SIZE_MAX;
+    std::vector<wchar_t> wide;
+    wide.reserve(cps.size());
+    for (const char32_t c : cps) {
+      wchar_t units[2];
+      wide.insert(wide.end(), units, units + ToUtf16(c, units));
+    }
+    const int n = static_cast<int>(wide.size());
+    BOOL usedDefault = FALSE;
+    const int len = WideCharToMultiByte(codePage_, WC_NO_BEST_FIT_CHARS, wide.data(), n, nullptr, 0,
+                                        nullptr, &usedDefault);
+    if (len < 0 || usedDefault || static_cast<size_t>(len) > cap) return SIZE_MAX;
+    if (len == 0) return n == 0 ? 0 : SIZE_MAX;
+    return static_cast<size_t>(WideCharToMultiByte(codePage_, WC_NO_BEST_FIT_CHARS, wide.data(), n,
+                                                   dst, len, nullptr, nullptr));
+  }
+
   // One code point in the local code page into `out` (room for 8 bytes):
   // its bytes, or the code page's "?" when it has no such character.
   int Encode(char32_t c, char* out) const {
     wchar_t units[2];
-    int n = 1;
-    if (c >= 0x10000) {
-      units[0] = static_cast<wchar_t>(0xD800 + ((c - 0x10000) >> 10));
-      units[1] = static_cast<wchar_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
-      n = 2;
-    } else {
-      units[0] = static_cast<wchar_t>(c);
-    }
+    const int n = ToUtf16(c, units);
     BOOL usedDefault = FALSE;
     // Converted one character at a time: a whole character either fits or is
     // left out, and a character outside the code page is one "?" even when
@@ -155,6 +170,17 @@ class Converter {
     if (MultiByteToWideChar(codePage_, flags, src, len, wide.data(), units) != units) return false;
     AppendUtf16(wide.data(), wide.size(), out);
     return true;
+  }
+
+  // The UTF-16 form of a code point: one unit, or a surrogate pair.
+  static int ToUtf16(char32_t c, wchar_t* units) {
+    if (c < 0x10000) {
+      units[0] = static_cast<wchar_t>(c);
+      return 1;
+    }
+    units[0] = static_cast<wchar_t>(0xD800 + ((c - 0x10000) >> 10));
+    units[1] = static_cast<wchar_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
+    return 2;
   }
 
   // Code points of UTF-16 text; a lone surrogate becomes U+FFFD.
@@ -204,6 +230,10 @@ std::string ResolveCodePage() {
 const CodePage& FollowCodePage() { return tConverter.Refresh(); }
 
 size_t CodePointsToLocal(std::vector<char32_t>& cps, char* dst, size_t cap) {
+  const size_t whole = tConverter.EncodeWhole(cps, dst, cap);
+  if (whole != SIZE_MAX) return whole;
+  // A character without a form here, or text longer than the room: one
+  // character at a time, to write one "?" for it or to stop before it.
   size_t w = 0;
   for (const char32_t c : cps) {
     char bytes[8];
