@@ -32,6 +32,7 @@ struct StepContext {
   const Json::Value& params;  // root "params" (null when missing)
   uint32_t index;             // record index in the walk
   uint32_t recordBytes;       // bytes of the record the step may touch
+  const char* memberName;     // RecordWalk::kObjectMembers: the element's member name, else null
 };
 
 // One record from one JSON element. false fails the whole parse.
@@ -61,6 +62,10 @@ enum class RecordWalk : uint8_t {
   kOne,          // the table fills record 0
   kPerChannel,   // an array fills record i from element i (as many as fit); anything else record 0
   kCallerSized,  // as kPerChannel, stepping by the size word the caller wrote into record 0
+  // An object table: its members that are objects fill one record each, in
+  // the JSON library's member order (sorted by name); other members take no
+  // record. Anything but an object fills nothing.
+  kObjectMembers,
 };
 // What `retLen` receives.
 enum class ReturnedLength : uint8_t {
@@ -75,6 +80,9 @@ enum class PackWalk : uint8_t {
   kOne,          // exactly one record (an input shorter than it is refused)
   kPerChannel,   // inLen / size records: one as the bare value, several as an array
   kCallerSized,  // as kPerChannel, stepping by the size word of the first record
+  // inLen / size records into one object: each step receives that object
+  // and adds its own member to it.
+  kObjectMembers,
 };
 
 struct ResponseFrame {
@@ -109,9 +117,10 @@ struct ResponseFrame {
   constexpr ResponseFrame Walk(RecordWalk w) const {
     auto f = *this;
     f.walk = w;
-    f.packWalk = w == RecordWalk::kOne           ? PackWalk::kOne
-                 : w == RecordWalk::kPerChannel ? PackWalk::kPerChannel
-                                                : PackWalk::kCallerSized;
+    f.packWalk = w == RecordWalk::kOne             ? PackWalk::kOne
+                 : w == RecordWalk::kPerChannel   ? PackWalk::kPerChannel
+                 : w == RecordWalk::kCallerSized  ? PackWalk::kCallerSized
+                                                  : PackWalk::kObjectMembers;
     return f;
   }
   constexpr ResponseFrame SkipNullElements() const { auto f = *this; f.skipNullElements = true; return f; }

@@ -312,8 +312,7 @@ constexpr Field MakeTuple(const char* key, size_t offset, uint32_t n) {
 
 template <typename T>
 constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
-  // A list of text fields is an array of character arrays (rank 2).
-  static_assert(std::is_array<T>::value && std::rank<T>::value >= 1, "a list member is an array");
+  static_assert(std::is_array<T>::value, "a list member is an array");
   Field f;
   f.key = key;
   f.offset = static_cast<uint32_t>(offset);
