@@ -20,6 +20,9 @@
 // name not built yet) is appended there as one line.
 #include "kova/kova.h"
 
+#include <json/value.h>
+#include <json/writer.h>
+
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -29,9 +32,6 @@
 #include <iterator>
 #include <string>
 #include <vector>
-
-#include <json/value.h>
-#include <json/writer.h>
 
 #include "api/dispatch.h"
 #include "common/base/log.h"

@@ -50,20 +50,20 @@ typedef enum NetworkInterfaceType {
 // One interface: a member of the table whose value is a non-empty object,
 // named by the member's name. A key the device leaves out reads as 0 / "".
 typedef struct NetworkInterface {
-  char name[128];               // the member's name ("eth0"), at most 127 bytes kept
-  char ipAddress[256];          // "IPAddress", dotted text
-  char subnetMask[256];         // "SubnetMask"
-  char defaultGateway[256];     // "DefaultGateway"
-  int32_t dhcpEnable;           // "DhcpEnable" (boolean), 0 or 1
-  int32_t dnsAutoGet;           // "DnsAutoGet" (boolean), 0 or 1: DNS servers from DHCP
-  char dnsServers[2][256];      // "DnsServers": entries 0 and 1; later ones are not kept,
-                                // a null entry leaves its slot empty; pack writes both
-  int32_t mtu;                  // "MTU", bytes
-  char physicalAddress[256];    // "PhysicalAddress": MAC address text
-  int32_t enable;               // "Enable", the device's integer, written back as one
-  int32_t enableDhcpReservedIp; // "EnableDhcpReservedIP", integer both ways
-  int32_t netMode;              // "NetMode": NetworkLinkMode
-  int32_t type;                 // "Type": NetworkInterfaceType
+  char name[128];                // the member's name ("eth0"), at most 127 bytes kept
+  char ipAddress[256];           // "IPAddress", dotted text
+  char subnetMask[256];          // "SubnetMask"
+  char defaultGateway[256];      // "DefaultGateway"
+  int32_t dhcpEnable;            // "DhcpEnable" (boolean), 0 or 1
+  int32_t dnsAutoGet;            // "DnsAutoGet" (boolean), 0 or 1: DNS servers from DHCP
+  char dnsServers[2][256];       // "DnsServers": entries 0 and 1; later ones are not kept,
+                                 // a null entry leaves its slot empty; pack writes both
+  int32_t mtu;                   // "MTU", bytes
+  char physicalAddress[256];     // "PhysicalAddress": MAC address text
+  int32_t enable;                // "Enable", the device's integer, written back as one
+  int32_t enableDhcpReservedIp;  // "EnableDhcpReservedIP", integer both ways
+  int32_t netMode;               // "NetMode": NetworkLinkMode
+  int32_t type;                  // "Type": NetworkInterfaceType
 } NetworkInterface;
 
 // Parse clears the whole buffer, needs "result" true and a capacity of at
@@ -114,9 +114,9 @@ typedef struct DvripServerAddress {
 // A registration block: "RegisterServer" and its extended form
 // "RegisterServerEx" carry the same members.
 typedef struct DvripRegisterServer {
-  int32_t enable;        // "Enable" (boolean), 0 or 1: register at start-up
-  char deviceId[64];     // "DeviceID": the name the device registers under
-  int32_t serverCount;   // entries of "Servers" kept (objects only), 0 to 8
+  int32_t enable;       // "Enable" (boolean), 0 or 1: register at start-up
+  char deviceId[64];    // "DeviceID": the name the device registers under
+  int32_t serverCount;  // entries of "Servers" kept (objects only), 0 to 8
   DvripServerAddress servers[KOVA_DVRIP_MAX_SERVERS];  // "Servers", the first 8 objects
 } DvripRegisterServer;
 
@@ -126,18 +126,18 @@ typedef struct DvripRegisterServer {
 // writes every scalar key, and each registration block only when its
 // presence flag is set, so a device's answer goes back in the form it came.
 typedef struct DvripConfig {
-  int32_t tcpPort;                  // "TCPPort": the device protocol's TCP port
-  int32_t sslPort;                  // "SSLPort"
-  int32_t udpPort;                  // "UDPPort"
-  int32_t maxConnections;           // "MaxConnections": clients served at once
-  int32_t mcastEnable;              // "MCASTEnable" (boolean), 0 or 1
-  int32_t mcastPort;                // "MCASTPort"
-  char mcastAddress[64];            // "MCASTAddress": multicast group, dotted text
-  char streamPolicy[32];            // "StreamPolicy": transmission policy as the device
-                                    // names it ("None", "Quality", "Fluency", ...)
-  int32_t registerServerPresent;    // 1 when "RegisterServer" was an object
+  int32_t tcpPort;                       // "TCPPort": the device protocol's TCP port
+  int32_t sslPort;                       // "SSLPort"
+  int32_t udpPort;                       // "UDPPort"
+  int32_t maxConnections;                // "MaxConnections": clients served at once
+  int32_t mcastEnable;                   // "MCASTEnable" (boolean), 0 or 1
+  int32_t mcastPort;                     // "MCASTPort"
+  char mcastAddress[64];                 // "MCASTAddress": multicast group, dotted text
+  char streamPolicy[32];                 // "StreamPolicy": transmission policy as the device
+                                         // names it ("None", "Quality", "Fluency", ...)
+  int32_t registerServerPresent;         // 1 when "RegisterServer" was an object
   DvripRegisterServer registerServer;    // "RegisterServer"
-  int32_t registerServerExPresent;  // 1 when "RegisterServerEx" was an object
+  int32_t registerServerExPresent;       // 1 when "RegisterServerEx" was an object
   DvripRegisterServer registerServerEx;  // "RegisterServerEx"
 } DvripConfig;
 
@@ -163,10 +163,10 @@ typedef struct MulticastStream {
 // most 128 per transport are kept. Pack writes both lists with the first
 // `tsCount` / `rtpCount` streams (cut to 128); `size` is not looked at.
 typedef struct MulticastConfig {
-  uint32_t size;      // the record's own size, written by parse
-  int32_t tsCount;    // streams in `ts`, 0 to 128
+  uint32_t size;                                    // the record's own size, written by parse
+  int32_t tsCount;                                  // streams in `ts`, 0 to 128
   MulticastStream ts[KOVA_MULTICAST_MAX_STREAMS];   // "TS": MPEG transport stream multicast
-  int32_t rtpCount;   // streams in `rtp`, 0 to 128
+  int32_t rtpCount;                                 // streams in `rtp`, 0 to 128
   MulticastStream rtp[KOVA_MULTICAST_MAX_STREAMS];  // "RTP": RTP multicast
 } MulticastConfig;
 

@@ -35,27 +35,27 @@ typedef struct PtzSerialAttribute {
 // leaves 0. Pack writes every key below, "NumberInMatrixs" and "PTZType"
 // only when their has-flags are set.
 typedef struct PtzConfig {
-  bool hasNumberInMatrix;  // set when "NumberInMatrixs" was given; pack writes it only then
-  bool reservedFlag1;      // always 0
-  bool hasPtzType;         // set when "PTZType" was given; pack writes it only then
-  bool reservedFlag2;      // always 0
-  int32_t reservedValue;   // always 0
-  int32_t enable;          // "Enable" (boolean), 0 or 1
-  char protocolName[128];  // "ProtocolName": control protocol, at most 127 bytes kept
-  int32_t address;         // "Address": the head's address on its control line
+  bool hasNumberInMatrix;     // set when "NumberInMatrixs" was given; pack writes it only then
+  bool reservedFlag1;         // always 0
+  bool hasPtzType;            // set when "PTZType" was given; pack writes it only then
+  bool reservedFlag2;         // always 0
+  int32_t reservedValue;      // always 0
+  int32_t enable;             // "Enable" (boolean), 0 or 1
+  char protocolName[128];     // "ProtocolName": control protocol, at most 127 bytes kept
+  int32_t address;            // "Address": the head's address on its control line
   PtzSerialAttribute serial;  // "Attribute"
-  int32_t numberInMatrix;  // "NumberInMatrixs": position in the matrix
-  int32_t ptzType;         // "PTZType": 1 when the device's number is above 0, else 0
-  int32_t reserved2;       // always 0
-  int32_t port;            // "Port": serial port the head is wired to
-  int32_t homing[2];       // "Homing": elements 0 and 1 (a missing element reads 0);
-                           // without "Homing" (or with null) homing[0] is -1, homing[1] 0.
-                           // Pack writes both.
-  int32_t controlMode;     // 1 coaxial, 0 RS485. Parse always leaves 0, whatever
-                           // "ControlMode" says (deliberately); pack writes
-                           // "ControlMode": "Coaxial" only for 1 and otherwise leaves
-                           // the key out, so that a read-modify-write keeps the
-                           // device's own control line
+  int32_t numberInMatrix;     // "NumberInMatrixs": position in the matrix
+  int32_t ptzType;            // "PTZType": 1 when the device's number is above 0, else 0
+  int32_t reserved2;          // always 0
+  int32_t port;               // "Port": serial port the head is wired to
+  int32_t homing[2];          // "Homing": elements 0 and 1 (a missing element reads 0);
+                              // without "Homing" (or with null) homing[0] is -1, homing[1] 0.
+                              // Pack writes both.
+  int32_t controlMode;        // 1 coaxial, 0 RS485. Parse always leaves 0, whatever
+                              // "ControlMode" says (deliberately); pack writes
+                              // "ControlMode": "Coaxial" only for 1 and otherwise leaves
+                              // the key out, so that a read-modify-write keeps the
+                              // device's own control line
 } PtzConfig;
 
 #ifdef __cplusplus

@@ -1,5 +1,7 @@
 // "Network": host name, domain, default interface and the per-interface
 // addresses, DNS servers, link mode and interface type of a device.
+#include "kova/records/network.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -9,7 +11,6 @@
 #include "common/json/json.h"
 #include "config/network/translators.h"
 #include "drivers/response_frame.h"
-#include "kova/records/network.h"
 
 namespace kova {
 
@@ -58,7 +59,8 @@ void ParseInterfaces(const Json::Value& table, unsigned char* record, const Fiel
 void PackInterfaces(const unsigned char* record, Json::Value& table, const Field&) {
   const NetworkConfig* config = reinterpret_cast<const NetworkConfig*>(record);
   const int32_t count = config->interfaceCount;
-  const int32_t n = count < 0 ? 0 : (count > KOVA_NETWORK_MAX_INTERFACES ? KOVA_NETWORK_MAX_INTERFACES : count);
+  const int32_t n =
+      count < 0 ? 0 : (count > KOVA_NETWORK_MAX_INTERFACES ? KOVA_NETWORK_MAX_INTERFACES : count);
   for (int32_t i = 0; i < n; ++i) {
     const NetworkInterface& nif = config->interfaces[i];
     Json::Value name;

@@ -1,5 +1,7 @@
 // "Ptz": the pan-tilt-zoom head of a channel: protocol, address, serial
 // line, matrix position, homing positions and control line.
+#include "kova/records/ptz.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -8,7 +10,6 @@
 #include "common/json/json.h"
 #include "config/ptz/translators.h"
 #include "drivers/response_frame.h"
-#include "kova/records/ptz.h"
 
 namespace kova {
 

@@ -51,7 +51,8 @@ TEST(Rtsp, KeysAreReadOnlyWhenPresentAndResultIsNotLookedAt) {
     RtspConfig expected;
   } cases[] = {
       {R"({"params":{"table":{"Enable":true,"Port":554}}})", {28, 1, 554, 0, 0, 0, 0}},
-      {R"({"result":false,"params":{"table":{"RTP":{"StartPort":5000}}}})", {28, 0, 0, 5000, 0, 0, 0}},
+      {R"({"result":false,"params":{"table":{"RTP":{"StartPort":5000}}}})",
+       {28, 0, 0, 5000, 0, 0, 0}},
       {R"({"result":true,"params":{"table":{"Port":null,"RTP":7,"RtspOverHttp":{"Port":80}}}})",
        {28, 0, 0, 0, 0, 0, 80}},
       {R"({"result":true,"params":{"table":null}})", {28, 0, 0, 0, 0, 0, 0}},
@@ -70,7 +71,8 @@ TEST(Rtsp, KeysAreReadOnlyWhenPresentAndResultIsNotLookedAt) {
 TEST(Rtsp, BufferIsWrittenOnlyForTextThatParses) {
   std::vector<unsigned char> b(sizeof(RtspConfig) + 4, 0x5A);
   uint32_t ret = 0;
-  EXPECT_EQ(0, KOVA_ParseData("RTSP", "{\"params\":", b.data(), static_cast<uint32_t>(b.size()), &ret));
+  EXPECT_EQ(
+      0, KOVA_ParseData("RTSP", "{\"params\":", b.data(), static_cast<uint32_t>(b.size()), &ret));
   EXPECT_EQ(0, KOVA_ParseData("RTSP", "{}", b.data(), sizeof(RtspConfig) - 1, &ret));
   EXPECT_EQ(std::vector<unsigned char>(b.size(), 0x5A), b);
   ASSERT_EQ(1, KOVA_ParseData("RTSP", "{}", b.data(), static_cast<uint32_t>(b.size()), &ret));
@@ -92,10 +94,12 @@ TEST(Dvrip, DeviceAnswerReadsAndPacksBack) {
 
 TEST(Dvrip, RegistrationGoesBackInTheFormItCame) {
   std::string servers;
-  for (int i = 0; i < 10; ++i) servers += R"({"Address":"10.0.0.)" + std::to_string(i) + R"(","Port":7000},)";
+  for (int i = 0; i < 10; ++i)
+    servers += R"({"Address":"10.0.0.)" + std::to_string(i) + R"(","Port":7000},)";
   int rc = 0;
   auto r = ParseAs<DvripConfig>(
-      "DVRIP", Doc(R"({"TCPPort":36000,"RegisterServerEx":{"Servers":[null,3,)" + servers + "{}]}}"), &rc);
+      "DVRIP",
+      Doc(R"({"TCPPort":36000,"RegisterServerEx":{"Servers":[null,3,)" + servers + "{}]}}"), &rc);
   ASSERT_EQ(1, rc);
   EXPECT_EQ(0, r->registerServerPresent);
   EXPECT_EQ(1, r->registerServerExPresent);
@@ -145,7 +149,8 @@ TEST(Multicast, ListsAreCutAndTheWholeRecordIsNeeded) {
 
   std::vector<unsigned char> b(sizeof(MulticastConfig), 0x5A);
   uint32_t ret = 0;
-  EXPECT_EQ(0, KOVA_ParseData("Multicast", Doc("{}").c_str(), b.data(), sizeof(MulticastConfig) - 1, &ret));
+  EXPECT_EQ(0, KOVA_ParseData("Multicast", Doc("{}").c_str(), b.data(), sizeof(MulticastConfig) - 1,
+                              &ret));
   EXPECT_EQ(0, KOVA_ParseData("Multicast", R"({"result":0,"params":{"table":{}}})", b.data(),
                               static_cast<uint32_t>(b.size()), &ret));
   EXPECT_EQ(std::vector<unsigned char>(b.size(), 0x5A), b);

@@ -1,5 +1,7 @@
 // "Network" end to end: the interfaces taken from the table's members, the
 // link mode and interface type tables, and the envelope rules.
+#include "kova/records/network.h"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -9,7 +11,6 @@
 
 #include "config/alarm/alarm_test_util.h"
 #include "kova/kova.h"
-#include "kova/records/network.h"
 
 namespace {
 
@@ -31,7 +32,8 @@ std::unique_ptr<NetworkConfig> ParseTable(const std::string& table) {
 
 std::string Names(const NetworkConfig& r) {
   std::string out;
-  for (int32_t i = 0; i < r.interfaceCount; ++i) out += std::string(i ? "," : "") + r.interfaces[i].name;
+  for (int32_t i = 0; i < r.interfaceCount; ++i)
+    out += std::string(i ? "," : "") + r.interfaces[i].name;
   return out;
 }
 
@@ -84,8 +86,8 @@ TEST(Network, InterfacesAreTheMembersHoldingObjects) {
   } cases[] = {
       {"null, scalars, arrays and empty objects take no slot",
        R"({"Hostname":"h","a":null,"b":5,"c":{},"d":[{"MTU":1}],"e":{"MTU":1},"f":"x"})", "e"},
-      {"names in byte order, capitals first", R"({"eth1":{"MTU":1},"Wlan":{"MTU":1},"eth0":{"MTU":1}})",
-       "Wlan,eth0,eth1"},
+      {"names in byte order, capitals first",
+       R"({"eth1":{"MTU":1},"Wlan":{"MTU":1},"eth0":{"MTU":1}})", "Wlan,eth0,eth1"},
       {"at most 32 interfaces", "{" + many + "}", expected32},
       {"a name is cut to 127 bytes", "{\"" + longName + "\":{\"MTU\":1}}", longName.substr(0, 127)},
       {"a table that is not an object has no interfaces", R"([{"eth0":{"MTU":1}}])", ""},
@@ -139,7 +141,8 @@ TEST(Network, PackWritesNamesFromTheTablesAndCutsTheCount) {
     const char* text;
   } cases[] = {
       {0, 0, R"("NetMode" : "", "PhysicalAddress" : "", "SubnetMask" : "", "Type" : "")"},
-      {4, 3, R"("NetMode" : "full100M", "PhysicalAddress" : "", "SubnetMask" : "", "Type" : "Extend")"},
+      {4, 3,
+       R"("NetMode" : "full100M", "PhysicalAddress" : "", "SubnetMask" : "", "Type" : "Extend")"},
       {5, 4, R"("NetMode" : "", "PhysicalAddress" : "", "SubnetMask" : "", "Type" : "")"},
       {-1, -1, R"("NetMode" : "", "PhysicalAddress" : "", "SubnetMask" : "", "Type" : "")"},
   };
@@ -150,9 +153,10 @@ TEST(Network, PackWritesNamesFromTheTablesAndCutsTheCount) {
     EXPECT_NE(std::string::npos, Pack(kName, *r).find(c.text)) << c.netMode << " " << c.type;
   }
   const std::string one = Pack(kName, *r);
-  EXPECT_EQ(0u, one.find(R"({ "DefaultInterface" : "", "Domain" : "", "Hostname" : "", "eth0" : { )"
-                         R"("DefaultGateway" : "", "DhcpEnable" : false, "DnsAutoGet" : false, )"
-                         R"("DnsServers" : [ "", "" ], "Enable" : 0, "EnableDhcpReservedIP" : 0, )"))
+  EXPECT_EQ(0u,
+            one.find(R"({ "DefaultInterface" : "", "Domain" : "", "Hostname" : "", "eth0" : { )"
+                     R"("DefaultGateway" : "", "DhcpEnable" : false, "DnsAutoGet" : false, )"
+                     R"("DnsServers" : [ "", "" ], "Enable" : 0, "EnableDhcpReservedIP" : 0, )"))
       << one;
   EXPECT_EQ(std::string::npos, one.find("eth1"));
   r->interfaceCount = 1000;  // a caller's count is cut to the 32 interfaces
@@ -195,7 +199,8 @@ TEST(Network, EnvelopeAndBufferRules) {
   EXPECT_EQ("<failed>", kova_test::PackBytes(kName, r.get(), size - 1));
   const std::string text = Pack(kName, *r);
   std::vector<char> out(text.size() + 1, 'x');
-  EXPECT_EQ(0, KOVA_PacketData(kName, r.get(), size, out.data(), static_cast<uint32_t>(text.size())));
+  EXPECT_EQ(0,
+            KOVA_PacketData(kName, r.get(), size, out.data(), static_cast<uint32_t>(text.size())));
   EXPECT_EQ(0, out[0]);
 }
 

@@ -1,5 +1,7 @@
 // "Ptz" end to end: the serial line indices, the has-flags, homing, the
 // control line that parse never reads, and the "result" rule.
+#include "kova/records/ptz.h"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -9,7 +11,6 @@
 
 #include "config/alarm/alarm_test_util.h"
 #include "kova/kova.h"
-#include "kova/records/ptz.h"
 
 namespace {
 
