@@ -27,6 +27,16 @@ bool PackDescribed(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
+// A record that carries its own size, for a frame that does not clear the
+// buffer: cleared with its size word written (also for a null element),
+// then read like ParseDescribed.
+template <typename Rec>
+bool ParseDescribedSized(const Json::Value& element, const StepContext& ctx,
+                         unsigned char* record) {
+  StartSizedRecord(record, sizeof(Rec));
+  return ParseDescribed<Rec>(element, ctx, record);
+}
+
 // A record that is one bare JSON value (a text, a number): `kField`
 // describes it at offset 0.
 template <const Field& kField>

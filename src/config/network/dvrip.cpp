@@ -3,6 +3,7 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/network/translators.h"
+#include "drivers/described_steps.h"
 #include "drivers/response_frame.h"
 #include "kova/records/network.h"
 
@@ -55,18 +56,15 @@ constexpr Field kDvripFields[] = {
         .Flag(KOVA_AT(DvripConfig, registerServerExPresent)),
 };
 
-bool ParseDvripTable(const Json::Value& table, const StepContext&, unsigned char* record) {
-  ParseFields(table, record, kDvripFields);
-  return true;
-}
+}  // namespace
+}  // namespace kova
 
-bool PackDvripTable(const unsigned char* record, Json::Value& out) {
-  out = Json::Value(Json::objectValue);
-  PackFields(record, out, kDvripFields);
-  return true;
-}
+KOVA_DESCRIBE(DvripConfig, kDvripFields)
 
-constexpr ResponseFrame kFrame = ResponseFrame::For<DvripConfig>(ParseDvripTable, PackDvripTable)
+namespace kova {
+namespace {
+
+constexpr ResponseFrame kFrame = DescribedFrame<DvripConfig>()
                                      .RefuseEmptyText()
                                      .OnNullTable(NullTable::kAllZeroRecord)
                                      .Returned(ReturnedLength::kSetRecord);

@@ -2,6 +2,7 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/network/translators.h"
+#include "drivers/described_steps.h"
 #include "drivers/response_frame.h"
 #include "kova/records/network.h"
 
@@ -34,22 +35,19 @@ constexpr Field kMulticastFields[] = {
         .Count(KOVA_AT(MulticastConfig, rtpCount), CountRule::kTaken),
 };
 
-// The record starts from zero with its own size, also for a missing table.
-bool ParseMulticastTable(const Json::Value& table, const StepContext&, unsigned char* record) {
-  StartSizedRecord(record, sizeof(MulticastConfig));
-  ParseFields(table, record, kMulticastFields);
-  return true;
-}
+}  // namespace
+}  // namespace kova
 
-bool PackMulticastTable(const unsigned char* record, Json::Value& out) {
-  out = Json::Value(Json::objectValue);
-  PackFields(record, out, kMulticastFields);
-  return true;
-}
+KOVA_DESCRIBE(MulticastConfig, kMulticastFields)
 
-// The caller's buffer is written only once the answer is accepted.
+namespace kova {
+namespace {
+
+// The record starts from zero with its own size, also for a missing table;
+// the caller's buffer is written only once the answer is accepted.
 constexpr ResponseFrame kFrame =
-    ResponseFrame::For<MulticastConfig>(ParseMulticastTable, PackMulticastTable)
+    ResponseFrame::For<MulticastConfig>(ParseDescribedSized<MulticastConfig>,
+                                        PackDescribed<MulticastConfig>)
         .Clear(Clearing::kNone)
         .OnNullTable(NullTable::kStep)
         .Returned(ReturnedLength::kSetRecord);

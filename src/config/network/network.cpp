@@ -10,6 +10,7 @@
 #include "common/fields/fields.h"
 #include "common/json/json.h"
 #include "config/network/translators.h"
+#include "drivers/described_steps.h"
 #include "drivers/response_frame.h"
 
 namespace kova {
@@ -78,22 +79,18 @@ constexpr Field kNetworkFields[] = {
     KOVA_CUSTOM(NetworkConfig, interfaces, nullptr, ParseInterfaces, PackInterfaces),
 };
 
-bool ParseNetworkTable(const Json::Value& table, const StepContext&, unsigned char* record) {
-  ParseFields(table, record, kNetworkFields);
-  return true;
-}
+}  // namespace
+}  // namespace kova
 
-bool PackNetworkTable(const unsigned char* record, Json::Value& out) {
-  out = Json::Value(Json::objectValue);
-  PackFields(record, out, kNetworkFields);
-  return true;
-}
+KOVA_DESCRIBE(NetworkConfig, kNetworkFields)
 
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<NetworkConfig>(ParseNetworkTable, PackNetworkTable)
-        .RefuseEmptyText()
-        .OnNullTable(NullTable::kAllZeroRecord)
-        .Returned(ReturnedLength::kSetRecord);
+namespace kova {
+namespace {
+
+constexpr ResponseFrame kFrame = DescribedFrame<NetworkConfig>()
+                                     .RefuseEmptyText()
+                                     .OnNullTable(NullTable::kAllZeroRecord)
+                                     .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace
 

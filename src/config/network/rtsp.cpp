@@ -7,6 +7,7 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/network/translators.h"
+#include "drivers/described_steps.h"
 #include "drivers/response_frame.h"
 #include "kova/records/network.h"
 
@@ -33,24 +34,21 @@ constexpr Field kRtspFields[] = {
     KOVA_GROUP("RtspOverHttp", kTunnel),
 };
 
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(RtspConfig, kRtspFields)
+
+namespace kova {
+namespace {
+
 // The record starts from zero with its own size, also for a missing table.
-bool ParseRtspTable(const Json::Value& table, const StepContext&, unsigned char* record) {
-  StartSizedRecord(record, sizeof(RtspConfig));
-  ParseFields(table, record, kRtspFields);
-  return true;
-}
-
-bool PackRtspTable(const unsigned char* record, Json::Value& out) {
-  out = Json::Value(Json::objectValue);
-  PackFields(record, out, kRtspFields);
-  return true;
-}
-
-constexpr ResponseFrame kFrame = ResponseFrame::For<RtspConfig>(ParseRtspTable, PackRtspTable)
-                                     .IgnoreResult()
-                                     .Clear(Clearing::kNone)
-                                     .OnNullTable(NullTable::kStep)
-                                     .Returned(ReturnedLength::kSetRecord);
+constexpr ResponseFrame kFrame =
+    ResponseFrame::For<RtspConfig>(ParseDescribedSized<RtspConfig>, PackDescribed<RtspConfig>)
+        .IgnoreResult()
+        .Clear(Clearing::kNone)
+        .OnNullTable(NullTable::kStep)
+        .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace
 

@@ -9,6 +9,7 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/ptz/translators.h"
+#include "drivers/described_steps.h"
 #include "drivers/response_frame.h"
 
 namespace kova {
@@ -110,24 +111,27 @@ constexpr Field kPtzFields[] = {
     KOVA_ENUM(PtzConfig, controlMode, "ControlMode", kControlModes).PackOnly(),
 };
 
-bool ParsePtzTable(const Json::Value& table, const StepContext&, unsigned char* record) {
-  ParseFields(table, record, kPtzFields);
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(PtzConfig, kPtzFields)
+
+namespace kova {
+namespace {
+
+bool ParsePtzTable(const Json::Value& table, const StepContext& ctx, unsigned char* record) {
+  ParseDescribed<PtzConfig>(table, ctx, record);
   // The head type is only told apart as positive or not: intended.
   PtzConfig* r = reinterpret_cast<PtzConfig*>(record);
   r->ptzType = r->ptzType > 0 ? 1 : 0;
   return true;
 }
 
-bool PackPtzTable(const unsigned char* record, Json::Value& out) {
-  out = Json::Value(Json::objectValue);
-  PackFields(record, out, kPtzFields);
-  return true;
-}
-
-constexpr ResponseFrame kFrame = ResponseFrame::For<PtzConfig>(ParsePtzTable, PackPtzTable)
-                                     .Result(ResultRule::kFalseFails)
-                                     .OnNullTable(NullTable::kFail)
-                                     .Returned(ReturnedLength::kSetRecord);
+constexpr ResponseFrame kFrame =
+    ResponseFrame::For<PtzConfig>(ParsePtzTable, PackDescribed<PtzConfig>)
+        .Result(ResultRule::kFalseFails)
+        .OnNullTable(NullTable::kFail)
+        .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace
 
