@@ -52,13 +52,13 @@ const ParseName kParseNames[] = {
     {"VideoInMetering", nullptr, 0},
     {"devVideoInput.getCaps", nullptr, 0}, // parse only
     {"TrafficFlowStat", nullptr, 0},
-    {"VideoInOptions", nullptr, 0},
+    {"VideoInOptions", ParseVideoInOptions, sizeof(VideoInOptionsConfig)},
     {"RTSP", ParseRtsp, sizeof(RtspConfig)},
     {"Multicast", ParseMulticast, sizeof(MulticastConfig)},
     {"userManager.getActiveUserInfoAll", nullptr, 0}, // parse only
     {"videoStatServer.getSummary", nullptr, 0}, // parse only
     {"TrafficSnapshotNew", nullptr, 0},
-    {"ChannelTitle", nullptr, 0},
+    {"ChannelTitle", ParseChannelTitle, sizeof(ChannelTitleConfig)},
     {"RecordMode", nullptr, 0},
     {"VideoOut", nullptr, 0},
     {"RemoteDevice", ParseRemoteDevice, sizeof(RemoteDeviceConfig)},
@@ -68,8 +68,8 @@ const ParseName kParseNames[] = {
     {"DisplaySource", nullptr, 0},
     {"Raid", nullptr, 0},
     {"RecordSource", nullptr, 0},
-    {"VideoColor", nullptr, 0},
-    {"VideoWidget", nullptr, 0},
+    {"VideoColor", ParseVideoColor, sizeof(VideoColorConfig)},
+    {"VideoWidget", ParseVideoWidget, sizeof(VideoWidgetConfig)},
     {"StorageGroup", nullptr, 0},
     {"Locales", ParseLocales, sizeof(LocalesConfig)},
     {"Language", ParseLanguage, sizeof(LanguageConfig)},
@@ -137,7 +137,7 @@ const ParseName kParseNames[] = {
     {"MultiBurn", nullptr, 0},
     {"BurnManager.getCaps", nullptr, 0}, // parse only
     {"EncodeEncrypt", nullptr, 0},
-    {"VideoInZoom", nullptr, 0},
+    {"VideoInZoom", ParseVideoInZoom, sizeof(VideoInZoomConfig)},
     {"Snap", ParseSnap, sizeof(SnapConfig)},
     {"ptz.getCurrentProtocolCaps", nullptr, 0}, // parse only
     {"encode.getCaps", nullptr, 0}, // parse only
@@ -145,7 +145,7 @@ const ParseName kParseNames[] = {
     {"AutoStartupDelay", nullptr, 0},
     {"devVideoInput.getCapsEx", nullptr, 0}, // parse only
     {"CANFilter", nullptr, 0},
-    {"VideoInFocus", nullptr, 0},
+    {"VideoInFocus", ParseVideoInFocus, sizeof(VideoInFocusConfig)},
     {"intelli.getCaps.AnalyseMode", nullptr, 0}, // parse only
     {"EncodeAdapt", ParseEncodeAdapt, sizeof(EncodeAdaptConfig)},
     {"VideoAnalyseCalibrate", nullptr, 0},
@@ -161,7 +161,7 @@ const ParseName kParseNames[] = {
     {"InfraredBoardTemplate", nullptr, 0},
     {"InfraredBoard", nullptr, 0},
     {"DeviceKeepAlive", nullptr, 0},
-    {"VideoInExposure", nullptr, 0},
+    {"VideoInExposure", ParseVideoInExposure, sizeof(VideoInExposureConfig)},
     {"AccessControlGeneral", ParseAccessControlGeneral, sizeof(AccessGeneralRecord)},
     {"AccessControl", ParseAccessControl, sizeof(AccessControlConfig)},
     {"Wireless", nullptr, 0},
@@ -239,7 +239,7 @@ const ParseName kParseNames[] = {
     {"DevList", nullptr, 0},
     {"CalibrateMatrix", nullptr, 0},
     {"DefenceAreaDelay", nullptr, 0},
-    {"Lighting", nullptr, 0},
+    {"Lighting", ParseLighting, sizeof(LightingConfig)},
     {"RainBrushMode", nullptr, 0},
     {"EmergencyRecordForPull", nullptr, 0},
     {"AlarmShieldRule", nullptr, 0},
@@ -255,7 +255,7 @@ const ParseName kParseNames[] = {
     {"SmartEncode", ParseSmartEncode, sizeof(SmartEncodeConfig)},
     {"HighSpeed", nullptr, 0},
     {"LowSpeed", nullptr, 0},
-    {"VideoInDefog", nullptr, 0},
+    {"VideoInDefog", ParseVideoInDefog, sizeof(VideoInDefogConfig)},
     {"RTMP", nullptr, 0},
     {"AudioOutEqualizer", nullptr, 0},
     {"AudioOutSuppression", nullptr, 0},

@@ -82,6 +82,20 @@ int ParseObjectMembers(const ResponseFrame& f, const Json::Value& root, const Js
   return 1;
 }
 
+// Whether an array table holds one element per record. For records that
+// are arrays themselves, the first element that is not null decides (a
+// channel left empty, [], must not turn the answer into one record).
+bool ListsChannels(const ResponseFrame& f, const Json::Value& table) {
+  if (!table.isArray()) return false;
+  if (!f.arrayRecords) return true;
+  const uint32_t n = Count(table);
+  for (uint32_t i = 0; i < n; ++i) {
+    const Json::Value& e = Element(table, i);
+    if (!e.isNull()) return e.isArray();
+  }
+  return false;
+}
+
 }  // namespace
 
 uint32_t CallerRecordSize(const void* buf, uint32_t len) {
@@ -148,7 +162,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     if (f.walk == RecordWalk::kObjectMembers) {
       return ParseObjectMembers(f, root, table, out, slots, retLen);
     }
-    const bool perElement = f.walk != RecordWalk::kOne && table.isArray();
+    const bool perElement = f.walk != RecordWalk::kOne && ListsChannels(f, table);
     const uint32_t n = perElement ? std::min(Count(table), slots) : 1;
     // A caller's record shorter than ours is built in a scratch record and
     // copied out as far as the caller's size reaches.

@@ -95,6 +95,10 @@ struct ResponseFrame {
   Clearing clearing = Clearing::kWholeBuffer;
   RecordWalk walk = RecordWalk::kOne;
   bool skipNullElements = false;  // per-channel: a null element leaves its record and is not counted
+  // A record's own JSON is an array (a channel's profiles): a per-channel
+  // table lists channels only when its first non-null element is an array;
+  // otherwise the table is one record.
+  bool arrayRecords = false;
   ReturnedLength returned = ReturnedLength::kSetBytes;
   CopyRule copy = CopyRule::kStrictlyLess;
   PackWalk packWalk = PackWalk::kOne;
@@ -124,6 +128,7 @@ struct ResponseFrame {
     return f;
   }
   constexpr ResponseFrame SkipNullElements() const { auto f = *this; f.skipNullElements = true; return f; }
+  constexpr ResponseFrame ArrayRecords() const { auto f = *this; f.arrayRecords = true; return f; }
   constexpr ResponseFrame Returned(ReturnedLength r) const { auto f = *this; f.returned = r; return f; }
   constexpr ResponseFrame Copy(CopyRule c) const { auto f = *this; f.copy = c; return f; }
   constexpr ResponseFrame Pack(PackWalk w) const { auto f = *this; f.packWalk = w; return f; }

@@ -3,7 +3,7 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/network/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/network.h"
 
@@ -64,10 +64,12 @@ KOVA_DESCRIBE(DvripConfig, kDvripFields)
 namespace kova {
 namespace {
 
-constexpr ResponseFrame kFrame = DescribedFrame<DvripConfig>()
-                                     .RefuseEmptyText()
-                                     .OnNullTable(NullTable::kAllZeroRecord)
-                                     .Returned(ReturnedLength::kSetRecord);
+constexpr const Field& kWhole = DescribedObject<DvripConfig>::kWhole;
+constexpr ResponseFrame kFrame =
+    ResponseFrame::For<DvripConfig>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
+        .RefuseEmptyText()
+        .OnNullTable(NullTable::kAllZeroRecord)
+        .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace
 

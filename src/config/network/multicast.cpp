@@ -2,7 +2,7 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/network/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/network.h"
 
@@ -45,9 +45,10 @@ namespace {
 
 // The record starts from zero with its own size, also for a missing table;
 // the caller's buffer is written only once the answer is accepted.
+constexpr const Field& kWhole = DescribedObject<MulticastConfig>::kWhole;
 constexpr ResponseFrame kFrame =
-    ResponseFrame::For<MulticastConfig>(ParseDescribedSized<MulticastConfig>,
-                                        PackDescribed<MulticastConfig>)
+    ResponseFrame::For<MulticastConfig>(ParseDescribedSized<MulticastConfig, kWhole>,
+                                        PackDescribed<kWhole>)
         .Clear(Clearing::kNone)
         .OnNullTable(NullTable::kStep)
         .Returned(ReturnedLength::kSetRecord);

@@ -10,7 +10,7 @@
 #include "common/fields/fields.h"
 #include "common/json/json.h"
 #include "config/network/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 
 namespace kova {
@@ -87,10 +87,12 @@ KOVA_DESCRIBE(NetworkConfig, kNetworkFields)
 namespace kova {
 namespace {
 
-constexpr ResponseFrame kFrame = DescribedFrame<NetworkConfig>()
-                                     .RefuseEmptyText()
-                                     .OnNullTable(NullTable::kAllZeroRecord)
-                                     .Returned(ReturnedLength::kSetRecord);
+constexpr const Field& kWhole = DescribedObject<NetworkConfig>::kWhole;
+constexpr ResponseFrame kFrame =
+    ResponseFrame::For<NetworkConfig>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
+        .RefuseEmptyText()
+        .OnNullTable(NullTable::kAllZeroRecord)
+        .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace
 

@@ -7,7 +7,7 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/network/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/network.h"
 
@@ -43,8 +43,9 @@ namespace kova {
 namespace {
 
 // The record starts from zero with its own size, also for a missing table.
+constexpr const Field& kWhole = DescribedObject<RtspConfig>::kWhole;
 constexpr ResponseFrame kFrame =
-    ResponseFrame::For<RtspConfig>(ParseDescribedSized<RtspConfig>, PackDescribed<RtspConfig>)
+    ResponseFrame::For<RtspConfig>(ParseDescribedSized<RtspConfig, kWhole>, PackDescribed<kWhole>)
         .IgnoreResult()
         .Clear(Clearing::kNone)
         .OnNullTable(NullTable::kStep)

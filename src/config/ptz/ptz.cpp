@@ -9,7 +9,7 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/ptz/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 
 namespace kova {
@@ -119,19 +119,20 @@ KOVA_DESCRIBE(PtzConfig, kPtzFields)
 namespace kova {
 namespace {
 
+constexpr const Field& kWhole = DescribedObject<PtzConfig>::kWhole;
+
 bool ParsePtzTable(const Json::Value& table, const StepContext& ctx, unsigned char* record) {
-  ParseDescribed<PtzConfig>(table, ctx, record);
+  ParseDescribed<kWhole>(table, ctx, record);
   // The head type is only told apart as positive or not: intended.
   PtzConfig* r = reinterpret_cast<PtzConfig*>(record);
   r->ptzType = r->ptzType > 0 ? 1 : 0;
   return true;
 }
 
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<PtzConfig>(ParsePtzTable, PackDescribed<PtzConfig>)
-        .Result(ResultRule::kFalseFails)
-        .OnNullTable(NullTable::kFail)
-        .Returned(ReturnedLength::kSetRecord);
+constexpr ResponseFrame kFrame = ResponseFrame::For<PtzConfig>(ParsePtzTable, PackDescribed<kWhole>)
+                                     .Result(ResultRule::kFalseFails)
+                                     .OnNullTable(NullTable::kFail)
+                                     .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace
 
