@@ -28,7 +28,7 @@ const PackName kPackNames[] = {
     {"VideoAnalyseRule", nullptr, 0},
     {"VideoAnalyseSource", nullptr, 0},
     {"RainBrush", nullptr, 0},
-    {"TrafficSnapshot", nullptr, 0},
+    {"TrafficSnapshot", PackTrafficSnapshot, sizeof(TrafficSnapshotConfig)},
     {"TrafficSnapshotNew", nullptr, 0},
     {"TrafficGlobal", nullptr, 0},
     {"General", PackGeneral, sizeof(GeneralConfig)},

@@ -29,7 +29,7 @@ const ParseName kParseNames[] = {
     {"devVideoAnalyse.getCaps", nullptr, 0}, // parse only
     {"VideoAnalyseSource", nullptr, 0},
     {"RainBrush", nullptr, 0},
-    {"TrafficSnapshot", nullptr, 0},
+    {"TrafficSnapshot", ParseTrafficSnapshot, sizeof(TrafficSnapshotConfig)},
     {"TrafficGlobal", nullptr, 0},
     {"General", ParseGeneral, sizeof(GeneralConfig)},
     {"FetchMoneyOverTime", nullptr, 0},
