@@ -82,6 +82,20 @@ int ParseObjectMembers(const ResponseFrame& f, const Json::Value& root, const Js
   return 1;
 }
 
+// Whether an array table holds one element per record. For records that
+// are arrays themselves, the first element that is not null decides (a
+// channel left empty, [], must not turn the answer into one record).
+bool ListsChannels(const ResponseFrame& f, const Json::Value& table) {
+  if (!table.isArray()) return false;
+  if (!f.arrayRecords) return true;
+  const uint32_t n = Count(table);
+  for (uint32_t i = 0; i < n; ++i) {
+    const Json::Value& e = Element(table, i);
+    if (!e.isNull()) return e.isArray();
+  }
+  return false;
+}
+
 }  // namespace
 
 uint32_t CallerRecordSize(const void* buf, uint32_t len) {
@@ -89,6 +103,11 @@ uint32_t CallerRecordSize(const void* buf, uint32_t len) {
   if (buf == nullptr || len < sizeof size) return 0;
   std::memcpy(&size, buf, sizeof size);
   return (size < 1 || size > len) ? 0 : size;
+}
+
+void StartSizedRecord(unsigned char* record, uint32_t size) {
+  std::memset(record, 0, size);
+  if (size >= sizeof size) std::memcpy(record, &size, sizeof size);
 }
 
 int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule) {
@@ -104,6 +123,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     if (jsonText == nullptr || outBuf == nullptr || f.parse == nullptr || f.recordSize == 0) {
       return 0;
     }
+    if (f.refuseEmptyText && *jsonText == '\0') return 0;
     unsigned char* out = static_cast<unsigned char*>(outBuf);
     uint32_t stride = f.recordSize;
     if (f.walk == RecordWalk::kCallerSized) {
@@ -117,8 +137,12 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     Json::Value root;
     if (!ReadJson(jsonText, &root)) return 0;
     if (f.result == ResultRule::kMustBeTrue && !ResultIsTrue(root)) return 0;
+    if (f.result == ResultRule::kFalseFails && !Member(root, "result").isNull() &&
+        !ResultIsTrue(root)) {
+      return 0;
+    }
     const Json::Value& table = TableOf(f, root);
-    if (table.isNull()) {
+    if (table.isNull() && f.nullTable != NullTable::kStep) {
       switch (f.nullTable) {
         case NullTable::kFail:
           return 0;
@@ -129,6 +153,8 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
           if (f.clearing == Clearing::kNone) std::memset(out, 0, std::min(stride, outLen));
           ReportLength(f, retLen, stride);
           return 1;
+        case NullTable::kStep:
+          break;
       }
     }
 
@@ -136,7 +162,11 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     if (f.walk == RecordWalk::kObjectMembers) {
       return ParseObjectMembers(f, root, table, out, slots, retLen);
     }
-    const bool perElement = f.walk != RecordWalk::kOne && table.isArray();
+    bool perElement = f.walk != RecordWalk::kOne && ListsChannels(f, table);
+    if (f.walk != RecordWalk::kOne && f.channelAtRoot) {
+      perElement = ToInt32(Member(root, "channel")) < 0;
+      if (perElement && !table.isArray()) return 0;
+    }
     const uint32_t n = perElement ? std::min(Count(table), slots) : 1;
     // A caller's record shorter than ours is built in a scratch record and
     // copied out as far as the caller's size reaches.
@@ -183,15 +213,18 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
       stride = CallerRecordSize(inBuf, inLen);
       if (stride == 0) return 0;
     } else if (inLen < f.recordSize) {
-      return 0;
+      return f.shortInputAsNull ? CopyPacked(Json::Value(), outJson, outLen, f.copy) : 0;
     }
     const uint32_t n = f.packWalk == PackWalk::kOne ? 1 : inLen / stride;
+    if (static_cast<uint64_t>(n) * f.minTextPerRecord > outLen) return 0;
     std::vector<unsigned char> scratch;
     if (stride < f.recordSize) scratch.assign(f.recordSize, 0);
 
     Json::Value root;
     const bool members = f.packWalk == PackWalk::kObjectMembers;
-    const bool array = !members && (n > 1 || f.packArrayAlways);
+    const bool array =
+        !members && (n > 1 || f.packArrayAlways ||
+                     (f.arrayUnlessExactlyOne && f.packWalk != PackWalk::kOne && inLen != stride));
     if (array) root = Json::Value(Json::arrayValue);
     if (members) root = Json::Value(Json::objectValue);
     for (uint32_t i = 0; i < n; ++i) {

@@ -178,37 +178,42 @@ const MemberReader* ReaderOf(const std::string& name, const Json::Value& root) {
   return nullptr;
 }
 
+// Hands each member that selects a reader to it, in member order.
+void ReadMembers(const Json::Value& root, CReqRealPicture* parser) {
+  const platform::CodePagePin pin;  // one code page for every text of the document
+  bool eventsRead = false;
+  ForEachMember(root, [&](const std::string& name, const Json::Value& value) {
+    const MemberReader* m = ReaderOf(name, root);
+    if (m == nullptr) return true;
+    switch (m->kind) {
+      case Kind::kEvents:
+        // The event reader takes the document once, whichever of its
+        // members come first: "Event" wins over "EventList" as it does
+        // for KOVA_ParseAnalyzerEventData.
+        if (!eventsRead) parser->ReadEvents(root);
+        eventsRead = true;
+        break;
+      case Kind::kRecords:
+        ReadRecords(value, *m->reader, parser);
+        break;
+      case Kind::kRules:
+        ReadRules(value, parser);
+        break;
+    }
+    return true;
+  });
+}
+
 }  // namespace
 
 int ParseDocumentByCallback(const char* buf, uint32_t len, KOVA_AnalyzerEventCallback callback,
                             void* user) {
   Json::Value root;
   if (!ReadJson(buf, &root) || !root.isObject()) return 0;
-  const platform::CodePagePin pin;  // one code page for every text of the document
   CReqRealPicture parser;
   parser.protocolVersion = CReqRealPicture::kProtocolVersion;
   parser.parseVersion = CReqRealPicture::kParseVersion;
-  bool eventsRead = false;
-  for (const std::string& name : MemberNames(root)) {
-    const MemberReader* m = ReaderOf(name, root);
-    if (m == nullptr) continue;
-    const Json::Value& value = Member(root, name.c_str());
-    switch (m->kind) {
-      case Kind::kEvents:
-        // The event reader takes the document once, whichever of its
-        // members come first: "Event" wins over "EventList" as it does
-        // for KOVA_ParseAnalyzerEventData.
-        if (!eventsRead) parser.ReadEvents(root);
-        eventsRead = true;
-        break;
-      case Kind::kRecords:
-        ReadRecords(value, *m->reader, &parser);
-        break;
-      case Kind::kRules:
-        ReadRules(value, &parser);
-        break;
-    }
-  }
+  ReadMembers(root, &parser);
   parser.Deliver(callback, user);
   return 1;
 }

@@ -223,15 +223,16 @@ const Json::Value& Null() {
 class MemberIndex {
  public:
   explicit MemberIndex(const Json::Value& obj) : obj_(obj) {
-    ForEachMember(obj, [this](const char* name, size_t length, const Json::Value& value) {
+    ForEachMemberInPlace(obj, [this](const char* name, size_t length, const Json::Value& value) {
       if (n_ == kCapacity) {
         complete_ = false;
-        return;
+        return false;
       }
       uint32_t h = Hash(name, length);
       while (slots_[h] != 0) h = (h + 1) & kSlotMask;
       entries_[n_] = Entry{name, length, &value};
       slots_[h] = static_cast<uint8_t>(++n_);
+      return true;
     });
   }
 

@@ -382,6 +382,18 @@ constexpr Field MakeAllocatedList(const char* key, size_t offset, const Field* e
   return f;
 }
 
+// A JSON object whose members are fields of the enclosing record itself
+// (a flat record read from "RTP": {"StartPort", "EndPort"}): `members`
+// gives offsets in the enclosing record.
+constexpr Field MakeGroup(const char* key, const FieldTable& members) {
+  Field f;
+  f.key = key;
+  f.kind = FieldKind::kObject;
+  f.shape = FieldShape::kNested;
+  f.table = &members;
+  return f;
+}
+
 constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, CustomParse parse,
                            CustomPack pack) {
   Field f;
@@ -414,6 +426,9 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
 // A nested block whose members sit in the enclosing object itself (no key of its own).
 #define KOVA_INLINE(Rec, member) \
   ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(nullptr, offsetof(Rec, member))
+// A nested JSON object over members of the same record: KOVA_GROUP("RTP", kRtpTable),
+// kRtpTable a constexpr FieldTable of the record's own fields.
+#define KOVA_GROUP(key, members) ::kova::MakeGroup(key, members)
 // A tuple of n items of type Item ([x, y]: KOVA_TUPLE(Rec, pt, "Point", int32_t, 2)); by
 // default all n items are required, .MinItems(k) lowers that.
 #define KOVA_TUPLE(Rec, member, key, Item, n)                                                    \

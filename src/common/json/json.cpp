@@ -57,11 +57,6 @@ uint32_t Count(const Json::Value& v) {
   return (v.isArray() || v.isObject()) ? v.size() : 0;
 }
 
-std::vector<std::string> MemberNames(const Json::Value& v) {
-  if (!v.isObject()) return std::vector<std::string>();
-  return v.getMemberNames();
-}
-
 int32_t ToInt32(const Json::Value& v) {
   switch (v.type()) {
     case Json::intValue: {

@@ -31,23 +31,6 @@ bool HasMember(const Json::Value& v, const char* key);
 const Json::Value& Element(const Json::Value& v, uint64_t i);
 // Number of elements of an array or members of an object; 0 otherwise.
 uint32_t Count(const Json::Value& v);
-// The member names of an object, in byte order of the names; empty for any
-// other value.
-std::vector<std::string> MemberNames(const Json::Value& v);
-// Calls fn(name, length, value) for every member of an object, in byte order
-// of the names (a name may hold NULs: use `length`); nothing for any other
-// value. `name` and `value` live as long as `v` is not changed.
-template <typename Fn>
-void ForEachMember(const Json::Value& v, Fn&& fn) {
-  if (!v.isObject()) return;
-  const Json::Value::const_iterator end = v.end();
-  for (Json::Value::const_iterator it = v.begin(); it != end; ++it) {
-    const char* nameEnd = nullptr;
-    const char* name = it.memberName(&nameEnd);
-    if (name == nullptr) continue;
-    fn(name, static_cast<size_t>(nameEnd - name), *it);
-  }
-}
 
 // The four conversions every translator relies on. None fails or throws.
 // Signed 32-bit: null 0; an integer its value when it fits in 32 bits and
@@ -66,6 +49,32 @@ double ToDouble(const Json::Value& v);
 bool ToBool(const Json::Value& v);
 // The text of a string value (embedded NULs kept); "" for any other type.
 std::string ToText(const Json::Value& v);
+
+// Calls `visit(name, length, value)` for each member of an object, in the
+// JSON library's member order (ascending by the bytes of the name), until it
+// returns false; does nothing for any other value. `name` (which may hold
+// NULs: use `length`) and `value` live as long as `obj` is not changed.
+template <typename Visit>
+void ForEachMemberInPlace(const Json::Value& obj, Visit visit) {
+  if (!obj.isObject()) return;
+  const Json::Value::const_iterator end = obj.end();
+  for (Json::Value::const_iterator it = obj.begin(); it != end; ++it) {
+    const char* nameEnd = nullptr;
+    const char* name = it.memberName(&nameEnd);
+    if (name == nullptr) continue;
+    if (!visit(name, static_cast<size_t>(nameEnd - name), *it)) return;
+  }
+}
+
+// Calls `visit(name, value)` for each member of an object, in the JSON
+// library's member order (ascending by the bytes of the name), until it
+// returns false; does nothing for any other value. `name` keeps embedded NULs.
+template <typename Visit>
+void ForEachMember(const Json::Value& obj, Visit visit) {
+  ForEachMemberInPlace(obj, [&visit](const char* name, size_t length, const Json::Value& value) {
+    return visit(std::string(name, length), value);
+  });
+}
 
 // Calls fn(i, element) for the elements of an array in order (i from 0)
 // until fn returns false; nothing for any other value. Cheaper than

@@ -7,7 +7,7 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/access/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "kova/records/access.h"
 
 namespace {
@@ -138,7 +138,7 @@ KOVA_DESCRIBE(AccessControlConfig, kDoorFields)
 namespace kova {
 
 namespace {
-constexpr ResponseFrame kDoors = DescribedFrame<AccessControlConfig>().Walk(RecordWalk::kPerChannel);
+constexpr ResponseFrame kDoors = DescribedObject<AccessControlConfig>::kFrame;
 }  // namespace
 
 int ParseAccessControl(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kDoors, t, o, n, r); }

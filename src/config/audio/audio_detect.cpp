@@ -5,7 +5,7 @@
 #include "common/json/json.h"
 #include "config/alarm/alarm_frame.h"
 #include "config/audio/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "kova/records/audio.h"
 
 namespace {
@@ -67,7 +67,7 @@ KOVA_DESCRIBE(AudioDetectConfig, kAudioDetectFields)
 namespace kova {
 
 namespace {
-constexpr ResponseFrame kAudioDetect = DescribedFrame<AudioDetectConfig>().Walk(RecordWalk::kPerChannel);
+constexpr ResponseFrame kAudioDetect = DescribedObject<AudioDetectConfig>::kFrame;
 }  // namespace
 
 int ParseAudioDetect(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kAudioDetect, t, o, n, r); }

@@ -2,7 +2,7 @@
 // integers, one volume per channel, not objects.
 #include "common/fields/field_table.h"
 #include "config/audio/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "kova/records/audio.h"
 
 namespace kova {
@@ -10,7 +10,7 @@ namespace kova {
 namespace {
 constexpr Field kVolume = KOVA_F(AudioVolumeConfig, volume, nullptr, kInt);
 constexpr ResponseFrame kVolumes =
-    ResponseFrame::For<AudioVolumeConfig>(ParseBareValue<kVolume>, PackBareValue<kVolume>)
+    ResponseFrame::For<AudioVolumeConfig>(ParseDescribed<kVolume>, PackDescribed<kVolume>)
         .Walk(RecordWalk::kPerChannel);
 }  // namespace
 

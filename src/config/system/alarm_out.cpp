@@ -1,7 +1,7 @@
 // "AlarmOut": the alarm output ports (relays) of a device, one record each.
 #include "common/fields/field_table.h"
 #include "config/system/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "kova/records/system.h"
 
 namespace {
@@ -22,7 +22,7 @@ KOVA_DESCRIBE(AlarmOutConfig, kAlarmOutFields)
 namespace kova {
 
 namespace {
-constexpr ResponseFrame kAlarmOut = DescribedFrame<AlarmOutConfig>().Walk(RecordWalk::kPerChannel);
+constexpr ResponseFrame kAlarmOut = DescribedObject<AlarmOutConfig>::kFrame;
 }  // namespace
 
 int ParseAlarmOut(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kAlarmOut, t, o, n, r); }

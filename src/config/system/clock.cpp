@@ -1,7 +1,7 @@
 // "NTP" (clock synchronisation) and "Locales" (time format, daylight saving).
 #include "common/fields/field_table.h"
 #include "config/system/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "kova/records/system.h"
 
 namespace {
@@ -46,8 +46,8 @@ KOVA_DESCRIBE(LocalesConfig, kLocalesFields)
 namespace kova {
 
 namespace {
-constexpr ResponseFrame kNtp = DescribedFrame<NtpConfig>();
-constexpr ResponseFrame kLocales = DescribedFrame<LocalesConfig>();
+constexpr ResponseFrame kNtp = DescribedObject<NtpConfig>::kFrame.Walk(RecordWalk::kOne);
+constexpr ResponseFrame kLocales = DescribedObject<LocalesConfig>::kFrame.Walk(RecordWalk::kOne);
 }  // namespace
 
 int ParseNtp(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kNtp, t, o, n, r); }

@@ -1,7 +1,7 @@
 // "General" (the device's name and login policy) and "Language".
 #include "common/fields/field_table.h"
 #include "config/system/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "kova/records/system.h"
 
 namespace {
@@ -32,9 +32,9 @@ KOVA_DESCRIBE(GeneralConfig, kGeneralFields)
 namespace kova {
 
 namespace {
-constexpr ResponseFrame kGeneral = DescribedFrame<GeneralConfig>();
+constexpr ResponseFrame kGeneral = DescribedObject<GeneralConfig>::kFrame.Walk(RecordWalk::kOne);
 constexpr ResponseFrame kLanguage = ResponseFrame::For<LanguageConfig>(
-    ParseBareValue<kLanguageText>, PackBareValue<kLanguageText>);
+    ParseDescribed<kLanguageText>, PackDescribed<kLanguageText>);
 }  // namespace
 
 int ParseGeneral(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kGeneral, t, o, n, r); }

@@ -2,7 +2,7 @@
 // account alarm mails are sent from).
 #include "common/fields/field_table.h"
 #include "config/system/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "kova/records/system.h"
 
 namespace {
@@ -58,8 +58,8 @@ KOVA_DESCRIBE(EmailConfig, kEmailFields)
 namespace kova {
 
 namespace {
-constexpr ResponseFrame kAutoMaintain = DescribedFrame<AutoMaintainConfig>();
-constexpr ResponseFrame kEmail = DescribedFrame<EmailConfig>();
+constexpr ResponseFrame kAutoMaintain = DescribedObject<AutoMaintainConfig>::kFrame.Walk(RecordWalk::kOne);
+constexpr ResponseFrame kEmail = DescribedObject<EmailConfig>::kFrame.Walk(RecordWalk::kOne);
 }  // namespace
 
 int ParseAutoMaintain(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kAutoMaintain, t, o, n, r); }

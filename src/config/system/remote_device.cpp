@@ -7,7 +7,7 @@
 #include "common/fields/fields.h"
 #include "common/json/json.h"
 #include "config/system/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "kova/records/system.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/system/translators.h"
-#include "drivers/described_steps.h"
+#include "drivers/described_record.h"
 #include "kova/records/system.h"
 
 namespace {
@@ -37,7 +37,7 @@ KOVA_DESCRIBE(SnapConfig, kSnapFields)
 namespace kova {
 
 namespace {
-constexpr ResponseFrame kSnap = DescribedFrame<SnapConfig>().Walk(RecordWalk::kPerChannel);
+constexpr ResponseFrame kSnap = DescribedObject<SnapConfig>::kFrame;
 }  // namespace
 
 int ParseSnap(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kSnap, t, o, n, r); }
