@@ -1,7 +1,10 @@
 #!/bin/sh
 # Runs the command-line tool over every shipped device response: each file
 # samples/NAME.json is parsed as NAME into records, and the records are
-# packed back into the text the device expects.
+# packed back into the text the device expects. Then every event
+# notification in samples/events/ is read by the analyzer event stream and
+# by the parse-by-callback reader, and every other device document there by
+# the parse-by-callback reader.
 set -u
 tool="$1"
 dir="$2"
@@ -37,4 +40,24 @@ for f in "$dir"/*.json; do
 done
 echo
 echo "$ok of $total samples parsed and packed back"
-[ "$ok" -eq "$total" ]
+
+events_total=0
+events_ok=0
+for f in "$dir"/events/*.json; do
+  [ -e "$f" ] || continue
+  case $(basename "$f") in
+    document-*) modes="--by-callback" ;;
+    *) modes="- --by-callback" ;;
+  esac
+  for mode in $modes; do
+    events_total=$((events_total + 1))
+    [ "$mode" = "-" ] && mode=""
+    echo
+    echo "== events${mode:+ $mode} ($f)"
+    # shellcheck disable=SC2086
+    if "$tool" events "$f" $mode; then events_ok=$((events_ok + 1)); else echo "   FAILED"; fi
+  done
+done
+echo
+echo "$events_ok of $events_total event documents read"
+[ "$ok" -eq "$total" ] && [ "$events_ok" -eq "$events_total" ]

@@ -4,6 +4,7 @@
 //   kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N]
 //   kova pack NAME RECORD.bin [--size N]
 //   kova roundtrip NAME FILE [--size N] [--sized] [--channel N]
+//   kova events FILE [--by-callback]           every event (or record) of a notification
 //
 // `--sized` is for the configurations whose records begin with their own
 // size, set by the caller: the record size is written into every slot of
@@ -36,6 +37,9 @@
 #include "api/dispatch.h"
 #include "common/base/log.h"
 #include "common/json/json.h"
+#include "config/analyse/rule_types.h"
+#include "events/event_code_dictionary.h"
+#include "kova/records/events.h"
 
 namespace {
 
@@ -47,6 +51,7 @@ int Usage() {
                "       kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N]\n"
                "       kova pack NAME RECORD.bin [--size N]\n"
                "       kova roundtrip NAME FILE [--size N] [--sized] [--channel N]\n"
+               "       kova events FILE [--by-callback]\n"
                "option: --log FILE  append the library's error reports to FILE\n");
   return 2;
 }
@@ -69,6 +74,7 @@ struct Options {
   std::string output;
   uint32_t size = kDefaultSize;
   bool sized = false;
+  bool byCallback = false;
   bool hasChannel = false;
   int32_t channel = 0;
   bool ok = true;
@@ -87,6 +93,8 @@ Options ParseOptions(int argc, char** argv) {
       o.size = static_cast<uint32_t>(n);
     } else if (a == "--sized") {
       o.sized = true;
+    } else if (a == "--by-callback") {
+      o.byCallback = true;
     } else if (a == "--channel" && i + 1 < argc) {
       char* end = nullptr;
       const long long n = std::strtoll(argv[++i], &end, 10);
@@ -177,6 +185,119 @@ int Pack(const std::string& name, const void* in, uint32_t inLen, uint32_t outLe
   return 0;
 }
 
+// ---- kova events ----------------------------------------------------------
+
+struct EventTally {
+  uint32_t delivered = 0;
+  uint32_t withRecord = 0;
+  uint32_t withoutRecord = 0;
+  uint32_t otherRecords = 0;
+};
+
+const char* ActionName(int32_t action) {
+  switch (action) {
+    case KOVA_EVENT_START:
+      return "Start";
+    case KOVA_EVENT_STOP:
+      return "Stop";
+    default:
+      return "Pulse";
+  }
+}
+
+void PrintEvent(uint32_t code, const void* info) {
+  const char* name = kova::RuleTypeName(code);
+  std::printf("event %3u %-24s", code, name != nullptr ? name : "-");
+  if (info == nullptr) {
+    std::printf(" (no data)\n");
+    return;
+  }
+  const EventCommon& c = *static_cast<const EventCommon*>(info);
+  const char* alarm = kova::EventCodeDictionary::Instance().NameOf(c.dictionaryCode);
+  std::printf(" %-5s channel %d", ActionName(c.action), c.channel);
+  if (alarm != nullptr) std::printf(" alarm 0x%x %s", c.dictionaryCode, alarm);
+  std::printf(" name \"%s\" rule %u event %u utc %u.%03u pts %.0f", c.name, c.ruleId, c.eventId,
+              c.utc, c.utcMs, c.pts);
+  if (c.groupId != 0) std::printf(" group %u %d/%d", c.groupId, c.indexInGroup, c.countInGroup);
+  std::printf(" objects %u", c.objectCount);
+  if (c.objectPresent) std::printf(" object %s#%d", c.object.objectType, c.object.objectId);
+  std::printf("\n");
+}
+
+void PrintOtherRecord(uint32_t code, const void* info, uint32_t size) {
+  if ((code & KOVA_CALLBACK_ANALYSE_RULE) != 0) {
+    const AnalyseRuleHead& r = *static_cast<const AnalyseRuleHead*>(info);
+    const uint32_t type = code & ~KOVA_CALLBACK_ANALYSE_RULE;
+    const char* name = kova::RuleTypeName(type);
+    std::printf("rule  %3u %-24s name \"%s\" enable %u object types %u\n", type,
+                name != nullptr ? name : "-", r.name, r.enable, r.objectTypeCount);
+    return;
+  }
+  switch (code) {
+    case KOVA_CALLBACK_PTZ_STATUS: {
+      const PtzStatusRecord& r = *static_cast<const PtzStatusRecord*>(info);
+      std::printf("ptz status channel %d position %d %d %d preset %d %s\n", r.channel,
+                  r.position[0], r.position[1], r.position[2], r.presetId, r.moveStatus);
+      return;
+    }
+    case KOVA_CALLBACK_FOCUS_STATUS: {
+      const FocusStatusRecord& r = *static_cast<const FocusStatusRecord*>(info);
+      std::printf("focus status channel %d focus %.4f zoom %.4f %s\n", r.channel, r.focus, r.zoom,
+                  r.status);
+      return;
+    }
+    case KOVA_CALLBACK_VIDEO_STAT_SUMMARY: {
+      const VideoStatSummaryRecord& r = *static_cast<const VideoStatSummaryRecord*>(info);
+      std::printf("stat summary channel %d \"%s\" inside %d entered %d exited %d\n", r.channel,
+                  r.ruleName, r.insideNumber, r.entered.total, r.exited.total);
+      return;
+    }
+    case KOVA_CALLBACK_OBJECT: {
+      const EventObject& r = *static_cast<const EventObject*>(info);
+      std::printf("object %s#%d box %d %d %d %d\n", r.objectType, r.objectId, r.boundingBox.left,
+                  r.boundingBox.top, r.boundingBox.right, r.boundingBox.bottom);
+      return;
+    }
+    case KOVA_CALLBACK_TRAFFIC_FLOW_STAT: {
+      const TrafficFlowStatRecord& r = *static_cast<const TrafficFlowStatRecord*>(info);
+      std::printf("traffic flow lane %d vehicles %d average speed %.2f state %d\n", r.lane,
+                  r.vehicles, r.averageSpeed, r.state);
+      return;
+    }
+    default:
+      std::printf("record code 0x%x, %u bytes\n", code, size);
+  }
+}
+
+int KOVA_CALL OnEvent(uint32_t code, const void* info, uint32_t size, const void*, uint32_t,
+                      void* user) {
+  EventTally& tally = *static_cast<EventTally*>(user);
+  ++tally.delivered;
+  if (code >= KOVA_CALLBACK_PTZ_STATUS) {
+    ++tally.otherRecords;
+    PrintOtherRecord(code, info, size);
+    return 0;
+  }
+  ++(info != nullptr ? tally.withRecord : tally.withoutRecord);
+  PrintEvent(code, info);
+  return 0;
+}
+
+int Events(const std::string& file, bool byCallback) {
+  std::string text;
+  if (!ReadFile(file, &text)) {
+    std::fprintf(stderr, "kova: cannot read %s\n", file.c_str());
+    return 1;
+  }
+  EventTally tally;
+  const uint32_t len = static_cast<uint32_t>(text.size());
+  const int rc = byCallback ? KOVA_ParseDataByCallback(text.c_str(), len, OnEvent, &tally)
+                            : KOVA_ParseAnalyzerEventData(text.c_str(), len, OnEvent, &tally);
+  std::printf("%u delivered: %u events with a record, %u without, %u other records (return %d)\n",
+              tally.delivered, tally.withRecord, tally.withoutRecord, tally.otherRecords, rc);
+  return rc != 0 ? 0 : 1;
+}
+
 // Takes every "--log FILE" out of the arguments; the last one names the log.
 // Returns false when "--log" has no FILE after it.
 bool TakeLogOption(std::vector<char*>* args, std::string* logPath) {
@@ -199,6 +320,7 @@ int Run(int argc, char** argv) {
   const Options o = ParseOptions(argc, argv);
   if (!o.ok) return Usage();
   if (cmd == "names" && o.args.empty() && !o.hasChannel) return Names();
+  if (cmd == "events" && o.args.size() == 1 && !o.hasChannel) return Events(o.args[0], o.byCallback);
 
   if (cmd == "parse" && o.args.size() == 2) {
     std::vector<unsigned char> record(o.size);

@@ -85,17 +85,71 @@ KOVA_EXPORT int KOVA_CALL KOVA_ParseData(const char* name, const char* jsonText,
 KOVA_EXPORT int KOVA_CALL KOVA_PacketData(const char* name, const void* inBuf, uint32_t inLen,
                                           char* outJson, uint32_t outLen);
 
-// Reads one analyzer event document (NUL-terminated JSON; `len` is not used
-// to bound it) and calls `callback` once per event, in document order, on
-// the caller's thread, before returning. Returns 0 when `buf` or `callback`
-// is null, otherwise 1 whatever the document held.
+// Reads one analyzer event notification and calls `callback` once per
+// event, in the order of the device's list, on the caller's thread, before
+// returning. Returns 0 when `buf` or `callback` is null (nothing else is
+// done), otherwise 1 whatever the text held: text that is not JSON, an
+// empty list and unknown events all give 1.
+// - `buf` is NUL-terminated JSON; `len` is not used to bound it.
+// - The events are the array "Event" of the root; when "Event" is null or
+//   missing, "EventList"; when both are, "params"."eventList" (a device's
+//   {"method": "client.notifyEventStream", "params": {"eventList": [...]}}).
+//   A list that is not an array gives no events. At most the first 128
+//   entries are looked at (null entries are skipped but count).
+// - Each event's "Code" (at most 128 characters of it) is an analysis type
+//   name, compared without regard to letter case; its code ("CrossLineDetection"
+//   2, "TrafficJunction" 23, ...; 0 for a name that is none) is the callback's
+//   `eventCode`. `eventInfo` is the record of the code's family, declared
+//   with its codes in <kova/records/events.h>, beginning with an EventCommon;
+//   code 0 gets an EventCommon alone.
+// - An event without "Data" is dropped, except "VideoBlind" (339) and
+//   "SnapByTime" (356), which come with a null `eventInfo` and size 0.
+// - The callback runs while the call holds its own lock: it must not call
+//   back into the same call. Each record is freed as soon as its callback
+//   returns.
 KOVA_EXPORT int KOVA_CALL KOVA_ParseAnalyzerEventData(const char* buf, uint32_t len,
                                                       KOVA_AnalyzerEventCallback callback,
                                                       void* user);
 
-// Reads a device document (NUL-terminated JSON) and delivers typed records
-// through `callback` according to the member names at its root. Returns 0
-// when `buf` or `callback` is null.
+// Codes of the records KOVA_ParseDataByCallback delivers besides events.
+#define KOVA_CALLBACK_PTZ_STATUS 0x10001u          // PtzStatusRecord
+#define KOVA_CALLBACK_FOCUS_STATUS 0x10002u        // FocusStatusRecord
+#define KOVA_CALLBACK_VIDEO_STAT_SUMMARY 0x10003u  // VideoStatSummaryRecord
+#define KOVA_CALLBACK_OBJECT 0x10004u              // EventObject
+#define KOVA_CALLBACK_TRAFFIC_FLOW_STAT 0x10005u   // TrafficFlowStatRecord
+// An analysis rule: this bit with the rule's type code below it
+// (KOVA_CALLBACK_ANALYSE_RULE | 2 for "CrossLineDetection"; | 0 for a rule
+// whose "Type" is missing or unknown).
+#define KOVA_CALLBACK_ANALYSE_RULE 0x20000u
+
+// Reads a device document (NUL-terminated JSON; `len` is not used) and
+// delivers typed records through `callback`, chosen by the member names at
+// the document's root, taken in byte order of the names; members that are
+// none of these are passed over. Records are in <kova/records/events.h>.
+//
+//   member                              reader, code: record
+//   "Event", "EventList"                the analyzer events exactly as
+//   (or "params" holding "eventList")   KOVA_ParseAnalyzerEventData reads them,
+//                                       once per document: event code:
+//                                       the family's record
+//   "Ptz"                               KOVA_CALLBACK_PTZ_STATUS: PtzStatusRecord
+//   "FocusStatus"                       KOVA_CALLBACK_FOCUS_STATUS: FocusStatusRecord
+//   "VideoStatSummary"                  KOVA_CALLBACK_VIDEO_STAT_SUMMARY:
+//                                       VideoStatSummaryRecord
+//   "ObjectList"                        KOVA_CALLBACK_OBJECT: EventObject
+//   "TrafficFlowStat",                  KOVA_CALLBACK_TRAFFIC_FLOW_STAT:
+//   "TrafficFlowStatInfo"               TrafficFlowStatRecord
+//   "VideoAnalyse", "VideoAnalyseRule", KOVA_CALLBACK_ANALYSE_RULE | type code:
+//   "VideoSynopsisAnalyseRule"          AnalyseRuleHead, the part every rule
+//                                       record begins with ("Name", "Enable",
+//                                       "TrackEnable", "ObjectTypes")
+//
+// A member other than the events' holds one object (one record) or an array
+// of them (one record per entry that is an object, at most 128; at most 32
+// rules). Every record comes once, in that order, on the caller's thread,
+// under the call's own lock, and is freed when its callback returns.
+// Returns 1 when the text is a JSON object (with or without any of these
+// members), 0 otherwise or when `buf` or `callback` is null.
 KOVA_EXPORT int KOVA_CALL KOVA_ParseDataByCallback(const char* buf, uint32_t len,
                                                    KOVA_AnalyzerEventCallback callback, void* user);
 

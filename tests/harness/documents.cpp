@@ -314,8 +314,10 @@ std::vector<std::string> MalformedTexts(const std::string& realistic) {
 std::vector<std::string> EventDocuments(const std::vector<SampleDocument>& samples) {
   std::vector<std::string> out;
   for (const SampleDocument& d : samples) {
-    if (d.text.find("\"Event\"") != std::string::npos ||
-        d.text.find("\"EventList\"") != std::string::npos) {
+    if (d.path.find("/events/") != std::string::npos ||
+        d.text.find("\"Event\"") != std::string::npos ||
+        d.text.find("\"EventList\"") != std::string::npos ||
+        d.text.find("\"eventList\"") != std::string::npos) {
       out.push_back(d.text);
     }
   }

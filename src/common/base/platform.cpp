@@ -103,6 +103,21 @@ std::string FoldName(const std::string& name) {
 
 namespace {
 
+// Pins held on this thread, and the code page the first of them fixed.
+thread_local int tPins = 0;
+thread_local const internal::CodePage* tPinnedPage = nullptr;
+
+const internal::CodePage& CurrentCodePage() {
+  return tPinnedPage != nullptr ? *tPinnedPage : internal::FollowCodePage();
+}
+
+bool IsAscii(const char* s, size_t n) {
+  for (size_t i = 0; i < n; ++i) {
+    if (static_cast<unsigned char>(s[i]) >= 0x80) return false;
+  }
+  return true;
+}
+
 Conversion Outcome(const internal::CodePage& page, size_t written) {
   Conversion c;
   c.written = written;
@@ -116,14 +131,20 @@ Conversion Outcome(const internal::CodePage& page, size_t written) {
 }  // namespace
 
 Conversion Utf8ToLocal(const char* src, size_t n, char* dst, size_t cap) {
-  const internal::CodePage& page = internal::FollowCodePage();
+  const internal::CodePage& page = CurrentCodePage();
+  if (page.viaUtf8 && IsAscii(src, n)) {
+    // Plain ASCII into UTF-8: every character is one byte, nothing to decode.
+    const size_t w = n < cap ? n : cap;
+    std::memcpy(dst, src, w);
+    return Outcome(page, w);
+  }
   std::vector<char32_t> cps = internal::DecodeUtf8(reinterpret_cast<const unsigned char*>(src), n);
   return Outcome(page, page.viaUtf8 ? internal::EncodeUtf8(cps, dst, cap)
                                     : internal::CodePointsToLocal(cps, dst, cap));
 }
 
 Conversion LocalToUtf8(const char* src, size_t n, char* dst, size_t cap) {
-  const internal::CodePage& page = internal::FollowCodePage();
+  const internal::CodePage& page = CurrentCodePage();
   const std::vector<char32_t> cps =
       page.viaUtf8 ? internal::DecodeUtf8(reinterpret_cast<const unsigned char*>(src), n)
                    : internal::LocalToCodePoints(src, n);
@@ -131,6 +152,16 @@ Conversion LocalToUtf8(const char* src, size_t n, char* dst, size_t cap) {
 }
 
 std::string LocalCodePage() { return internal::ResolveCodePage(); }
+
+CodePagePin::CodePagePin() {
+  // The thread's converter stays as the first pin readied it until the last
+  // pin goes.
+  if (tPins++ == 0) tPinnedPage = &internal::FollowCodePage();
+}
+
+CodePagePin::~CodePagePin() {
+  if (--tPins == 0) tPinnedPage = nullptr;
+}
 
 }  // namespace platform
 }  // namespace kova

@@ -62,6 +62,17 @@ Conversion LocalToUtf8(const char* src, size_t n, char* dst, size_t cap);
 // The name of the local code page as the calling thread sees it now.
 std::string LocalCodePage();
 
+// While one lives on a thread, that thread's conversions use the local code
+// page as it was when the first one was made: one look at the environment
+// and the locale for a whole document instead of one per text field.
+class CodePagePin {
+ public:
+  CodePagePin();
+  ~CodePagePin();
+  CodePagePin(const CodePagePin&) = delete;
+  CodePagePin& operator=(const CodePagePin&) = delete;
+};
+
 // ---- Locks ---------------------------------------------------------------
 
 // A non-recursive mutex; constant-initialised, so a namespace-scope Mutex is

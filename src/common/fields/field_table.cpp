@@ -1,8 +1,11 @@
 #include "common/fields/field_table.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdlib>
 #include <cstring>
 
+#include "common/base/log.h"
 #include "common/fields/fields.h"
 #include "common/json/json.h"
 
@@ -150,6 +153,123 @@ bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
   return false;
 }
 
+// Entries of an allocated list sit behind a header that holds their
+// number, so that release and copies never depend on the count member
+// (a list that keeps slots may count fewer entries than it holds).
+constexpr size_t kEntriesHeader = alignof(std::max_align_t);
+
+unsigned char* AllocateEntries(uint32_t slots, uint32_t size) {
+  void* block = std::calloc(1, kEntriesHeader + static_cast<size_t>(slots) * size);
+  if (block == nullptr) return nullptr;
+  const uint64_t n = slots;
+  std::memcpy(block, &n, sizeof n);
+  return static_cast<unsigned char*>(block) + kEntriesHeader;
+}
+
+unsigned char* LoadPointer(const unsigned char* member) {
+  unsigned char* p;
+  std::memcpy(&p, member, sizeof p);
+  return p;
+}
+
+void StorePointer(unsigned char* member, const unsigned char* p) {
+  std::memcpy(member, &p, sizeof p);
+}
+
+void ReleaseValue(unsigned char* member, const Field& f);
+
+// Frees list `f` of `record` (f.offset and the count inside `record`).
+void ReleaseList(unsigned char* record, const Field& f) {
+  unsigned char* base = record + f.offset;
+  if (!f.allocated) {
+    if (f.element == nullptr) return;
+    if (f.element->shape != FieldShape::kNested && f.element->shape != FieldShape::kList) return;
+    for (uint32_t i = 0; i < f.capacity; ++i) {
+      ReleaseValue(base + static_cast<size_t>(i) * f.size + f.element->offset, *f.element);
+    }
+    return;
+  }
+  unsigned char* entries = LoadPointer(base);
+  if (entries == nullptr) return;
+  const uint32_t slots = AllocatedSlots(entries);
+  for (uint32_t i = 0; i < slots && f.element != nullptr; ++i) {
+    ReleaseValue(entries + static_cast<size_t>(i) * f.size + f.element->offset, *f.element);
+  }
+  std::free(entries - kEntriesHeader);
+  StorePointer(base, nullptr);
+  if (f.count.size != 0) StoreInt(record + f.count.offset, f.count.size, 0);
+}
+
+// Releases one value laid out as `f` describes, starting at `member`.
+void ReleaseValue(unsigned char* member, const Field& f) {
+  if (f.shape == FieldShape::kNested && f.table != nullptr) {
+    ReleaseFields(member, f.table->fields, f.table->count);
+  } else if (f.shape == FieldShape::kList) {
+    // `member` is the list itself; its offset and count sit in the slot around it.
+    ReleaseList(member - f.offset, f);
+  }
+}
+
+const Json::Value& Null() {
+  static const Json::Value kNull;
+  return kNull;
+}
+
+// The members of one object, for a table that looks them up: one walk over
+// the object into a small hash table, then each key found by plain
+// comparisons instead of a search of the JSON library's tree (several
+// times faster on the objects devices send). Members beyond what fits are
+// looked up directly.
+class MemberIndex {
+ public:
+  explicit MemberIndex(const Json::Value& obj) : obj_(obj) {
+    ForEachMemberInPlace(obj, [this](const char* name, size_t length, const Json::Value& value) {
+      if (n_ == kCapacity) {
+        complete_ = false;
+        return false;
+      }
+      uint32_t h = Hash(name, length);
+      while (slots_[h] != 0) h = (h + 1) & kSlotMask;
+      entries_[n_] = Entry{name, length, &value};
+      slots_[h] = static_cast<uint8_t>(++n_);
+      return true;
+    });
+  }
+
+  const Json::Value& Find(const char* key) const {
+    const size_t length = std::strlen(key);
+    for (uint32_t h = Hash(key, length); slots_[h] != 0; h = (h + 1) & kSlotMask) {
+      const Entry& e = entries_[slots_[h] - 1];
+      if (e.length == length && std::memcmp(e.name, key, length) == 0) return *e.value;
+    }
+    return complete_ ? Null() : Member(obj_, key);
+  }
+
+  const Json::Value& object() const { return obj_; }
+
+ private:
+  static constexpr uint32_t kCapacity = 48;
+  static constexpr uint32_t kSlotMask = 63;  // 64 slots: at most three quarters used
+
+  static uint32_t Hash(const char* name, size_t length) {
+    if (length == 0) return 0;
+    const uint32_t first = static_cast<unsigned char>(name[0]);
+    const uint32_t last = static_cast<unsigned char>(name[length - 1]);
+    return (static_cast<uint32_t>(length) * 37u + first * 7u + last) & kSlotMask;
+  }
+
+  struct Entry {
+    const char* name;
+    size_t length;
+    const Json::Value* value;
+  };
+  const Json::Value& obj_;
+  bool complete_ = true;
+  uint32_t n_ = 0;
+  uint8_t slots_[kSlotMask + 1] = {};
+  Entry entries_[kCapacity];
+};
+
 uint32_t LoadCount(const unsigned char* record, const Field& f) {
   if (f.count.size == 0) return f.capacity;
   const int64_t n = LoadInt(record + f.count.offset, f.count.size, false);
@@ -163,17 +283,28 @@ bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
   if (!v.isArray() || f.element == nullptr) return false;
   unsigned char* base = record + f.offset;
   const uint32_t n = Count(v);
+  uint32_t slots = f.capacity;
+  if (f.allocated) {
+    ReleaseList(record, f);
+    slots = std::min(n, f.capacity);
+    base = slots > 0 ? AllocateEntries(slots, f.size) : nullptr;
+    if (slots > 0 && base == nullptr) {
+      if (f.noMemoryReport != nullptr) KOVA_REPORT(kErrMalformedData, "%s", f.noMemoryReport);
+      return false;
+    }
+    StorePointer(record + f.offset, base);
+  }
   uint32_t looked = 0, taken = 0, nonNull = 0;
-  for (uint32_t i = 0; i < n; ++i) {
+  ForEachElement(v, [&](uint32_t i, const Json::Value& e) {
     const uint32_t slot = f.keepSlots ? i : taken;
-    if (slot >= f.capacity) break;
+    if (slot >= slots) return false;
     ++looked;
-    const Json::Value& e = Element(v, i);
-    if (e.isNull()) continue;
+    if (e.isNull()) return true;
     ++nonNull;
     unsigned char* entry = base + static_cast<size_t>(slot) * f.size + f.element->offset;
     if (ParseValue(e, entry, *f.element)) ++taken;
-  }
+    return true;
+  });
   if (f.count.size != 0) {
     const uint32_t c = f.countRule == CountRule::kAll     ? looked
                        : f.countRule == CountRule::kTaken ? taken
@@ -195,8 +326,11 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
       return true;
     case FieldShape::kTuple: {
       if (!value.isArray() || Count(value) < f.minItems) return false;
-      const uint32_t n = std::min(Count(value), f.capacity);
-      for (uint32_t i = 0; i < n; ++i) ParseScalar(Element(value, i), member + i * f.size, f);
+      ForEachElement(value, [&](uint32_t i, const Json::Value& item) {
+        if (i >= f.capacity) return false;
+        ParseScalar(item, member + i * f.size, f);
+        return true;
+      });
       return true;
     }
     case FieldShape::kList: {
@@ -248,6 +382,24 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
   return false;
 }
 
+
+uint32_t AllocatedSlots(const void* entries) {
+  uint64_t n;
+  std::memcpy(&n, static_cast<const unsigned char*>(entries) - kEntriesHeader, sizeof n);
+  return static_cast<uint32_t>(n);
+}
+
+void ReleaseFields(void* record, const Field* fields, size_t count) {
+  unsigned char* base = static_cast<unsigned char*>(record);
+  for (size_t i = 0; i < count; ++i) {
+    const Field& f = fields[i];
+    if (f.shape == FieldShape::kList) {
+      ReleaseList(base, f);
+    } else if (f.shape == FieldShape::kNested) {
+      ReleaseValue(base + f.offset, f);
+    }
+  }
+}
 
 int64_t LoadInt(const void* p, uint32_t size, bool isSigned) {
   switch (size) {
@@ -319,23 +471,50 @@ const char* EnumName(const EnumNames& e, int64_t value) {
   return e.names[i];
 }
 
-void ParseFields(const Json::Value& obj, void* record, const Field* fields, size_t count) {
-  unsigned char* base = static_cast<unsigned char*>(record);
+namespace {
+
+// One field of a table, given its member's value (null: absent or null).
+void ParseOne(const Json::Value& obj, unsigned char* base, const Field& f, const Json::Value& v) {
+  if (f.direction == Direction::kPackOnly) return;
+  if (f.shape == FieldShape::kCustom) {
+    if (f.parse != nullptr) f.parse(obj, base, f);
+    return;
+  }
+  if (v.isNull()) return;
+  const bool read =
+      f.shape == FieldShape::kList ? ParseList(v, base, f) : ParseValue(v, base + f.offset, f);
+  // A scalar that is present counts as present even when its text names
+  // nothing; a block or list of the wrong JSON type does not.
+  if (read || f.shape == FieldShape::kScalar) SetFlag(base, f);
+}
+
+void ParseIndexed(const MemberIndex& members, unsigned char* base, const Field* fields,
+                  size_t count) {
+  const Json::Value& obj = members.object();
   for (size_t i = 0; i < count; ++i) {
     const Field& f = fields[i];
-    if (f.direction == Direction::kPackOnly) continue;
-    if (f.shape == FieldShape::kCustom) {
-      if (f.parse != nullptr) f.parse(obj, base, f);
+    if (f.key == nullptr && f.shape == FieldShape::kNested && f.table != nullptr &&
+        f.direction != Direction::kPackOnly) {
+      // A block whose members sit in this object: the same index serves it.
+      if (!obj.isObject()) continue;
+      ParseIndexed(members, base + f.offset, f.table->fields, f.table->count);
+      SetFlag(base, f);
       continue;
     }
-    const Json::Value& v = Member(obj, f.key);
-    if (v.isNull()) continue;
-    const bool read = f.shape == FieldShape::kList ? ParseList(v, base, f)
-                                                    : ParseValue(v, base + f.offset, f);
-    // A scalar that is present counts as present even when its text names
-    // nothing; a block or list of the wrong JSON type does not.
-    if (read || f.shape == FieldShape::kScalar) SetFlag(base, f);
+    ParseOne(obj, base, f, f.key != nullptr ? members.Find(f.key) : obj);
   }
+}
+
+}  // namespace
+
+void ParseFields(const Json::Value& obj, void* record, const Field* fields, size_t count) {
+  unsigned char* base = static_cast<unsigned char*>(record);
+  if (count == 1 && fields[0].key != nullptr) {
+    // One member to look up: no index is worth building.
+    ParseOne(obj, base, fields[0], Member(obj, fields[0].key));
+    return;
+  }
+  ParseIndexed(MemberIndex(obj), base, fields, count);
 }
 
 void PackFields(const void* record, Json::Value& obj, const Field* fields, size_t count) {
@@ -346,6 +525,13 @@ void PackFields(const void* record, Json::Value& obj, const Field* fields, size_
     if (!Present(base, f)) continue;
     if (f.shape == FieldShape::kCustom) {
       if (f.pack != nullptr) f.pack(base, obj, f);
+      continue;
+    }
+    if (f.allocated) continue;
+    if (f.key == nullptr) {
+      if (f.shape == FieldShape::kNested && f.table != nullptr) {
+        PackFields(base + f.offset, obj, f.table->fields, f.table->count);
+      }
       continue;
     }
     Json::Value v;

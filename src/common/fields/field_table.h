@@ -38,6 +38,21 @@
 // Deliberate irregularities stay hand-written beside the table, either as a
 // custom step (KOVA_CUSTOM) that the walker calls in its turn, or as code
 // around the walker's call, each with a comment saying it is intended.
+//
+// Records the library builds for itself (event records handed to a
+// callback) may hold lists of any length as a pointer and a count:
+//
+//   struct Scene { Zone main; const Zone* zones; uint32_t zoneCount; };
+//   constexpr Field kZoneItem = KOVA_ITEM_NESTED(Zone);
+//   constexpr Field kSceneFields[] = {
+//       KOVA_INLINE(Scene, main),   // Zone's members sit in the scene object itself
+//       KOVA_ALLOCATED_LIST(Scene, zones, "Zones", kZoneItem, 64)
+//           .Count(KOVA_AT(Scene, zoneCount), CountRule::kTaken),
+//   };
+//
+// Parse allocates the entries; ReleaseFields frees them (and whatever their
+// own entries hold) and is the only way to. Pack does not write allocated
+// lists.
 #ifndef KOVA_COMMON_FIELD_TABLE_H_
 #define KOVA_COMMON_FIELD_TABLE_H_
 
@@ -172,6 +187,10 @@ struct Field {
   Slot count = {0, 0};     // kList: count member (size 0: none; pack then writes every slot)
   CountRule countRule = CountRule::kAll;
   bool keepSlots = false;  // kList: element i goes to slot i, a skipped element leaves its slot
+  // kList: the member is a pointer to entries allocated on parse (at most
+  // `capacity`), freed by ReleaseFields; pack leaves such a list out.
+  bool allocated = false;
+  const char* noMemoryReport = nullptr;  // allocated kList: reported when its entries cannot be had
   CustomParse parse = nullptr;  // kCustom
   CustomPack pack = nullptr;    // kCustom
 
@@ -196,6 +215,11 @@ struct Field {
   }
   constexpr Field KeepSlots() const { Field f = *this; f.keepSlots = true; return f; }
   constexpr Field MinItems(uint32_t n) const { Field f = *this; f.minItems = n; return f; }
+  constexpr Field NoMemoryReport(const char* text) const {
+    Field f = *this;
+    f.noMemoryReport = text;
+    return f;
+  }
   constexpr Field Names(const EnumNames& e) const { Field f = *this; f.names = &e; return f; }
 };
 
@@ -209,7 +233,10 @@ struct Description;
 
 // Parse: each field whose member is present and not null is read and its
 // presence flag set. Absent or null members leave the record as it was.
-// Writes only inside the members the table names.
+// Writes only inside the members the table names (and into the entries it
+// allocates for allocated lists: a list read into a record that already
+// holds entries releases them first). A nested field without a key
+// (KOVA_INLINE) reads its members from `obj` itself.
 void ParseFields(const Json::Value& obj, void* record, const Field* fields, size_t count);
 // Pack: each field that is present by its presence rule is written into `obj`.
 // Counts read from the record are cut to the list's capacity.
@@ -229,6 +256,20 @@ template <size_t N>
 void PackFields(const void* record, Json::Value& obj, const Field (&fields)[N]) {
   PackFields(record, obj, fields, N);
 }
+
+// Frees the entries of every allocated list of `record` (of nested blocks
+// and of list entries too, depth first) and sets each such pointer and its
+// count to 0; a record that holds none is left as it was. Safe on a record
+// released before, and on one still all zeros.
+void ReleaseFields(void* record, const Field* fields, size_t count);
+inline void ReleaseFields(void* record, const FieldTable& t) {
+  ReleaseFields(record, t.fields, t.count);
+}
+
+// The number of entries allocated for an allocated list, given its
+// (non-null) pointer: at least its count member, and more when entries
+// were skipped. For code that copies or checks such a record.
+uint32_t AllocatedSlots(const void* entries);
 
 // One value read or written as `f` describes it, without a key: `value`
 // is the member's JSON value itself. ParseValue returns whether an entry
@@ -310,17 +351,34 @@ constexpr Field MakeTuple(const char* key, size_t offset, uint32_t n) {
   return f;
 }
 
-template <typename T>
-constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
-  static_assert(std::is_array<T>::value, "a list member is an array");
+// A list of `capacity` slots of `slotSize` bytes each.
+constexpr Field MakeListOf(const char* key, size_t offset, const Field* element, uint32_t slotSize,
+                           uint32_t capacity) {
   Field f;
   f.key = key;
   f.offset = static_cast<uint32_t>(offset);
-  f.size = static_cast<uint32_t>(sizeof(std::remove_extent_t<T>));
+  f.size = slotSize;
   f.kind = FieldKind::kObject;
   f.shape = FieldShape::kList;
   f.element = element;
-  f.capacity = static_cast<uint32_t>(std::extent<T>::value);
+  f.capacity = capacity;
+  return f;
+}
+
+template <typename T>
+constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
+  static_assert(std::is_array<T>::value, "a list member is an array");
+  return MakeListOf(key, offset, element, static_cast<uint32_t>(sizeof(std::remove_extent_t<T>)),
+                    static_cast<uint32_t>(std::extent<T>::value));
+}
+
+template <typename T>
+constexpr Field MakeAllocatedList(const char* key, size_t offset, const Field* element,
+                                  uint32_t capacity) {
+  static_assert(std::is_pointer<T>::value, "an allocated list member is a pointer to its entries");
+  Field f = MakeListOf(key, offset, element,
+                       static_cast<uint32_t>(sizeof(std::remove_pointer_t<T>)), capacity);
+  f.allocated = true;
   return f;
 }
 
@@ -365,6 +423,9 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
 // A nested object read with its type's own table (see KOVA_DESCRIBE).
 #define KOVA_NESTED(Rec, member, key) \
   ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
+// A nested block whose members sit in the enclosing object itself (no key of its own).
+#define KOVA_INLINE(Rec, member) \
+  ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(nullptr, offsetof(Rec, member))
 // A nested JSON object over members of the same record: KOVA_GROUP("RTP", kRtpTable),
 // kRtpTable a constexpr FieldTable of the record's own fields.
 #define KOVA_GROUP(key, members) ::kova::MakeGroup(key, members)
@@ -379,6 +440,10 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
 // A fixed list: `elementField` (a constexpr Field, see KOVA_ITEM*) describes one entry.
 #define KOVA_LIST(Rec, member, key, elementField) \
   ::kova::MakeList<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member), &(elementField))
+// A list of at most `cap` entries allocated on parse: `member` points at them,
+// .Count(...) names the count member. Freed by ReleaseFields.
+#define KOVA_ALLOCATED_LIST(Rec, member, key, elementField, cap) \
+  ::kova::MakeAllocatedList<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member), &(elementField), cap)
 // A hand-written step over a member (or over the whole record: offset 0, size 0).
 #define KOVA_CUSTOM(Rec, member, key, parseFn, packFn) \
   ::kova::MakeCustom(key, offsetof(Rec, member), KOVA_MEMBER_SIZE(Rec, member), parseFn, packFn)
