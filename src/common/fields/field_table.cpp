@@ -198,12 +198,10 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
       for (uint32_t i = 0; i < n; ++i) ParseScalar(Element(value, i), member + i * f.size, f);
       return true;
     }
-    case FieldShape::kList: {
-      // A list entry that is itself a list: member is the start of its slot.
-      Field inner = f;
-      inner.offset = 0;
-      return ParseList(value, member, inner);
-    }
+    case FieldShape::kList:
+      // A list entry that is itself a list: member is the start of its slot,
+      // f.offset the place of the array in it (after a count, say).
+      return ParseList(value, member, f);
     case FieldShape::kCustom:
       return false;
   }
@@ -230,13 +228,11 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
     }
     case FieldShape::kList: {
       if (f.element == nullptr) return false;
-      Field inner = f;
-      inner.offset = 0;
-      const uint32_t n = LoadCount(member, inner);
+      const uint32_t n = LoadCount(member, f);
       *out = Json::Value(Json::arrayValue);
       for (uint32_t i = 0; i < n; ++i) {
         Json::Value item;
-        if (PackValue(member + static_cast<size_t>(i) * f.size, *f.element, &item)) {
+        if (PackValue(member + f.offset + static_cast<size_t>(i) * f.size, *f.element, &item)) {
           out->append(item);
         }
       }

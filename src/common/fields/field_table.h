@@ -154,7 +154,7 @@ struct Slot {
 
 struct Field {
   const char* key = nullptr;  // JSON member name (unused for list entries)
-  uint32_t offset = 0;        // of the member in the record (0 for a list entry)
+  uint32_t offset = 0;        // of the member in the record (list entry: in its slot, usually 0)
   uint32_t size = 0;          // bytes of the member: of one item for tuples, one slot for lists
   FieldKind kind = FieldKind::kInt;
   FieldShape shape = FieldShape::kScalar;
@@ -310,9 +310,11 @@ constexpr Field MakeTuple(const char* key, size_t offset, uint32_t n) {
   return f;
 }
 
+// A list over an array member; a slot is one element of its first
+// dimension (char[8][16] is a list of eight 16-byte texts).
 template <typename T>
 constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
-  static_assert(std::is_array<T>::value && std::rank<T>::value == 1, "a list member is an array");
+  static_assert(std::is_array<T>::value, "a list member is an array");
   Field f;
   f.key = key;
   f.offset = static_cast<uint32_t>(offset);
