@@ -95,6 +95,10 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     Json::Value root;
     if (!ReadJson(jsonText, &root)) return 0;
     if (f.result == ResultRule::kMustBeTrue && !ResultIsTrue(root)) return 0;
+    if (f.result == ResultRule::kNotFalse && !Member(root, "result").isNull() &&
+        !ResultIsTrue(root)) {
+      return 0;
+    }
     const Json::Value& table = TableOf(f, root);
     if (table.isNull()) {
       switch (f.nullTable) {
@@ -107,6 +111,8 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
           if (f.clearing == Clearing::kNone) std::memset(out, 0, std::min(stride, outLen));
           ReportLength(f, retLen, stride);
           return 1;
+        case NullTable::kStep:
+          break;
       }
     }
 

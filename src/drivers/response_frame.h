@@ -41,7 +41,11 @@ using ParseStep = bool (*)(const Json::Value& element, const StepContext& ctx,
 using PackStep = bool (*)(const unsigned char* record, Json::Value& out);
 
 // Whether "result" decides anything.
-enum class ResultRule : uint8_t { kMustBeTrue, kIgnored };
+enum class ResultRule : uint8_t {
+  kMustBeTrue,
+  kIgnored,
+  kNotFalse,  // only a "result" that is given and false fails
+};
 // Where the records' JSON sits.
 enum class TableAt : uint8_t { kParamsTable, kParams, kRoot };
 // What a missing or null table does.
@@ -49,6 +53,7 @@ enum class NullTable : uint8_t {
   kSucceedEmpty,   // success, no record filled (returned length 0)
   kFail,           // failure
   kAllZeroRecord,  // success with one cleared record
+  kStep,           // the step reads it like any other table (one call, null element)
 };
 // How the caller's buffer is cleared before the text is read.
 enum class Clearing : uint8_t { kWholeBuffer, kRecords, kNone };
@@ -96,6 +101,7 @@ struct ResponseFrame {
     return f;
   }
   constexpr ResponseFrame IgnoreResult() const { auto f = *this; f.result = ResultRule::kIgnored; return f; }
+  constexpr ResponseFrame Result(ResultRule r) const { auto f = *this; f.result = r; return f; }
   constexpr ResponseFrame Table(TableAt t) const { auto f = *this; f.tableAt = t; return f; }
   constexpr ResponseFrame OnNullTable(NullTable n) const { auto f = *this; f.nullTable = n; return f; }
   constexpr ResponseFrame Clear(Clearing c) const { auto f = *this; f.clearing = c; return f; }
