@@ -1,6 +1,8 @@
 // Records of video analysis: the building blocks of detection rules (points,
-// lines and regions, trigger positions, the size filter), the analysis rule
-// records, and the rule list of "VideoAnalyseRule" / "AudioAnalyseRule".
+// lines and regions, trigger positions, the size filter), the line and
+// region crossing rules, and the rule list of "VideoAnalyseRule" /
+// "AudioAnalyseRule". The records of the other rule types are in
+// kova/records/analyse_rules.h and kova/records/analyse_traffic_rules.h.
 //
 // Every rule record begins with the same head (RuleHead), then the type's
 // own leading fields, then the common linkage part (RuleLinkage: the alarm
@@ -10,12 +12,13 @@
 //
 // Adding a rule type (for the library's developers; the steps live in
 // src/config/analyse/rule_config.h):
-//   1. here: the record, `RuleHead head;` first, `RuleLinkage linkage;`
+//   1. here or in the rule headers: the record, `RuleHead head;` first
+//      (`AudioRuleHead head;` for an audio rule), `RuleLinkage linkage;`
 //      after the leading fields, with static_asserts on its size (the body
 //      size of its type code) and on the offsets of its fields;
 //   2. a constexpr field table of its "Config" keys over the record, with
 //      the shared blocks below (KOVA_POINT_LIST, KOVA_TRIGGER_POSITIONS,
-//      KOVA_NESTED of SizeFilterBlock) and the enumeration tables of
+//      KOVA_NAME_LIST, KOVA_SIZE_FILTER) and the enumeration tables of
 //      src/common/blocks/analyse_blocks.h;
 //   3. `RuleType::Of<TheRule>(table)` bound to its code in the row of
 //      RuleConfigTable (src/config/analyse/rule_config.cpp).
@@ -39,6 +42,8 @@ enum {
   KOVA_MAX_TRIGGER_POSITIONS = 8,       // "TriggerPosition" entries read
   KOVA_SIZE_FILTER_MAX_BOXES = 10,      // entries of each calibration box list
   KOVA_CROSS_REGION_MAX_ACTIONS = 4,    // "Action" entries read
+  KOVA_DIRECTION_LINE_POINTS = 2,       // points of a DirectionLine
+  KOVA_MAX_DETECT_TYPES = 4,            // entries of a "DetectType" list read
   KOVA_RULE_LIST_MAX_RULES = 32,        // rules read from one rule list
   KOVA_RULE_ENTRY_HEADER_SIZE = 12,     // bytes of RuleEntryHeader
 };
@@ -64,6 +69,16 @@ typedef struct PointList {
   uint32_t pointCount;
   Point points[20];
 } PointList;
+
+// A direction drawn as an arrow, [[x0, y0], [x1, y1]]: travel from the
+// first point towards the last. The "Direction" of the rules that do not
+// name their directions (retrograde, people counting, rising and standing
+// up, the traffic rules). At most 2 points are read, by the point rule of
+// PointList; on pack the first pointCount slots (cut to 2) are written.
+typedef struct DirectionLine {
+  uint32_t pointCount;
+  Point points[2];
+} DirectionLine;
 
 // Where on a target the trigger is judged: "TriggerPosition" entries.
 enum {
@@ -154,6 +169,47 @@ typedef struct SizeFilterBlock {
   CalibrateBox ratioCalibrateBoxs[10];
 } SizeFilterBlock;
 
+// The size filter without its calibration box lists: the same members, at
+// the same places, as the start of SizeFilterBlock. Held by the one rule
+// whose record has no room for the whole block (PrisonerRiseRule); the box
+// lists of its "SizeFilter" are not read and not written. 104 bytes,
+// 8-byte aligned.
+typedef struct SizeFilterSettings {
+  uint8_t measureModePresent;
+  uint8_t typePresent;
+  uint8_t minSizePresent;
+  uint8_t maxSizePresent;
+  uint8_t calibrateBoxsPresent;       // always 0: the box lists are not kept
+  uint8_t areaCalibrateBoxsPresent;   // always 0
+  uint8_t ratioCalibrateBoxsPresent;  // always 0
+  uint8_t byAreaPresent;
+  uint8_t minAreaPresent;
+  uint8_t maxAreaPresent;
+  uint8_t minAreaSizePresent;
+  uint8_t maxAreaSizePresent;
+  uint8_t byRatioPresent;
+  uint8_t minRatioPresent;
+  uint8_t maxRatioPresent;
+  uint8_t minRatioSizePresent;
+  uint8_t maxRatioSizePresent;
+  uint8_t bySizePresent;
+  uint8_t byArea;        // "ByArea" (0/1)
+  uint8_t byRatio;       // "ByRatio" (0/1)
+  uint8_t bySize;        // "BySize" (0/1)
+  int32_t measureMode;   // "MeasureMode", KOVA_MEASURE_*
+  int32_t type;          // "Type", KOVA_SIZE_FILTER_*
+  float minSize[2];      // "MinSize" [w, h]
+  float maxSize[2];      // "MaxSize" [w, h]
+  float minArea;         // "MinArea"
+  float maxArea;         // "MaxArea"
+  float minAreaSize[2];  // "MinAreaSize" [w, h]
+  float maxAreaSize[2];  // "MaxAreaSize" [w, h]
+  double minRatio;       // "MinRatio"
+  double maxRatio;       // "MaxRatio"
+  float minRatioSize[2];  // "MinRatioSize" [w, h]
+  float maxRatioSize[2];  // "MaxRatioSize" [w, h]
+} SizeFilterSettings;
+
 // ---------------------------------------------------------------------------
 // Analysis rules.
 
@@ -167,6 +223,14 @@ typedef struct RuleHead {
   // empty but is counted.
   char objectTypes[16][128];
 } RuleHead;
+
+// The head of an audio rule ("AudioAbnormalDetection"): RuleHead without
+// the object types, which an audio rule has none of.
+typedef struct AudioRuleHead {
+  char name[128];       // "Name", local code page
+  uint8_t enable;       // "Enable" (0/1)
+  uint8_t trackEnable;  // "TrackEnable" (0/1) of the rule object
+} AudioRuleHead;
 
 // The part every rule record holds after its own leading fields.
 typedef struct RuleLinkage {
@@ -297,9 +361,9 @@ typedef struct RuleEntryHeader {
 //   short of their sum the parse fails with the rule buffer untouched;
 // - no rules: success, the rule buffer untouched (it may be null);
 // - otherwise the whole rule buffer (all ruleBufferLength bytes) is cleared
-//   and the entries are written. A rule without "Type", or one whose type
-//   the library does not lay out yet, then fails the parse: the entries
-//   before it stay written, the rest of the buffer cleared;
+//   and the entries are written. A rule without "Type" then fails the
+//   parse: the entries before it stay written, the rest of the buffer
+//   cleared;
 // - "Class" gives sceneClass; an unknown class reads as KOVA_SCENE_NONE and
 //   is reported to the error log, without failing;
 // - on success *retLen = sizeof(VideoAnalyseRuleList); the pointer and the
@@ -308,12 +372,13 @@ typedef struct RuleEntryHeader {
 // Pack (KOVA_PacketData(name, &list, sizeof list, text, textLen)): walks
 // ruleCount entries within ruleBufferLength and writes an array with one
 // object per rule: "Name", "Enable", "TrackEnable", "PtzPresetId",
-// "ObjectTypes", "Type" (the type's first name), "Class", "EventHandler"
-// (with "TimeSection" from the 7 x 10 grid) and "Config". It refuses (text
-// cleared, 0) when the buffer is null with ruleCount > 0, when an entry's
-// header or body would pass the end of the buffer, when bodySize differs
-// from the body size of its type, or when the library does not lay out the
-// type. The text is copied only when strictly shorter than textLen.
+// "ObjectTypes" (not for an audio rule), "Type" (the type's first name),
+// "Class", "EventHandler" (with "TimeSection" from the 7 x 10 grid) and
+// "Config". It refuses (text cleared, 0) when the buffer is null with
+// ruleCount > 0, when an entry's header or body would pass the end of the
+// buffer, or when bodySize differs from the body size of its type (a type
+// the list does not carry has none). The text is copied only when strictly
+// shorter than textLen.
 typedef struct VideoAnalyseRuleList {
   uint32_t ruleCount;         // out on parse, in on pack: entries in ruleBuffer
   uint8_t* ruleBuffer;        // caller's buffer of entries
@@ -326,6 +391,7 @@ typedef struct VideoAnalyseRuleList {
 static_assert(sizeof(Point) == 8, "Point layout");
 static_assert(sizeof(PointList) == 164, "PointList layout");
 static_assert(sizeof(TriggerPositions) == 12, "TriggerPositions layout");
+static_assert(sizeof(DirectionLine) == 20, "DirectionLine layout");
 static_assert(sizeof(CalibrateBox) == 12, "CalibrateBox layout");
 static_assert(sizeof(SizeFilterBlock) == 480, "SizeFilterBlock layout");
 static_assert(alignof(SizeFilterBlock) == 8, "SizeFilterBlock layout");
@@ -333,15 +399,30 @@ static_assert(offsetof(SizeFilterBlock, measureMode) == 24, "SizeFilterBlock lay
 static_assert(offsetof(SizeFilterBlock, minRatio) == 72, "SizeFilterBlock layout");
 static_assert(offsetof(SizeFilterBlock, calibrateBoxCount) == 104, "SizeFilterBlock layout");
 static_assert(offsetof(SizeFilterBlock, ratioCalibrateBoxs) == 356, "SizeFilterBlock layout");
+static_assert(sizeof(SizeFilterSettings) == 104, "SizeFilterSettings layout");
+static_assert(alignof(SizeFilterSettings) == 8, "SizeFilterSettings layout");
+static_assert(offsetof(SizeFilterSettings, measureMode) == offsetof(SizeFilterBlock, measureMode),
+              "SizeFilterSettings opens like SizeFilterBlock");
+static_assert(offsetof(SizeFilterSettings, minRatio) == offsetof(SizeFilterBlock, minRatio),
+              "SizeFilterSettings opens like SizeFilterBlock");
+static_assert(offsetof(SizeFilterSettings, maxRatioSize) == offsetof(SizeFilterBlock, maxRatioSize),
+              "SizeFilterSettings opens like SizeFilterBlock");
 
 static_assert(sizeof(RuleHead) == 2184, "RuleHead layout");
 static_assert(offsetof(RuleHead, enable) == 128, "RuleHead layout");
 static_assert(offsetof(RuleHead, trackEnable) == 129, "RuleHead layout");
 static_assert(offsetof(RuleHead, objectTypeCount) == 132, "RuleHead layout");
 static_assert(offsetof(RuleHead, objectTypes) == 136, "RuleHead layout");
+static_assert(sizeof(AudioRuleHead) == 130, "AudioRuleHead layout");
 static_assert(sizeof(RuleLinkage) == 339088, "RuleLinkage layout");
 static_assert(offsetof(RuleLinkage, timeSection) == 337124, "RuleLinkage layout");
 static_assert(offsetof(RuleLinkage, ptzPresetId) == 339084, "RuleLinkage layout");
+
+// A rule record is the body size of its type codes, and its linkage part
+// sits where its leading keys end.
+#define KOVA_RULE_LAYOUT(Rec, bodySize, linkageAt)                                  \
+  static_assert(sizeof(Rec) == (bodySize), #Rec " is the body size of its types"); \
+  static_assert(offsetof(Rec, linkage) == (linkageAt), #Rec " layout")
 
 static_assert(sizeof(CrossLineRule) == 341944, "CrossLineRule layout");
 static_assert(offsetof(CrossLineRule, direction) == 2184, "CrossLineRule layout");

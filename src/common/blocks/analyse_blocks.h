@@ -25,14 +25,16 @@ namespace kova {
 // One [x, y] entry: taken only when it is an array of at least two items.
 inline constexpr Field kPointItem = KOVA_ITEM_TUPLE(Point, int32_t, kInt, 2);
 
-// A PointList member under `key`: entry i goes to slot i whether or not it
-// is taken, pointCount counts the points taken (the point rule).
+// A PointList (or DirectionLine) member under `key`: entry i goes to slot
+// i whether or not it is taken, pointCount counts the points taken (the
+// point rule).
 template <typename T>
 constexpr Field PointListField(const char* key, size_t offset) {
-  static_assert(std::is_same<T, PointList>::value, "KOVA_POINT_LIST needs a PointList member");
-  using Points = decltype(PointList::points);
-  return MakeList<Points>(key, offset + offsetof(PointList, points), &kPointItem)
-      .Count(Slot{static_cast<uint32_t>(offset + offsetof(PointList, pointCount)),
+  static_assert(std::is_same<T, PointList>::value || std::is_same<T, DirectionLine>::value,
+                "KOVA_POINT_LIST needs a PointList or DirectionLine member");
+  using Points = decltype(T::points);
+  return MakeList<Points>(key, offset + offsetof(T, points), &kPointItem)
+      .Count(Slot{static_cast<uint32_t>(offset + offsetof(T, pointCount)),
                   static_cast<uint32_t>(sizeof(uint32_t))},
              CountRule::kTaken)
       .KeepSlots();
@@ -63,6 +65,14 @@ constexpr Field TriggerPositionsField(const char* key, size_t offset) {
 #define KOVA_TRIGGER_POSITIONS(Rec, member, key) \
   ::kova::TriggerPositionsField<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
 
+// A list of names into `uint8_t member[N]` with its count in `count`:
+// entry i to slot i, the count of non-null entries among the first N, a
+// name that matches nothing counted and left 0 ("DetectType", "Action").
+#define KOVA_NAME_LIST(Rec, member, count, key, itemField)     \
+  KOVA_LIST(Rec, member, key, itemField)                       \
+      .Count(KOVA_AT(Rec, count), ::kova::CountRule::kNonNull) \
+      .KeepSlots()
+
 // "Direction" of line rules and of region rules.
 inline constexpr const char* kLineDirectionNames[] = {"LeftToRight", "RightToLeft", "Both"};
 inline constexpr EnumNames kLineDirections = EnumNames::Of(kLineDirectionNames);
@@ -88,16 +98,16 @@ namespace kova {
 inline constexpr Field kCalibrateBoxItem = KOVA_ITEM_NESTED(CalibrateBox);
 
 // A calibration box list: entry i to slot i, the count of entries looked at.
-#define KOVA_SIZE_FILTER_BOXES(member, count, key)                                    \
-  KOVA_LIST(SizeFilterBlock, member, key, kCalibrateBoxItem)                          \
-      .Count(KOVA_AT(SizeFilterBlock, count), CountRule::kAll)                        \
-      .KeepSlots()                                                                    \
+#define KOVA_SIZE_FILTER_BOXES(member, count, key)             \
+  KOVA_LIST(SizeFilterBlock, member, key, kCalibrateBoxItem)   \
+      .Count(KOVA_AT(SizeFilterBlock, count), CountRule::kAll) \
+      .KeepSlots()                                             \
       .Flag(KOVA_AT(SizeFilterBlock, member##Present))
 
 // A size filter member flagged in its own xxxPresent field.
 #define KOVA_SIZE_FILTER_F(member, key, KIND) \
   KOVA_F(SizeFilterBlock, member, key, KIND).Flag(KOVA_AT(SizeFilterBlock, member##Present))
-#define KOVA_SIZE_FILTER_PAIR(member, key)                      \
+#define KOVA_SIZE_FILTER_PAIR(member, key)                     \
   KOVA_TUPLE_OF(SizeFilterBlock, member, key, float, kReal, 2) \
       .Flag(KOVA_AT(SizeFilterBlock, member##Present))
 
@@ -108,9 +118,6 @@ inline constexpr Field kSizeFilterFields[] = {
         .Flag(KOVA_AT(SizeFilterBlock, typePresent)),
     KOVA_SIZE_FILTER_PAIR(minSize, "MinSize"),
     KOVA_SIZE_FILTER_PAIR(maxSize, "MaxSize"),
-    KOVA_SIZE_FILTER_BOXES(calibrateBoxs, calibrateBoxCount, "CalibrateBoxs"),
-    KOVA_SIZE_FILTER_BOXES(areaCalibrateBoxs, areaCalibrateBoxCount, "AreaCalibrateBoxs"),
-    KOVA_SIZE_FILTER_BOXES(ratioCalibrateBoxs, ratioCalibrateBoxCount, "RatioCalibrateBoxs"),
     KOVA_SIZE_FILTER_F(byArea, "ByArea", kBool),
     KOVA_SIZE_FILTER_F(minArea, "MinArea", kReal),
     KOVA_SIZE_FILTER_F(maxArea, "MaxArea", kReal),
@@ -122,7 +129,27 @@ inline constexpr Field kSizeFilterFields[] = {
     KOVA_SIZE_FILTER_PAIR(minRatioSize, "MinRatioSize"),
     KOVA_SIZE_FILTER_PAIR(maxRatioSize, "MaxRatioSize"),
     KOVA_SIZE_FILTER_F(bySize, "BySize", kBool),
+    // The box lists come last: the entries above also describe
+    // SizeFilterSettings, which opens like SizeFilterBlock.
+    KOVA_SIZE_FILTER_BOXES(calibrateBoxs, calibrateBoxCount, "CalibrateBoxs"),
+    KOVA_SIZE_FILTER_BOXES(areaCalibrateBoxs, areaCalibrateBoxCount, "AreaCalibrateBoxs"),
+    KOVA_SIZE_FILTER_BOXES(ratioCalibrateBoxs, ratioCalibrateBoxCount, "RatioCalibrateBoxs"),
 };
+inline constexpr size_t kSizeFilterSettingsFieldCount =
+    sizeof kSizeFilterFields / sizeof kSizeFilterFields[0] - 3;
+
+// True when the first `n` entries of `fields` lie within `size` bytes.
+constexpr bool FieldsWithin(const Field* fields, size_t n, size_t size) {
+  for (size_t i = 0; i < n; ++i) {
+    const Field& f = fields[i];
+    const size_t items = f.shape == FieldShape::kTuple ? f.capacity : 1;
+    if (f.offset + f.size * items > size || f.flag.offset + f.flag.size > size) return false;
+  }
+  return true;
+}
+static_assert(FieldsWithin(kSizeFilterFields, kSizeFilterSettingsFieldCount,
+                           sizeof(SizeFilterSettings)),
+              "the size filter's settings lie before its box lists");
 
 #undef KOVA_SIZE_FILTER_BOXES
 #undef KOVA_SIZE_FILTER_F
@@ -130,7 +157,20 @@ inline constexpr Field kSizeFilterFields[] = {
 
 }  // namespace kova
 
-// "SizeFilter" is read with KOVA_NESTED(Rec, sizeFilter, "SizeFilter").
+// "SizeFilter" is read with KOVA_NESTED(Rec, sizeFilter, "SizeFilter"), or
+// with KOVA_SIZE_FILTER(Rec) for a record's `sizeFilter` flagged in its
+// `sizeFilterPresent`.
+#define KOVA_SIZE_FILTER(Rec) \
+  KOVA_NESTED(Rec, sizeFilter, "SizeFilter").Flag(KOVA_AT(Rec, sizeFilterPresent))
 KOVA_DESCRIBE(SizeFilterBlock, kova::kSizeFilterFields)
+
+namespace kova {
+// The size filter without its box lists: the leading entries of the
+// block's table, whose offsets are the same in both records.
+template <>
+struct Description<SizeFilterSettings> {
+  static constexpr FieldTable table{kSizeFilterFields, kSizeFilterSettingsFieldCount};
+};
+}  // namespace kova
 
 #endif  // KOVA_COMMON_ANALYSE_BLOCKS_H_

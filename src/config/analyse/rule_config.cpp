@@ -51,81 +51,94 @@ constexpr Field kRuleLinkageFields[] = {
     KOVA_F(RuleLinkage, ptzPresetId, "PtzPresetId", kInt),
 };
 
+// An audio rule's head: no object types.
+constexpr Field kAudioRuleHeadFields[] = {
+    KOVA_F(AudioRuleHead, name, "Name", kText),
+    KOVA_F(AudioRuleHead, enable, "Enable", kBool),
+    KOVA_F(AudioRuleHead, trackEnable, "TrackEnable", kBool),
+};
+
 }  // namespace
 
-// Rows in the devices' table order; a null type is not laid out yet.
+const FieldTable kRuleHeadTable{kRuleHeadFields,
+                                sizeof kRuleHeadFields / sizeof kRuleHeadFields[0]};
+const FieldTable kAudioRuleHeadTable{kAudioRuleHeadFields,
+                                     sizeof kAudioRuleHeadFields / sizeof kAudioRuleHeadFields[0]};
+
+// Rows in the devices' table order; a type serving several codes is in
+// each of their rows.
 const RuleConfigRow kRuleConfigTable[] = {
-    {2, &kCrossLineRuleType},  // "CrossLineDetection"
-    {287, nullptr},            // "CrossFenceDetection"
-    {3, &kCrossRegionRuleType},  // "CrossRegionDetection"
-    {12, nullptr},   // "FireDetection"
-    {13, nullptr},   // "SmokeDetection"
-    {4, nullptr},    // "PasteDetection"
-    {8, nullptr},    // "Preservation"
-    {10, nullptr},   // "TailDetection"
-    {272, nullptr},  // "ElectroSparkDetection"
-    {14, nullptr},   // "FightDetection"
-    {9, nullptr},    // "MoveDetection"
-    {6, nullptr},    // "StayDetection"
-    {7, nullptr},    // "WanderDetection"
-    {5, nullptr},    // "LeftDetection"
-    {277, nullptr},  // "TakenAwayDetection"
-    {278, nullptr},  // "ParkingDetection"
-    {11, nullptr},   // "RioterDetection"
-    {15, nullptr},   // "FlowStat"
-    {16, nullptr},   // "NumberStat"
-    {275, nullptr},  // "RetrogradeDetection"
-    {274, nullptr},  // "RunDetection"
-    {19, nullptr},   // "VideoAbnormalDetection"
-    {279, nullptr},  // "FaceRecognition"
-    {21, nullptr},   // "TrafficControl"
-    {22, nullptr},   // "TrafficAccident"
-    {23, nullptr},   // "TrafficJunction"
-    {24, nullptr},   // "TrafficGate"
-    {26, nullptr},   // "FaceDetection"
-    {27, nullptr},   // "TrafficJam"
-    {303, nullptr},  // "TrafficIdle"
-    {264, nullptr},  // "TrafficParking"
-    {256, nullptr},  // "TrafficRunRedLight"
-    {265, nullptr},  // "TrafficWrongRoute"
-    {266, nullptr},  // "TrafficCrossLane"
-    {257, nullptr},  // "TrafficOverLine"
-    {259, nullptr},  // "TrafficTurnLeft"
-    {260, nullptr},  // "TrafficTurnRight"
-    {270, nullptr},  // "TrafficYellowPlateInLane", "TrafficYellowInRoute"
-    {283, nullptr},  // "TrafficVehicleInRoute"
-    {293, nullptr},  // "TrafficBacking"
-    {292, nullptr},  // "TrafficVehicleInBusRoute"
-    {267, nullptr},  // "TrafficOverYellowLine"
-    {261, nullptr},  // "TrafficU-Turn"
-    {262, nullptr},  // "TrafficOverSpeed"
-    {263, nullptr},  // "TrafficUnderSpeed"
-    {286, nullptr},  // "PrisonerRiseDetection"
-    {288, nullptr},  // "TrafficTollGate"
-    {258, nullptr},  // "TrafficRetrograde"
-    {271, nullptr},  // "TrafficPedestrainPriority"
-    {291, nullptr},  // "QueueDetection"
-    {294, nullptr},  // "AudioAbnormalDetection"
-    {296, nullptr},  // "ClimbDetection"
-    {297, nullptr},  // "LeaveDetection"
-    {298, nullptr},  // "TrafficParkingOnYellowBox"
-    {299, nullptr},  // "TrafficParkingSpaceParking"
-    {300, nullptr},  // "TrafficParkingSpaceNoParking"
-    {308, nullptr},  // "TrafficParkingSpaceOverLine"
-    {312, nullptr},  // "TrafficWithoutSafeBelt"
-    {313, nullptr},  // "TrafficDriverSmoking"
-    {314, nullptr},  // "TrafficDriverCalling"
-    {301, nullptr},  // "TrafficPedestrain"
-    {302, nullptr},  // "TrafficThrow"
-    {341, nullptr},  // "GetOutBedDetection"
-    {342, nullptr},  // "PatrolDetection"
-    {343, nullptr},  // "OnDutyDetection"
-    {351, nullptr},  // "HeatMap"
-    {315, nullptr},  // "TrafficPedestrianRunRedLight"
-    {316, nullptr},  // "TrafficPassNotInOrder"
-    {514, nullptr},  // "VehicleAnalyse"
-    {359, nullptr},  // "StandUpDetection"
-    {362, nullptr},  // "ShootingScoreRecognition"
+    {2, &kCrossLineRuleType},                // "CrossLineDetection"
+    {287, &kCrossFenceRuleType},             // "CrossFenceDetection"
+    {3, &kCrossRegionRuleType},              // "CrossRegionDetection"
+    {12, &kFireRuleType},                    // "FireDetection"
+    {13, &kFireRuleType},                    // "SmokeDetection"
+    {4, &kFireRuleType},                     // "PasteDetection"
+    {8, &kPreservationRuleType},             // "Preservation"
+    {10, &kPreservationRuleType},            // "TailDetection"
+    {272, &kPreservationRuleType},           // "ElectroSparkDetection"
+    {14, &kFightRuleType},                   // "FightDetection"
+    {9, &kMoveRuleType},                     // "MoveDetection"
+    {6, &kStayRuleType},                     // "StayDetection"
+    {7, &kStayRuleType},                     // "WanderDetection"
+    {5, &kLeftRuleType},                     // "LeftDetection"
+    {277, &kLeftRuleType},                   // "TakenAwayDetection"
+    {278, &kLeftRuleType},                   // "ParkingDetection"
+    {11, &kRioterRuleType},                  // "RioterDetection"
+    {15, &kFlowStatRuleType},                // "FlowStat"
+    {16, &kNumberStatRuleType},              // "NumberStat"
+    {275, &kRetrogradeRuleType},             // "RetrogradeDetection"
+    {274, &kRunRuleType},                    // "RunDetection"
+    {19, &kVideoAbnormalRuleType},           // "VideoAbnormalDetection"
+    {279, &kFaceRecognitionRuleType},        // "FaceRecognition"
+    {21, &kTrafficControlRuleType},          // "TrafficControl"
+    {22, &kTrafficAccidentRuleType},         // "TrafficAccident"
+    {23, &kTrafficJunctionRuleType},         // "TrafficJunction"
+    {24, &kTrafficGateRuleType},             // "TrafficGate"
+    {26, &kFaceDetectionRuleType},           // "FaceDetection"
+    {27, &kTrafficJamRuleType},              // "TrafficJam"
+    {303, &kTrafficJamRuleType},             // "TrafficIdle"
+    {264, &kTrafficParkingRuleType},         // "TrafficParking"
+    {256, &kTrafficRunRedLightRuleType},     // "TrafficRunRedLight"
+    {265, &kTrafficRouteRuleType},           // "TrafficWrongRoute"
+    {266, &kTrafficRouteRuleType},           // "TrafficCrossLane"
+    {257, &kTrafficRouteRuleType},           // "TrafficOverLine"
+    {259, &kTrafficRouteRuleType},           // "TrafficTurnLeft"
+    {260, &kTrafficRouteRuleType},           // "TrafficTurnRight"
+    {270, &kTrafficRouteRuleType},           // "TrafficYellowPlateInLane", "TrafficYellowInRoute"
+    {283, &kTrafficRouteRuleType},           // "TrafficVehicleInRoute"
+    {293, &kTrafficRouteRuleType},           // "TrafficBacking"
+    {292, &kTrafficBusRouteRuleType},        // "TrafficVehicleInBusRoute"
+    {267, &kTrafficOverYellowLineRuleType},  // "TrafficOverYellowLine"
+    {261, &kTrafficUTurnRuleType},           // "TrafficU-Turn"
+    {262, &kTrafficSpeedRuleType},           // "TrafficOverSpeed"
+    {263, &kTrafficSpeedRuleType},           // "TrafficUnderSpeed"
+    {286, &kPrisonerRiseRuleType},           // "PrisonerRiseDetection"
+    {288, &kTrafficTollGateRuleType},        // "TrafficTollGate"
+    {258, &kTrafficRetrogradeRuleType},      // "TrafficRetrograde"
+    {271, &kTrafficPlainRuleType},           // "TrafficPedestrainPriority"
+    {291, &kQueueRuleType},                  // "QueueDetection"
+    {294, &kAudioAbnormalRuleType},          // "AudioAbnormalDetection"
+    {296, &kClimbRuleType},                  // "ClimbDetection"
+    {297, &kLeaveRuleType},                  // "LeaveDetection"
+    {298, &kTrafficParkingOnYellowBoxRuleType},  // "TrafficParkingOnYellowBox"
+    {299, &kTrafficParkingSpaceRuleType},        // "TrafficParkingSpaceParking"
+    {300, &kTrafficParkingSpaceRuleType},        // "TrafficParkingSpaceNoParking"
+    {308, &kTrafficPlainRuleType},               // "TrafficParkingSpaceOverLine"
+    {312, &kTrafficSafeBeltRuleType},            // "TrafficWithoutSafeBelt"
+    {313, &kTrafficPlainRuleType},               // "TrafficDriverSmoking"
+    {314, &kTrafficPlainRuleType},               // "TrafficDriverCalling"
+    {301, &kTrafficPedestrainRuleType},          // "TrafficPedestrain"
+    {302, &kTrafficPedestrainRuleType},          // "TrafficThrow"
+    {341, &kGetOutBedRuleType},                  // "GetOutBedDetection"
+    {342, &kPatrolRuleType},                     // "PatrolDetection"
+    {343, &kOnDutyRuleType},                     // "OnDutyDetection"
+    {351, &kHeatMapRuleType},                    // "HeatMap"
+    {315, &kTrafficRunRedLightRuleType},         // "TrafficPedestrianRunRedLight"
+    {316, &kTrafficPassNotInOrderRuleType},      // "TrafficPassNotInOrder"
+    {514, &kHeatMapRuleType},                    // "VehicleAnalyse"
+    {359, &kStandUpRuleType},                    // "StandUpDetection"
+    {362, &kShootingScoreRuleType},              // "ShootingScoreRecognition"
 };
 const size_t kRuleConfigRowCount = sizeof kRuleConfigTable / sizeof kRuleConfigTable[0];
 
@@ -137,13 +150,13 @@ const RuleType* FindRuleType(uint32_t code) {
 }
 
 void ParseRuleBody(const Json::Value& rule, unsigned char* body, const RuleType& type) {
-  ParseFields(rule, body, kRuleHeadFields);
+  ParseFields(rule, body, *type.head);
   ParseFields(Member(rule, "Config"), body, type.config);
   ParseFields(rule, body + type.linkageOffset, kRuleLinkageFields);
 }
 
 void PackRuleBody(const unsigned char* body, const RuleType& type, Json::Value& rule) {
-  PackFields(body, rule, kRuleHeadFields);
+  PackFields(body, rule, *type.head);
   PackFields(body + type.linkageOffset, rule, kRuleLinkageFields);
   Json::Value& config = SetMember(rule, "Config");
   config = Json::Value(Json::objectValue);

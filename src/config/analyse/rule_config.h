@@ -6,8 +6,9 @@
 //
 // Recipe for binding a rule type (a record, a table, a row):
 //
-//   1. kova/records/analyse.h: the record, with static_asserts on its size
-//      (the body size of its code in rule_types.cpp) and offsets:
+//   1. kova/records/analyse_rules.h (or analyse_traffic_rules.h): the
+//      record, with KOVA_RULE_LAYOUT (its size is the body size of its code
+//      in rule_types.cpp) and static_asserts on its offsets:
 //        typedef struct FireRule {
 //          RuleHead head;
 //          PointList detectRegion;   // "DetectRegion"
@@ -24,7 +25,9 @@
 //            KOVA_F(FireRule, sensitivity, "Sensitivity", kInt),
 //        };
 //        const RuleType kFireRuleType = RuleType::Of<FireRule>(kFireConfig);
-//      (a type without keys of its own: RuleType::Of<Rec>()); declare it
+//      (a type without keys of its own: RuleType::Of<Rec>(); types with
+//      the same keys in bodies of different sizes: one table written as a
+//      variable template over the record, kFireConfig<Rec>); declare it
 //      below;
 //   3. rule_config.cpp: put &kFireRuleType in its code's row(s) of
 //      kRuleConfigTable (a type serving several codes goes in each row).
@@ -46,10 +49,16 @@
 
 namespace kova {
 
+// The members of the rule object that open a record: RuleHead's, or
+// AudioRuleHead's (no "ObjectTypes").
+extern const FieldTable kRuleHeadTable;
+extern const FieldTable kAudioRuleHeadTable;
+
 // What the generic rule parse and pack need to know about one rule type.
 struct RuleType {
   uint32_t recordSize;     // sizeof the record: the body size of the type's code
   uint32_t linkageOffset;  // offset of its RuleLinkage
+  const FieldTable* head;  // the rule object's members at the record's start
   FieldTable config;       // its "Config" keys, over the whole record
 
   template <typename Rec, size_t N>
@@ -64,18 +73,19 @@ struct RuleType {
  private:
   template <typename Rec>
   static constexpr RuleType Laid(FieldTable config) {
-    static_assert(std::is_same<decltype(Rec::head), RuleHead>::value && offsetof(Rec, head) == 0,
-                  "a rule record begins with RuleHead head");
+    using Head = decltype(Rec::head);
+    constexpr bool full = std::is_same<Head, RuleHead>::value;
+    static_assert((full || std::is_same<Head, AudioRuleHead>::value) && offsetof(Rec, head) == 0,
+                  "a rule record begins with RuleHead (or AudioRuleHead) head");
     static_assert(std::is_same<decltype(Rec::linkage), RuleLinkage>::value,
                   "a rule record holds RuleLinkage linkage");
     return RuleType{static_cast<uint32_t>(sizeof(Rec)),
-                    static_cast<uint32_t>(offsetof(Rec, linkage)), config};
+                    static_cast<uint32_t>(offsetof(Rec, linkage)),
+                    full ? &kRuleHeadTable : &kAudioRuleHeadTable, config};
   }
 };
 
-// One row of RuleConfigTable: a rule type code and its description (null
-// while the type is not laid out: a rule of that type fails the parse and
-// the pack).
+// One row of RuleConfigTable: a rule type code and its description.
 struct RuleConfigRow {
   uint32_t code;
   const RuleType* type;
@@ -86,7 +96,7 @@ extern const RuleConfigRow kRuleConfigTable[];
 extern const size_t kRuleConfigRowCount;
 
 // The description of `code` (linear scan of the table); null when the
-// code has no row or its row is not bound yet.
+// code has no row.
 const RuleType* FindRuleType(uint32_t code);
 
 // Fills the cleared rule record at `body` from the rule object: the head,
@@ -98,9 +108,61 @@ void ParseRuleBody(const Json::Value& rule, unsigned char* body, const RuleType&
 // "EventHandler", "PtzPresetId" and "Config".
 void PackRuleBody(const unsigned char* body, const RuleType& type, Json::Value& rule);
 
-// The bound rule types.
+// The bound rule types, by the file that describes them.
+// cross_rules.cpp
 extern const RuleType kCrossLineRuleType;
 extern const RuleType kCrossRegionRuleType;
+// perimeter_rules.cpp
+extern const RuleType kCrossFenceRuleType;
+extern const RuleType kLeftRuleType;
+extern const RuleType kStayRuleType;
+extern const RuleType kPreservationRuleType;
+extern const RuleType kClimbRuleType;
+extern const RuleType kRetrogradeRuleType;
+// behaviour_rules.cpp
+extern const RuleType kFireRuleType;
+extern const RuleType kRioterRuleType;
+extern const RuleType kFightRuleType;
+extern const RuleType kMoveRuleType;
+extern const RuleType kRunRuleType;
+extern const RuleType kVideoAbnormalRuleType;
+extern const RuleType kPrisonerRiseRuleType;
+extern const RuleType kLeaveRuleType;
+extern const RuleType kGetOutBedRuleType;
+extern const RuleType kOnDutyRuleType;
+extern const RuleType kPatrolRuleType;
+extern const RuleType kStandUpRuleType;
+extern const RuleType kShootingScoreRuleType;
+// counting_rules.cpp
+extern const RuleType kFlowStatRuleType;
+extern const RuleType kNumberStatRuleType;
+extern const RuleType kHeatMapRuleType;
+extern const RuleType kQueueRuleType;
+// face_audio_rules.cpp
+extern const RuleType kFaceDetectionRuleType;
+extern const RuleType kFaceRecognitionRuleType;
+extern const RuleType kAudioAbnormalRuleType;
+// traffic_rules.cpp
+extern const RuleType kTrafficControlRuleType;
+extern const RuleType kTrafficAccidentRuleType;
+extern const RuleType kTrafficJunctionRuleType;
+extern const RuleType kTrafficGateRuleType;
+extern const RuleType kTrafficJamRuleType;
+extern const RuleType kTrafficParkingRuleType;
+extern const RuleType kTrafficRunRedLightRuleType;
+extern const RuleType kTrafficRouteRuleType;
+extern const RuleType kTrafficBusRouteRuleType;
+extern const RuleType kTrafficOverYellowLineRuleType;
+extern const RuleType kTrafficUTurnRuleType;
+extern const RuleType kTrafficSpeedRuleType;
+extern const RuleType kTrafficTollGateRuleType;
+extern const RuleType kTrafficRetrogradeRuleType;
+extern const RuleType kTrafficParkingSpaceRuleType;
+extern const RuleType kTrafficSafeBeltRuleType;
+extern const RuleType kTrafficPedestrainRuleType;
+extern const RuleType kTrafficPlainRuleType;
+extern const RuleType kTrafficPassNotInOrderRuleType;
+extern const RuleType kTrafficParkingOnYellowBoxRuleType;
 
 }  // namespace kova
 
