@@ -32,6 +32,7 @@ struct StepContext {
   const Json::Value& params;  // root "params" (null when missing)
   uint32_t index;             // record index in the walk
   uint32_t recordBytes;       // bytes of the record the step may touch
+  const char* memberName;     // RecordWalk::kObjectMembers: the element's member name, else null
 };
 
 // One record from one JSON element. false fails the whole parse.
@@ -61,6 +62,10 @@ enum class RecordWalk : uint8_t {
   kOne,          // the table fills record 0
   kPerChannel,   // an array fills record i from element i (as many as fit); anything else record 0
   kCallerSized,  // as kPerChannel, stepping by the size word the caller wrote into record 0
+  // An object table: its members that are objects fill one record each, in
+  // the JSON library's member order (sorted by name); other members take no
+  // record. Anything but an object fills nothing.
+  kObjectMembers,
 };
 // What `retLen` receives.
 enum class ReturnedLength : uint8_t {
@@ -75,6 +80,9 @@ enum class PackWalk : uint8_t {
   kOne,          // exactly one record (an input shorter than it is refused)
   kPerChannel,   // inLen / size records: one as the bare value, several as an array
   kCallerSized,  // as kPerChannel, stepping by the size word of the first record
+  // inLen / size records into one object: each step receives that object
+  // and adds its own member to it.
+  kObjectMembers,
 };
 
 struct ResponseFrame {
@@ -87,10 +95,28 @@ struct ResponseFrame {
   Clearing clearing = Clearing::kWholeBuffer;
   RecordWalk walk = RecordWalk::kOne;
   bool skipNullElements = false;  // per-channel: a null element leaves its record and is not counted
+  // A record's own JSON is an array (a channel's profiles): a per-channel
+  // table lists channels only when its first non-null element is an array;
+  // otherwise the table is one record.
+  bool arrayRecords = false;
   ReturnedLength returned = ReturnedLength::kSetBytes;
   CopyRule copy = CopyRule::kStrictlyLess;
   PackWalk packWalk = PackWalk::kOne;
   bool packArrayAlways = false;  // several-record pack: an array even for one record
+  // Per-element walks: the response's top-level "channel" decides the walk.
+  // Absent or not negative: the table is one record (record 0) whatever its
+  // type; negative: the table must be an array (anything else fails) and
+  // element i fills record i.
+  bool channelAtRoot = false;
+  // Pack: an input shorter than one record packs as null (the text "null"
+  // and a newline) instead of being refused.
+  bool shortInputAsNull = false;
+  // Several-record pack: a bare value only when the input is exactly one
+  // record; one record and a partial one are an array of one.
+  bool arrayUnlessExactlyOne = false;
+  // Pack: bytes of text every record needs at least; an input of more
+  // records than the output could hold is refused before any is packed.
+  uint32_t minTextPerRecord = 0;
 
   template <typename Rec>
   static constexpr ResponseFrame For(ParseStep p, PackStep k) {
@@ -108,16 +134,26 @@ struct ResponseFrame {
   constexpr ResponseFrame Walk(RecordWalk w) const {
     auto f = *this;
     f.walk = w;
-    f.packWalk = w == RecordWalk::kOne           ? PackWalk::kOne
-                 : w == RecordWalk::kPerChannel ? PackWalk::kPerChannel
-                                                : PackWalk::kCallerSized;
+    f.packWalk = w == RecordWalk::kOne             ? PackWalk::kOne
+                 : w == RecordWalk::kPerChannel   ? PackWalk::kPerChannel
+                 : w == RecordWalk::kCallerSized  ? PackWalk::kCallerSized
+                                                  : PackWalk::kObjectMembers;
     return f;
   }
   constexpr ResponseFrame SkipNullElements() const { auto f = *this; f.skipNullElements = true; return f; }
+  constexpr ResponseFrame ArrayRecords() const { auto f = *this; f.arrayRecords = true; return f; }
   constexpr ResponseFrame Returned(ReturnedLength r) const { auto f = *this; f.returned = r; return f; }
   constexpr ResponseFrame Copy(CopyRule c) const { auto f = *this; f.copy = c; return f; }
   constexpr ResponseFrame Pack(PackWalk w) const { auto f = *this; f.packWalk = w; return f; }
   constexpr ResponseFrame PackArrayAlways() const { auto f = *this; f.packArrayAlways = true; return f; }
+  constexpr ResponseFrame ChannelAtRoot() const { auto f = *this; f.channelAtRoot = true; return f; }
+  constexpr ResponseFrame ShortInputAsNull() const { auto f = *this; f.shortInputAsNull = true; return f; }
+  constexpr ResponseFrame ArrayUnlessExactlyOne() const {
+    auto f = *this;
+    f.arrayUnlessExactlyOne = true;
+    return f;
+  }
+  constexpr ResponseFrame MinTextPerRecord(uint32_t n) const { auto f = *this; f.minTextPerRecord = n; return f; }
 };
 
 // 1 on success, 0 on failure. Never writes past `outLen`; on failure the
