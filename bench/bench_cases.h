@@ -23,6 +23,7 @@ const std::vector<Pair>& Pairs();
 
 void RegisterTranslatorBenchmarks(const std::vector<kova_harness::SampleDocument>& samples);
 void RegisterWriterBenchmarks(const std::vector<kova_harness::SampleDocument>& samples);
+void RegisterRuleListBenchmarks(const std::vector<kova_harness::SampleDocument>& samples);
 void RegisterEventBenchmarks(const std::vector<kova_harness::SampleDocument>& samples);
 
 }  // namespace kova_bench
