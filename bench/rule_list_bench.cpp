@@ -13,7 +13,6 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -94,19 +93,7 @@ void Parse(benchmark::State& state, RuleListCase* c) {
 }
 
 void ParseFloor(benchmark::State& state, RuleListCase* c) {
-  Json::CharReaderBuilder builder;
-  builder["collectComments"] = false;
-  std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
-  std::vector<uint8_t> rules(c->rules.size());
-  const char* begin = c->doc.c_str();
-  const char* end = begin + c->doc.size();
-  for (auto _ : state) {
-    Json::Value root;
-    benchmark::DoNotOptimize(reader->parse(begin, end, &root, nullptr));
-    std::memset(rules.data(), 0, rules.size());
-    benchmark::ClobberMemory();
-  }
-  state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * c->doc.size()));
+  RunParseFloor(state, c->doc, c->rules.size());
 }
 
 void Pack(benchmark::State& state, RuleListCase* c) {
@@ -120,19 +107,7 @@ void Pack(benchmark::State& state, RuleListCase* c) {
 }
 
 void PackFloor(benchmark::State& state, RuleListCase* c) {
-  const Json::Value tree = Read(c->packed);
-  Json::StreamWriterBuilder wb;
-  wb["indentation"] = "";
-  std::unique_ptr<Json::StreamWriter> writer(wb.newStreamWriter());
-  std::vector<char> text(2 * c->packed.size() + 64);
-  for (auto _ : state) {
-    std::ostringstream out;
-    writer->write(tree, &out);
-    const std::string s = out.str();
-    std::memset(text.data(), 0, text.size());
-    std::memcpy(text.data(), s.c_str(), std::min(s.size() + 1, text.size()));
-    benchmark::ClobberMemory();
-  }
+  RunPackFloor(state, c->packed, 2 * c->packed.size() + 64);
 }
 
 }  // namespace
