@@ -25,19 +25,25 @@ namespace kova {
 // One [x, y] entry: taken only when it is an array of at least two items.
 inline constexpr Field kPointItem = KOVA_ITEM_TUPLE(Point, int32_t, kInt, 2);
 
-// A PointList (or DirectionLine) member under `key`: entry i goes to slot
-// i whether or not it is taken, pointCount counts the points taken (the
-// point rule).
+// A block of a count followed by its array, read as one list under `key`:
+// entry i goes to slot i whether or not it is taken; the count by `rule`.
+template <typename Array>
+constexpr Field CountedArrayField(const char* key, size_t arrayAt, size_t countAt,
+                                  const Field* element, CountRule rule) {
+  return MakeList<Array>(key, arrayAt, element)
+      .Count(Slot{static_cast<uint32_t>(countAt), static_cast<uint32_t>(sizeof(uint32_t))}, rule)
+      .KeepSlots();
+}
+
+// A PointList (or DirectionLine) member under `key`: pointCount counts the
+// points taken (the point rule).
 template <typename T>
 constexpr Field PointListField(const char* key, size_t offset) {
   static_assert(std::is_same<T, PointList>::value || std::is_same<T, DirectionLine>::value,
                 "KOVA_POINT_LIST needs a PointList or DirectionLine member");
-  using Points = decltype(T::points);
-  return MakeList<Points>(key, offset + offsetof(T, points), &kPointItem)
-      .Count(Slot{static_cast<uint32_t>(offset + offsetof(T, pointCount)),
-                  static_cast<uint32_t>(sizeof(uint32_t))},
-             CountRule::kTaken)
-      .KeepSlots();
+  return CountedArrayField<decltype(T::points)>(key, offset + offsetof(T, points),
+                                                offset + offsetof(T, pointCount), &kPointItem,
+                                                CountRule::kTaken);
 }
 #define KOVA_POINT_LIST(Rec, member, key) \
   ::kova::PointListField<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
@@ -48,19 +54,15 @@ inline constexpr EnumNames kTriggerPositionTable = EnumNames::Of(kTriggerPositio
 inline constexpr Field kTriggerPositionItem =
     KOVA_ITEM(uint8_t, kEnum).Names(kTriggerPositionTable);
 
-// A TriggerPositions member under `key`: entry i to slot i, the count of
-// non-null entries among the first 8.
+// A TriggerPositions member under `key`: the count of non-null entries
+// among the first 8.
 template <typename T>
 constexpr Field TriggerPositionsField(const char* key, size_t offset) {
   static_assert(std::is_same<T, TriggerPositions>::value,
                 "KOVA_TRIGGER_POSITIONS needs a TriggerPositions member");
-  using Positions = decltype(TriggerPositions::positions);
-  return MakeList<Positions>(key, offset + offsetof(TriggerPositions, positions),
-                             &kTriggerPositionItem)
-      .Count(Slot{static_cast<uint32_t>(offset + offsetof(TriggerPositions, count)),
-                  static_cast<uint32_t>(sizeof(uint32_t))},
-             CountRule::kNonNull)
-      .KeepSlots();
+  return CountedArrayField<decltype(TriggerPositions::positions)>(
+      key, offset + offsetof(TriggerPositions, positions),
+      offset + offsetof(TriggerPositions, count), &kTriggerPositionItem, CountRule::kNonNull);
 }
 #define KOVA_TRIGGER_POSITIONS(Rec, member, key) \
   ::kova::TriggerPositionsField<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))

@@ -12,7 +12,7 @@
 #include "common/fields/json_text.h"
 #include "common/json/json.h"
 #include "config/analyse/translators.h"
-#include "drivers/response_frame.h"
+#include "config/analyse/analyse_frame.h"
 
 namespace kova {
 
@@ -209,14 +209,9 @@ bool PackGlobal(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
-// The record is in/out (the caller's room for numbered periods): never
-// cleared by the frame.
-constexpr ResponseFrame kGlobalFrame = ResponseFrame::For<G>(ParseGlobal, PackGlobal)
-                                           .Result(ResultRule::kNotFalse)
-                                           .Clear(Clearing::kNone)
-                                           .OnNullTable(NullTable::kStep)
-                                           .Returned(ReturnedLength::kSetRecord)
-                                           .Copy(CopyRule::kStrictlyLess);
+// Only a "result" given and false fails.
+constexpr ResponseFrame kGlobalFrame =
+    AnalyseFrame<G>(ParseGlobal, PackGlobal).Result(ResultRule::kNotFalse);
 
 }  // namespace
 

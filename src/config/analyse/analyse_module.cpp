@@ -7,7 +7,7 @@
 #include "common/fields/json_text.h"
 #include "common/json/json.h"
 #include "config/analyse/translators.h"
-#include "drivers/response_frame.h"
+#include "config/analyse/analyse_frame.h"
 
 namespace kova {
 
@@ -101,14 +101,9 @@ bool PackModules(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
-// The record is written only by a parse that succeeds.
+// Only a "result" given and false fails.
 constexpr ResponseFrame kModuleFrame =
-    ResponseFrame::For<VideoAnalyseModuleConfig>(ParseModules, PackModules)
-        .Result(ResultRule::kNotFalse)
-        .Clear(Clearing::kNone)
-        .OnNullTable(NullTable::kStep)
-        .Returned(ReturnedLength::kSetRecord)
-        .Copy(CopyRule::kStrictlyLess);
+    AnalyseFrame<VideoAnalyseModuleConfig>(ParseModules, PackModules).Result(ResultRule::kNotFalse);
 
 }  // namespace
 

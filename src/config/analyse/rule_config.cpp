@@ -29,10 +29,10 @@ constexpr Field kRuleHeadFields[] = {
 void ParseRuleHandler(const Json::Value& rule, unsigned char* linkage, const Field& f) {
   const Json::Value& handler = Member(rule, f.key);
   RuleLinkage* r = reinterpret_cast<RuleLinkage*>(linkage);
-  ParseEventHandler(handler, &r->eventHandler);
   // A section that does not read stops the grid; the rule is kept anyway.
-  ParseTimeSectionGrid(Member(handler, "TimeSection"), &r->timeSection.sections[0][0],
-                       KOVA_WEEK_DAYS, KOVA_ANALYSE_SECTIONS_PER_DAY, nullptr);
+  const SectionGrid grid = {&r->timeSection.sections[0][0], KOVA_WEEK_DAYS,
+                            KOVA_ANALYSE_SECTIONS_PER_DAY, nullptr};
+  ParseEventHandlerWithGrid(handler, &r->eventHandler, grid);
 }
 
 void PackRuleHandler(const unsigned char* linkage, Json::Value& rule, const Field& f) {

@@ -22,7 +22,7 @@
 #include "config/analyse/rule_config.h"
 #include "config/analyse/rule_types.h"
 #include "config/analyse/translators.h"
-#include "drivers/response_frame.h"
+#include "config/analyse/analyse_frame.h"
 
 namespace kova {
 
@@ -172,14 +172,9 @@ bool PackRuleList(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
-// The list record is in/out: never cleared; "result" is not looked at; a
-// missing table still reaches the step, which sets ruleCount to 0.
-constexpr ResponseFrame kRuleListFrame = ResponseFrame::For<List>(ParseRuleList, PackRuleList)
-                                             .IgnoreResult()
-                                             .Clear(Clearing::kNone)
-                                             .OnNullTable(NullTable::kStep)
-                                             .Returned(ReturnedLength::kSetRecord)
-                                             .Copy(CopyRule::kStrictlyLess);
+// "result" is not looked at.
+constexpr ResponseFrame kRuleListFrame =
+    AnalyseFrame<List>(ParseRuleList, PackRuleList).IgnoreResult();
 
 }  // namespace
 
