@@ -1,7 +1,9 @@
 // The analysis rule list at its largest: 32 rules (the most one list
 // holds) of some 342 KB each, 11 MB of rule buffer, made by repeating the
-// rules of the "VideoAnalyseRule" sample. The generic translator benchmarks
-// cannot run it: the list record points at a buffer of its own.
+// rules of the "VideoAnalyseRule" sample; and each rule list sample as the
+// device sent it (one per family of rule types, so that every type is
+// measured). The generic translator benchmarks cannot run them: the list
+// record points at a buffer of its own.
 //   parse floor: the JSON library's reader on the same text plus clearing
 //                the rule buffer once;
 //   pack floor:  the library's compact writer on the packed value tree plus
@@ -12,6 +14,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -29,7 +32,9 @@ constexpr const char* kName = "VideoAnalyseRule";
 constexpr uint32_t kRules = KOVA_RULE_LIST_MAX_RULES;
 
 struct RuleListCase {
-  std::string doc;             // 32 rules in a response envelope
+  std::string name;            // "VideoAnalyseRule" or "AudioAnalyseRule"
+  std::string doc;             // the rules in a response envelope
+  uint32_t count = 0;          // rules in the document
   std::vector<uint8_t> rules;  // a rule buffer of exactly the entries' size
   std::string packed;          // the packed text of those entries
 };
@@ -43,11 +48,42 @@ Json::Value Read(const std::string& text) {
   return root;
 }
 
-// False when there is no sample to build from or it does not parse.
-bool MakeCase(const std::vector<kova_harness::SampleDocument>& samples, RuleListCase* c) {
+// The file name of a sample less ".json": "VideoAnalyseRule.traffic_road".
+std::string Stem(const kova_harness::SampleDocument& d) {
+  return std::filesystem::path(d.path).stem().string();
+}
+
+// Parses c->doc into a buffer of exactly its entries and packs them back;
+// false when the translator refuses it.
+bool Fill(RuleListCase* c) {
+  std::vector<uint8_t> room(kRules * (KOVA_RULE_ENTRY_HEADER_SIZE + 400000u));
+  VideoAnalyseRuleList list = {0, room.data(), static_cast<uint32_t>(room.size())};
+  const char* name = c->name.c_str();
+  if (!KOVA_ParseData(name, c->doc.c_str(), &list, sizeof list, nullptr)) return false;
+  c->count = list.ruleCount;
+  size_t used = 0;
+  for (uint32_t i = 0; i < list.ruleCount; ++i) {
+    RuleEntryHeader h;
+    std::memcpy(&h, room.data() + used, sizeof h);
+    used += sizeof h + h.bodySize;
+  }
+  c->rules.assign(room.begin(), room.begin() + static_cast<std::ptrdiff_t>(used));
+  list.ruleBuffer = c->rules.data();
+  list.ruleBufferLength = static_cast<uint32_t>(used);
+  std::vector<char> text(16u << 20);
+  if (!KOVA_PacketData(name, &list, sizeof list, text.data(), static_cast<uint32_t>(text.size()))) {
+    return false;
+  }
+  c->packed.assign(text.data());
+  return true;
+}
+
+// 32 rules repeated from the rules of samples/VideoAnalyseRule.json; false
+// when there is no such sample or it does not parse.
+bool MakeLargestCase(const std::vector<kova_harness::SampleDocument>& samples, RuleListCase* c) {
   Json::Value sample;
   for (const kova_harness::SampleDocument& d : samples) {
-    if (d.name == kName) sample = Read(d.text);
+    if (Stem(d) == kName) sample = Read(d.text);
   }
   const Json::Value& table = sample["params"]["table"];
   if (!table.isArray() || table.empty()) return false;
@@ -59,26 +95,9 @@ bool MakeCase(const std::vector<kova_harness::SampleDocument>& samples, RuleList
   }
   Json::StreamWriterBuilder wb;
   wb["indentation"] = "";
+  c->name = kName;
   c->doc = kova_harness::Envelope(Json::writeString(wb, rules));
-
-  std::vector<uint8_t> room(kRules * (KOVA_RULE_ENTRY_HEADER_SIZE + 400000u));
-  VideoAnalyseRuleList list = {0, room.data(), static_cast<uint32_t>(room.size())};
-  if (!KOVA_ParseData(kName, c->doc.c_str(), &list, sizeof list, nullptr)) return false;
-  size_t used = 0;
-  for (uint32_t i = 0; i < list.ruleCount; ++i) {
-    RuleEntryHeader h;
-    std::memcpy(&h, room.data() + used, sizeof h);
-    used += sizeof h + h.bodySize;
-  }
-  c->rules.assign(room.begin(), room.begin() + static_cast<std::ptrdiff_t>(used));
-  list.ruleBuffer = c->rules.data();
-  list.ruleBufferLength = static_cast<uint32_t>(used);
-  std::vector<char> text(16u << 20);
-  if (!KOVA_PacketData(kName, &list, sizeof list, text.data(), static_cast<uint32_t>(text.size()))) {
-    return false;
-  }
-  c->packed.assign(text.data());
-  return true;
+  return Fill(c);
 }
 
 void Parse(benchmark::State& state, RuleListCase* c) {
@@ -86,7 +105,8 @@ void Parse(benchmark::State& state, RuleListCase* c) {
   for (auto _ : state) {
     VideoAnalyseRuleList list = {0, rules.data(), static_cast<uint32_t>(rules.size())};
     uint32_t retLen = 0;
-    benchmark::DoNotOptimize(KOVA_ParseData(kName, c->doc.c_str(), &list, sizeof list, &retLen));
+    benchmark::DoNotOptimize(
+        KOVA_ParseData(c->name.c_str(), c->doc.c_str(), &list, sizeof list, &retLen));
     benchmark::ClobberMemory();
   }
   state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * c->doc.size()));
@@ -97,11 +117,11 @@ void ParseFloor(benchmark::State& state, RuleListCase* c) {
 }
 
 void Pack(benchmark::State& state, RuleListCase* c) {
-  VideoAnalyseRuleList list = {kRules, c->rules.data(), static_cast<uint32_t>(c->rules.size())};
+  VideoAnalyseRuleList list = {c->count, c->rules.data(), static_cast<uint32_t>(c->rules.size())};
   std::vector<char> text(2 * c->packed.size() + 64);
   for (auto _ : state) {
-    benchmark::DoNotOptimize(
-        KOVA_PacketData(kName, &list, sizeof list, text.data(), static_cast<uint32_t>(text.size())));
+    benchmark::DoNotOptimize(KOVA_PacketData(c->name.c_str(), &list, sizeof list, text.data(),
+                                             static_cast<uint32_t>(text.size())));
     benchmark::ClobberMemory();
   }
 }
@@ -110,18 +130,33 @@ void PackFloor(benchmark::State& state, RuleListCase* c) {
   RunPackFloor(state, c->packed, 2 * c->packed.size() + 64);
 }
 
+void Register(const std::string& subject, RuleListCase* c) {
+  benchmark::RegisterBenchmark(("parse/" + subject).c_str(), Parse, c);
+  benchmark::RegisterBenchmark(("parse_floor/" + subject).c_str(), ParseFloor, c);
+  AddPair("parse", subject, "parse/" + subject, "parse_floor/" + subject);
+  benchmark::RegisterBenchmark(("pack/" + subject).c_str(), Pack, c);
+  benchmark::RegisterBenchmark(("pack_floor/" + subject).c_str(), PackFloor, c);
+  AddPair("pack", subject, "pack/" + subject, "pack_floor/" + subject);
+}
+
 }  // namespace
 
 void RegisterRuleListBenchmarks(const std::vector<kova_harness::SampleDocument>& samples) {
-  static RuleListCase c;
-  if (!MakeCase(samples, &c)) return;
-  const std::string subject = std::string(kName) + "(32)";
-  benchmark::RegisterBenchmark(("parse/" + subject).c_str(), Parse, &c);
-  benchmark::RegisterBenchmark(("parse_floor/" + subject).c_str(), ParseFloor, &c);
-  AddPair("parse", subject, "parse/" + subject, "parse_floor/" + subject);
-  benchmark::RegisterBenchmark(("pack/" + subject).c_str(), Pack, &c);
-  benchmark::RegisterBenchmark(("pack_floor/" + subject).c_str(), PackFloor, &c);
-  AddPair("pack", subject, "pack/" + subject, "pack_floor/" + subject);
+  static std::vector<std::unique_ptr<RuleListCase>> cases;
+  auto largest = std::make_unique<RuleListCase>();
+  if (MakeLargestCase(samples, largest.get())) {
+    Register(std::string(kName) + "(32)", largest.get());
+    cases.push_back(std::move(largest));
+  }
+  for (const kova_harness::SampleDocument& d : samples) {
+    if (d.name != kName && d.name != "AudioAnalyseRule") continue;
+    auto c = std::make_unique<RuleListCase>();
+    c->name = d.name;
+    c->doc = d.text;
+    if (!Fill(c.get())) continue;
+    Register(Stem(d), c.get());
+    cases.push_back(std::move(c));
+  }
 }
 
 }  // namespace kova_bench

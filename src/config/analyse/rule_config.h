@@ -104,8 +104,8 @@ const RuleType* FindRuleType(uint32_t code);
 // type.recordSize bytes and is aligned to 4 (RuleLinkage is read in place).
 void ParseRuleBody(const Json::Value& rule, unsigned char* body, const RuleType& type);
 // Writes the rule record at `body` (same size and alignment) into the rule
-// object `rule`: "Name", "Enable", "TrackEnable", "ObjectTypes",
-// "EventHandler", "PtzPresetId" and "Config".
+// object `rule`: "Name", "Enable", "TrackEnable", "ObjectTypes" (not for an
+// audio rule), "EventHandler", "PtzPresetId" and "Config".
 void PackRuleBody(const unsigned char* body, const RuleType& type, Json::Value& rule);
 
 // The bound rule types, by the file that describes them.

@@ -31,17 +31,17 @@ TEST(RuleConfigTable, SeventyOneRowsInTheDevicesOrder) {
     const RuleConfigRow& row = kRuleConfigTable[i];
     EXPECT_EQ(order[i], row.code) << i;
     EXPECT_TRUE(codes.insert(row.code).second) << row.code;
-    // Every row is a type the rule list accepts, and a bound type's record
-    // is exactly the body the list makes room for.
+    // Every row is a type the rule list accepts, bound to a record that is
+    // exactly the body the list makes room for.
     EXPECT_GT(RuleBodySize(row.code), 0) << row.code;
-    if (row.type != nullptr) {
-      EXPECT_EQ(static_cast<uint32_t>(RuleBodySize(row.code)), row.type->recordSize) << row.code;
-      EXPECT_EQ(FindRuleType(row.code), row.type);
-    }
+    ASSERT_NE(nullptr, row.type) << row.code;
+    EXPECT_EQ(static_cast<uint32_t>(RuleBodySize(row.code)), row.type->recordSize) << row.code;
+    EXPECT_EQ(FindRuleType(row.code), row.type);
   }
   EXPECT_EQ(&kCrossLineRuleType, FindRuleType(KOVA_RULE_CROSS_LINE));
   EXPECT_EQ(&kCrossRegionRuleType, FindRuleType(KOVA_RULE_CROSS_REGION));
-  EXPECT_EQ(nullptr, FindRuleType(12));  // a row not bound yet
+  EXPECT_EQ(&kFireRuleType, FindRuleType(12));  // one type in several rows
+  EXPECT_EQ(&kFireRuleType, FindRuleType(13));
   EXPECT_EQ(nullptr, FindRuleType(1));   // no row
   EXPECT_EQ(offsetof(CrossLineRule, linkage), kCrossLineRuleType.linkageOffset);
 }
