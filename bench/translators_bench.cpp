@@ -39,9 +39,15 @@ struct NameCase {
 
 std::unique_ptr<GuardedBuffer> RecordBuffer(const NameCase& c, PointedBuffers* pointed) {
   auto buf = std::make_unique<GuardedBuffer>(c.outLen);
-  pointed->Attach(c.name.c_str(), buf->data(), buf->size(),
-                  kova_harness::ParseSize(kova::FindParseName(c.name.c_str())), 1 << 18,
-                  std::string());
+  const uint32_t size = kova_harness::ParseSize(kova::FindParseName(c.name.c_str()));
+  pointed->Attach(c.name.c_str(), buf->data(), buf->size(), size, 1 << 18, std::string());
+  // Caller-sized records carry their size, as a caller sets it (the parse
+  // keeps it in every slot).
+  if (kova_harness::CallerSized(c.name.c_str())) {
+    for (size_t at = 0; size >= sizeof size && at + size <= buf->size(); at += size) {
+      std::memcpy(buf->data() + at, &size, sizeof size);
+    }
+  }
   return buf;
 }
 

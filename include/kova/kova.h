@@ -7,15 +7,17 @@
 // number of threads at once. The caller owns every buffer.
 //
 // Text fields of the records hold text in the local code page; the JSON side
-// is UTF-8. The local code page is the charset named by the environment
-// variable KOVA_CODEPAGE when it is set (any iconv name: "GBK", "BIG5",
-// "ISO-8859-1", "UTF-8", ...), otherwise the codeset of the process's current
-// locale, where the plain C/POSIX locale counts as UTF-8. A character the
-// local code page cannot hold becomes "?"; an invalid UTF-8 sequence becomes
-// one replacement character and conversion goes on; text is cut at a field's
-// capacity less its terminator without splitting a multi-byte character. An
-// unknown KOVA_CODEPAGE falls back to UTF-8. Set KOVA_CODEPAGE before calls
-// start on other threads.
+// is UTF-8. The local code page is the one named by the environment variable
+// KOVA_CODEPAGE when it is set: on Windows a code page number ("936") or
+// name ("CP936", "windows-1252", "GBK", "BIG5", "UTF-8", ...), elsewhere any
+// iconv name ("GBK", "BIG5", "ISO-8859-1", "UTF-8", ...). Otherwise it is the
+// process's ANSI code page on Windows, and elsewhere the codeset of the
+// process's current locale, where the plain C/POSIX locale counts as UTF-8.
+// A character the local code page cannot hold becomes "?"; an invalid UTF-8
+// sequence becomes one replacement character and conversion goes on; text is
+// cut at a field's capacity less its terminator without splitting a
+// multi-byte character. An unknown KOVA_CODEPAGE falls back to UTF-8. Set
+// KOVA_CODEPAGE before calls start on other threads.
 //
 // Record layouts are in <kova/records/*.h>.
 #ifndef KOVA_KOVA_H_
@@ -23,15 +25,23 @@
 
 #include <stdint.h>
 
-#if defined(_WIN32)
+// KOVA_CALL is the calling convention of the four functions and of the
+// callback: __stdcall on 32-bit Windows, the platform's default elsewhere
+// (64-bit Windows has one convention). The names are exported undecorated.
+// KOVA_EXPORT imports them from kova.dll on Windows (the library's own build
+// defines KOVA_BUILDING_LIBRARY to export them instead).
+#if defined(_WIN32) && !defined(_WIN64)
 #define KOVA_CALL __stdcall
+#else
+#define KOVA_CALL
+#endif
+#if defined(_WIN32)
 #if defined(KOVA_BUILDING_LIBRARY)
 #define KOVA_EXPORT __declspec(dllexport)
 #else
 #define KOVA_EXPORT __declspec(dllimport)
 #endif
 #else
-#define KOVA_CALL
 #define KOVA_EXPORT __attribute__((visibility("default")))
 #endif
 

@@ -31,7 +31,7 @@ const DriverBinding kDriverBindings[] = {
     {"CheckCode",                nullptr,               nullptr,                  328, 0, 0, 1, 0},
     {"VSP_SCYDKD",               nullptr,               nullptr,                  200, 0, 0, 1, 0},
     {"PowerUp",                  nullptr,               nullptr,                   24, 0, 1, 1, 1},
-    {"VideoInDayNight",          nullptr,               nullptr,                   48, 1, 1, 1, 1},
+    {"VideoInDayNight",          ParseVideoInDayNightRecord, PackVideoInDayNightRecord,  48, 1, 1, 1, 1},
     {"AudioMixChannel",          nullptr,               nullptr,                 2116, 0, 0, 1, 0},
     {"AudioTouch",               nullptr,               nullptr,                  264, 0, 0, 1, 0},
     {"VideoMosaic",              nullptr,               nullptr,                   76, 0, 1, 1, 1},

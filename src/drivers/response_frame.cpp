@@ -60,6 +60,42 @@ void ClearOutput(const ResponseFrame& f, unsigned char* out, uint32_t outLen, ui
   }
 }
 
+int ParseObjectMembers(const ResponseFrame& f, const Json::Value& root, const Json::Value& table,
+                       unsigned char* out, uint32_t slots, uint32_t* retLen) {
+  uint32_t filled = 0;
+  if (table.isObject()) {
+    const Json::Value::Members names = table.getMemberNames();
+    for (const std::string& name : names) {
+      if (filled >= slots) break;
+      const Json::Value& element = Member(table, name.c_str());
+      if (!element.isObject()) continue;
+      const StepContext ctx{root, Member(root, "params"), filled, f.recordSize, name.c_str()};
+      unsigned char* record = out + static_cast<size_t>(filled) * f.recordSize;
+      if (!f.parse(element, ctx, record)) {
+        if (f.clearing != Clearing::kNone) std::memset(out, 0, static_cast<size_t>(slots) * f.recordSize);
+        return 0;
+      }
+      ++filled;
+    }
+  }
+  ReportLength(f, retLen, static_cast<uint64_t>(filled) * f.recordSize);
+  return 1;
+}
+
+// Whether an array table holds one element per record. For records that
+// are arrays themselves, the first element that is not null decides (a
+// channel left empty, [], must not turn the answer into one record).
+bool ListsChannels(const ResponseFrame& f, const Json::Value& table) {
+  if (!table.isArray()) return false;
+  if (!f.arrayRecords) return true;
+  const uint32_t n = Count(table);
+  for (uint32_t i = 0; i < n; ++i) {
+    const Json::Value& e = Element(table, i);
+    if (!e.isNull()) return e.isArray();
+  }
+  return false;
+}
+
 }  // namespace
 
 uint32_t CallerRecordSize(const void* buf, uint32_t len) {
@@ -67,6 +103,11 @@ uint32_t CallerRecordSize(const void* buf, uint32_t len) {
   if (buf == nullptr || len < sizeof size) return 0;
   std::memcpy(&size, buf, sizeof size);
   return (size < 1 || size > len) ? 0 : size;
+}
+
+void StartSizedRecord(unsigned char* record, uint32_t size) {
+  std::memset(record, 0, size);
+  if (size >= sizeof size) std::memcpy(record, &size, sizeof size);
 }
 
 int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule) {
@@ -82,6 +123,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     if (jsonText == nullptr || outBuf == nullptr || f.parse == nullptr || f.recordSize == 0) {
       return 0;
     }
+    if (f.refuseEmptyText && *jsonText == '\0') return 0;
     unsigned char* out = static_cast<unsigned char*>(outBuf);
     uint32_t stride = f.recordSize;
     if (f.walk == RecordWalk::kCallerSized) {
@@ -95,12 +137,12 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     Json::Value root;
     if (!ReadJson(jsonText, &root)) return 0;
     if (f.result == ResultRule::kMustBeTrue && !ResultIsTrue(root)) return 0;
-    if (f.result == ResultRule::kNotFalse && !Member(root, "result").isNull() &&
+    if (f.result == ResultRule::kFalseFails && !Member(root, "result").isNull() &&
         !ResultIsTrue(root)) {
       return 0;
     }
     const Json::Value& table = TableOf(f, root);
-    if (table.isNull()) {
+    if (table.isNull() && f.nullTable != NullTable::kStep) {
       switch (f.nullTable) {
         case NullTable::kFail:
           return 0;
@@ -116,8 +158,15 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
       }
     }
 
-    const bool perElement = f.walk != RecordWalk::kOne && table.isArray();
     const uint32_t slots = outLen / stride;
+    if (f.walk == RecordWalk::kObjectMembers) {
+      return ParseObjectMembers(f, root, table, out, slots, retLen);
+    }
+    bool perElement = f.walk != RecordWalk::kOne && ListsChannels(f, table);
+    if (f.walk != RecordWalk::kOne && f.channelAtRoot) {
+      perElement = ToInt32(Member(root, "channel")) < 0;
+      if (perElement && !table.isArray()) return 0;
+    }
     const uint32_t n = perElement ? std::min(Count(table), slots) : 1;
     // A caller's record shorter than ours is built in a scratch record and
     // copied out as far as the caller's size reaches.
@@ -125,7 +174,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     if (stride < f.recordSize) {
       scratch.assign(f.recordSize, 0);
     }
-    const StepContext ctxBase{root, Member(root, "params"), 0, f.recordSize};
+    const StepContext ctxBase{root, Member(root, "params"), 0, f.recordSize, nullptr};
     uint32_t filled = 0;
     for (uint32_t i = 0; i < n; ++i) {
       const Json::Value& element = perElement ? Element(table, i) : table;
@@ -137,7 +186,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
         std::memcpy(scratch.data(), slot, std::min<size_t>(stride, sizeof(uint32_t)));
         record = scratch.data();
       }
-      const StepContext ctx{ctxBase.root, ctxBase.params, i, f.recordSize};
+      const StepContext ctx{ctxBase.root, ctxBase.params, i, f.recordSize, nullptr};
       if (!f.parse(element, ctx, record)) {
         if (f.clearing != Clearing::kNone) ClearOutput(f, out, outLen, stride);
         return 0;
@@ -164,15 +213,20 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
       stride = CallerRecordSize(inBuf, inLen);
       if (stride == 0) return 0;
     } else if (inLen < f.recordSize) {
-      return 0;
+      return f.shortInputAsNull ? CopyPacked(Json::Value(), outJson, outLen, f.copy) : 0;
     }
     const uint32_t n = f.packWalk == PackWalk::kOne ? 1 : inLen / stride;
+    if (static_cast<uint64_t>(n) * f.minTextPerRecord > outLen) return 0;
     std::vector<unsigned char> scratch;
     if (stride < f.recordSize) scratch.assign(f.recordSize, 0);
 
     Json::Value root;
-    const bool array = n > 1 || f.packArrayAlways;
+    const bool members = f.packWalk == PackWalk::kObjectMembers;
+    const bool array =
+        !members && (n > 1 || f.packArrayAlways ||
+                     (f.arrayUnlessExactlyOne && f.packWalk != PackWalk::kOne && inLen != stride));
     if (array) root = Json::Value(Json::arrayValue);
+    if (members) root = Json::Value(Json::objectValue);
     for (uint32_t i = 0; i < n; ++i) {
       const unsigned char* record = in + static_cast<size_t>(i) * stride;
       if (!scratch.empty()) {
@@ -180,7 +234,7 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
         std::memcpy(scratch.data(), record, stride);
         record = scratch.data();
       }
-      Json::Value& target = array ? SetElement(root, i) : root;
+      Json::Value& target = array ? SetElement(root, i) : root;  // members: the one object
       if (!f.pack(record, target)) {
         std::memset(outJson, 0, outLen);
         return 0;

@@ -32,6 +32,7 @@ struct StepContext {
   const Json::Value& params;  // root "params" (null when missing)
   uint32_t index;             // record index in the walk
   uint32_t recordBytes;       // bytes of the record the step may touch
+  const char* memberName;     // RecordWalk::kObjectMembers: the element's member name, else null
 };
 
 // One record from one JSON element. false fails the whole parse.
@@ -44,7 +45,7 @@ using PackStep = bool (*)(const unsigned char* record, Json::Value& out);
 enum class ResultRule : uint8_t {
   kMustBeTrue,
   kIgnored,
-  kNotFalse,  // only a "result" that is given and false fails
+  kFalseFails,  // only a "result" that is present, not null and false fails
 };
 // Where the records' JSON sits.
 enum class TableAt : uint8_t { kParamsTable, kParams, kRoot };
@@ -53,7 +54,7 @@ enum class NullTable : uint8_t {
   kSucceedEmpty,   // success, no record filled (returned length 0)
   kFail,           // failure
   kAllZeroRecord,  // success with one cleared record
-  kStep,           // the step reads it like any other table (one call, null element)
+  kStep,           // the step reads the null table like any other and fills record 0
 };
 // How the caller's buffer is cleared before the text is read.
 enum class Clearing : uint8_t { kWholeBuffer, kRecords, kNone };
@@ -61,6 +62,10 @@ enum class RecordWalk : uint8_t {
   kOne,          // the table fills record 0
   kPerChannel,   // an array fills record i from element i (as many as fit); anything else record 0
   kCallerSized,  // as kPerChannel, stepping by the size word the caller wrote into record 0
+  // An object table: its members that are objects fill one record each, in
+  // the JSON library's member order (sorted by name); other members take no
+  // record. Anything but an object fills nothing.
+  kObjectMembers,
 };
 // What `retLen` receives.
 enum class ReturnedLength : uint8_t {
@@ -75,6 +80,9 @@ enum class PackWalk : uint8_t {
   kOne,          // exactly one record (an input shorter than it is refused)
   kPerChannel,   // inLen / size records: one as the bare value, several as an array
   kCallerSized,  // as kPerChannel, stepping by the size word of the first record
+  // inLen / size records into one object: each step receives that object
+  // and adds its own member to it.
+  kObjectMembers,
 };
 
 struct ResponseFrame {
@@ -87,10 +95,29 @@ struct ResponseFrame {
   Clearing clearing = Clearing::kWholeBuffer;
   RecordWalk walk = RecordWalk::kOne;
   bool skipNullElements = false;  // per-channel: a null element leaves its record and is not counted
+  // A record's own JSON is an array (a channel's profiles): a per-channel
+  // table lists channels only when its first non-null element is an array;
+  // otherwise the table is one record.
+  bool arrayRecords = false;
   ReturnedLength returned = ReturnedLength::kSetBytes;
   CopyRule copy = CopyRule::kStrictlyLess;
   PackWalk packWalk = PackWalk::kOne;
   bool packArrayAlways = false;  // several-record pack: an array even for one record
+  // Per-element walks: the response's top-level "channel" decides the walk.
+  // Absent or not negative: the table is one record (record 0) whatever its
+  // type; negative: the table must be an array (anything else fails) and
+  // element i fills record i.
+  bool channelAtRoot = false;
+  // Pack: an input shorter than one record packs as null (the text "null"
+  // and a newline) instead of being refused.
+  bool shortInputAsNull = false;
+  // Several-record pack: a bare value only when the input is exactly one
+  // record; one record and a partial one are an array of one.
+  bool arrayUnlessExactlyOne = false;
+  // Pack: bytes of text every record needs at least; an input of more
+  // records than the output could hold is refused before any is packed.
+  uint32_t minTextPerRecord = 0;
+  bool refuseEmptyText = false;  // an empty text fails before anything is cleared
 
   template <typename Rec>
   static constexpr ResponseFrame For(ParseStep p, PackStep k) {
@@ -100,24 +127,35 @@ struct ResponseFrame {
     f.pack = k;
     return f;
   }
-  constexpr ResponseFrame IgnoreResult() const { auto f = *this; f.result = ResultRule::kIgnored; return f; }
   constexpr ResponseFrame Result(ResultRule r) const { auto f = *this; f.result = r; return f; }
+  constexpr ResponseFrame IgnoreResult() const { auto f = *this; f.result = ResultRule::kIgnored; return f; }
   constexpr ResponseFrame Table(TableAt t) const { auto f = *this; f.tableAt = t; return f; }
   constexpr ResponseFrame OnNullTable(NullTable n) const { auto f = *this; f.nullTable = n; return f; }
   constexpr ResponseFrame Clear(Clearing c) const { auto f = *this; f.clearing = c; return f; }
   constexpr ResponseFrame Walk(RecordWalk w) const {
     auto f = *this;
     f.walk = w;
-    f.packWalk = w == RecordWalk::kOne           ? PackWalk::kOne
-                 : w == RecordWalk::kPerChannel ? PackWalk::kPerChannel
-                                                : PackWalk::kCallerSized;
+    f.packWalk = w == RecordWalk::kOne             ? PackWalk::kOne
+                 : w == RecordWalk::kPerChannel   ? PackWalk::kPerChannel
+                 : w == RecordWalk::kCallerSized  ? PackWalk::kCallerSized
+                                                  : PackWalk::kObjectMembers;
     return f;
   }
   constexpr ResponseFrame SkipNullElements() const { auto f = *this; f.skipNullElements = true; return f; }
+  constexpr ResponseFrame ArrayRecords() const { auto f = *this; f.arrayRecords = true; return f; }
   constexpr ResponseFrame Returned(ReturnedLength r) const { auto f = *this; f.returned = r; return f; }
   constexpr ResponseFrame Copy(CopyRule c) const { auto f = *this; f.copy = c; return f; }
   constexpr ResponseFrame Pack(PackWalk w) const { auto f = *this; f.packWalk = w; return f; }
   constexpr ResponseFrame PackArrayAlways() const { auto f = *this; f.packArrayAlways = true; return f; }
+  constexpr ResponseFrame ChannelAtRoot() const { auto f = *this; f.channelAtRoot = true; return f; }
+  constexpr ResponseFrame ShortInputAsNull() const { auto f = *this; f.shortInputAsNull = true; return f; }
+  constexpr ResponseFrame ArrayUnlessExactlyOne() const {
+    auto f = *this;
+    f.arrayUnlessExactlyOne = true;
+    return f;
+  }
+  constexpr ResponseFrame MinTextPerRecord(uint32_t n) const { auto f = *this; f.minTextPerRecord = n; return f; }
+  constexpr ResponseFrame RefuseEmptyText() const { auto f = *this; f.refuseEmptyText = true; return f; }
 };
 
 // 1 on success, 0 on failure. Never writes past `outLen`; on failure the
@@ -133,6 +171,11 @@ int PackWithFrame(const ResponseFrame& frame, const void* inBuf, uint32_t inLen,
 // The caller's record size from the first record's leading uint32: 0 when
 // the buffer cannot hold the size word, or the size is 0 or above `len`.
 uint32_t CallerRecordSize(const void* buf, uint32_t len);
+
+// Starts a record that carries its own size, for a step of a frame that
+// does not clear the buffer: clears its `size` bytes and writes `size` into
+// its leading uint32.
+void StartSizedRecord(unsigned char* record, uint32_t size);
 
 // Writes `value` as single-line text into `outJson` under `rule`. 1 when copied.
 int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule);

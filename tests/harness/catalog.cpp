@@ -24,10 +24,38 @@ uint32_t PackSizeOrDefault(int k) {
   return n != 0 ? n : kUnknownRecordSize;
 }
 
+namespace {
+
+// Packers that write an input shorter than one record as null (besides the
+// table driver in array mode, found by its binding). One line per name.
+const char* const kShortInputAsNull[] = {
+    "Record",
+};
+
+// Configurations whose records begin with their caller-set size. One line per name.
+const char* const kCallerSizedNames[] = {
+    "TemperatureAlarm",
+    "FanSpeedAlarm",
+    "StorageGroup",
+    "Raid",
+};
+
+template <size_t N>
+bool Listed(const char* const (&names)[N], const char* name) {
+  for (const char* n : names) {
+    if (kova::NameEquals(n, name)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
 bool PackAcceptsShortInput(int k) {
   const kova::DriverBinding* b = kova::PackBinding(k);
-  return b != nullptr && b->packArray != 0;
+  return (b != nullptr && b->packArray != 0) || Listed(kShortInputAsNull, kPackNames[k].name);
 }
+
+bool CallerSized(const char* name) { return Listed(kCallerSizedNames, name); }
 
 std::vector<int> BuiltParseNames() {
   std::vector<int> out;

@@ -28,10 +28,17 @@ uint32_t PackSize(int k);
 uint32_t ParseSizeOrDefault(int i);
 uint32_t PackSizeOrDefault(int k);
 
-// Whether the packer of pack name `k` is the table driver in array mode,
-// which packs an input shorter than one record as "null" instead of
-// refusing it.
+// Whether the packer of pack name `k` packs an input shorter than one
+// record as "null" instead of refusing it: the table driver in array mode,
+// and the names listed in catalog.cpp.
 bool PackAcceptsShortInput(int k);
+
+// Whether `name` has caller-sized records (listed in catalog.cpp): each
+// begins with a uint32 size the caller sets, and the translator steps
+// through the buffer by it. The bad-input suite lays that word, at the full
+// record size and at a shorter one, so that such a translator is exercised
+// beyond its refusal of a missing size.
+bool CallerSized(const char* name);
 
 // Indices of the names whose translator is built, in list order.
 std::vector<int> BuiltParseNames();

@@ -4,6 +4,7 @@
 #include <json/writer.h>
 
 #include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -161,6 +162,7 @@ std::vector<std::string> PackedShapes(int k) {
   for (Fill fill : {Fill::kAll7F, Fill::kZero}) {
     GuardedBuffer record(size);
     FillRecord(record.data(), record.size(), fill, 0);
+    if (CallerSized(name) && size >= sizeof size) std::memcpy(record.data(), &size, sizeof size);
     PointedBuffers pointed;
     pointed.Attach(name, record.data(), record.size(), size, -1, std::string());
     for (uint32_t textSize : {1u << 20, kHugeBuffer}) {

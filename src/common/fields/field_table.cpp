@@ -171,7 +171,8 @@ bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
     const Json::Value& e = Element(v, i);
     if (e.isNull()) continue;
     ++nonNull;
-    if (ParseValue(e, base + static_cast<size_t>(slot) * f.size, *f.element)) ++taken;
+    unsigned char* entry = base + static_cast<size_t>(slot) * f.size + f.element->offset;
+    if (ParseValue(e, entry, *f.element)) ++taken;
   }
   if (f.count.size != 0) {
     const uint32_t c = f.countRule == CountRule::kAll     ? looked
@@ -198,10 +199,11 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
       for (uint32_t i = 0; i < n; ++i) ParseScalar(Element(value, i), member + i * f.size, f);
       return true;
     }
-    case FieldShape::kList:
-      // A list entry that is itself a list: member is the start of its slot,
-      // f.offset the place of the array in it (after a count, say).
-      return ParseList(value, member, f);
+    case FieldShape::kList: {
+      // A list entry that is itself a list: member is the start of its slot.
+      // `member` is the list itself; its offset and count sit in the record around it.
+      return ParseList(value, member - f.offset, f);
+    }
     case FieldShape::kCustom:
       return false;
   }
@@ -228,11 +230,13 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
     }
     case FieldShape::kList: {
       if (f.element == nullptr) return false;
-      const uint32_t n = LoadCount(member, f);
+      const unsigned char* record = member - f.offset;
+      const uint32_t n = LoadCount(record, f);
       *out = Json::Value(Json::arrayValue);
       for (uint32_t i = 0; i < n; ++i) {
         Json::Value item;
-        if (PackValue(member + f.offset + static_cast<size_t>(i) * f.size, *f.element, &item)) {
+        const unsigned char* entry = member + static_cast<size_t>(i) * f.size + f.element->offset;
+        if (PackValue(entry, *f.element, &item)) {
           out->append(item);
         }
       }
@@ -352,7 +356,9 @@ void PackFields(const void* record, Json::Value& obj, const Field* fields, size_
       v = Json::Value(Json::arrayValue);
       for (uint32_t k = 0; k < n && f.element != nullptr; ++k) {
         Json::Value item;
-        if (PackValue(base + f.offset + static_cast<size_t>(k) * f.size, *f.element, &item)) {
+        const unsigned char* entry =
+            base + f.offset + static_cast<size_t>(k) * f.size + f.element->offset;
+        if (PackValue(entry, *f.element, &item)) {
           v.append(item);
         }
       }

@@ -211,7 +211,7 @@ bool PackGlobal(const unsigned char* record, Json::Value& out) {
 
 // Only a "result" given and false fails.
 constexpr ResponseFrame kGlobalFrame =
-    AnalyseFrame<G>(ParseGlobal, PackGlobal).Result(ResultRule::kNotFalse);
+    AnalyseFrame<G>(ParseGlobal, PackGlobal).Result(ResultRule::kFalseFails);
 
 }  // namespace
 

@@ -103,7 +103,7 @@ bool PackModules(const unsigned char* record, Json::Value& out) {
 
 // Only a "result" given and false fails.
 constexpr ResponseFrame kModuleFrame =
-    AnalyseFrame<VideoAnalyseModuleConfig>(ParseModules, PackModules).Result(ResultRule::kNotFalse);
+    AnalyseFrame<VideoAnalyseModuleConfig>(ParseModules, PackModules).Result(ResultRule::kFalseFails);
 
 }  // namespace
 

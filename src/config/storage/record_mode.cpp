@@ -1,0 +1,36 @@
+// "RecordMode": the recording mode of each channel, for the main and the
+// first extra stream.
+#include "common/fields/field_table.h"
+#include "config/storage/translators.h"
+#include "drivers/described_record.h"
+#include "kova/records/storage.h"
+
+namespace kova {
+namespace {
+
+constexpr Field kModeFields[] = {
+    KOVA_F(RecordModeConfig, mode, "Mode", kInt),
+    KOVA_F(RecordModeConfig, modeExtra1, "ModeExtra1", kInt),
+};
+
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(RecordModeConfig, kModeFields)
+
+namespace kova {
+namespace {
+
+constexpr ResponseFrame kFrame = DescribedObject<RecordModeConfig>::kFrame;
+
+}  // namespace
+
+int ParseRecordMode(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
+}
+
+int PackRecordMode(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
+}
+
+}  // namespace kova
