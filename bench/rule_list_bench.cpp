@@ -74,7 +74,8 @@ bool MakeCase(const std::vector<kova_harness::SampleDocument>& samples, RuleList
   list.ruleBuffer = c->rules.data();
   list.ruleBufferLength = static_cast<uint32_t>(used);
   std::vector<char> text(16u << 20);
-  if (!KOVA_PacketData(kName, &list, sizeof list, text.data(), static_cast<uint32_t>(text.size()))) {
+  if (!KOVA_PacketData(kName, &list, sizeof list, text.data(),
+                       static_cast<uint32_t>(text.size()))) {
     return false;
   }
   c->packed.assign(text.data());
@@ -100,8 +101,8 @@ void Pack(benchmark::State& state, RuleListCase* c) {
   VideoAnalyseRuleList list = {kRules, c->rules.data(), static_cast<uint32_t>(c->rules.size())};
   std::vector<char> text(2 * c->packed.size() + 64);
   for (auto _ : state) {
-    benchmark::DoNotOptimize(
-        KOVA_PacketData(kName, &list, sizeof list, text.data(), static_cast<uint32_t>(text.size())));
+    benchmark::DoNotOptimize(KOVA_PacketData(kName, &list, sizeof list, text.data(),
+                                             static_cast<uint32_t>(text.size())));
     benchmark::ClobberMemory();
   }
 }

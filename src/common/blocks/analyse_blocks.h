@@ -40,9 +40,9 @@ constexpr Field CountedArrayField(const char* key, size_t arrayAt, size_t countA
 template <typename T>
 constexpr Field PointListField(const char* key, size_t offset) {
   static_assert(std::is_same<T, PointList>::value, "KOVA_POINT_LIST needs a PointList member");
-  return CountedArrayField<decltype(PointList::points)>(
-      key, offset + offsetof(PointList, points), offset + offsetof(PointList, pointCount),
-      &kPointItem, CountRule::kTaken);
+  return CountedArrayField<decltype(PointList::points)>(key, offset + offsetof(PointList, points),
+                                                        offset + offsetof(PointList, pointCount),
+                                                        &kPointItem, CountRule::kTaken);
 }
 #define KOVA_POINT_LIST(Rec, member, key) \
   ::kova::PointListField<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
@@ -91,16 +91,16 @@ namespace kova {
 inline constexpr Field kCalibrateBoxItem = KOVA_ITEM_NESTED(CalibrateBox);
 
 // A calibration box list: entry i to slot i, the count of entries looked at.
-#define KOVA_SIZE_FILTER_BOXES(member, count, key)                                    \
-  KOVA_LIST(SizeFilterBlock, member, key, kCalibrateBoxItem)                          \
-      .Count(KOVA_AT(SizeFilterBlock, count), CountRule::kAll)                        \
-      .KeepSlots()                                                                    \
+#define KOVA_SIZE_FILTER_BOXES(member, count, key)             \
+  KOVA_LIST(SizeFilterBlock, member, key, kCalibrateBoxItem)   \
+      .Count(KOVA_AT(SizeFilterBlock, count), CountRule::kAll) \
+      .KeepSlots()                                             \
       .Flag(KOVA_AT(SizeFilterBlock, member##Present))
 
 // A size filter member flagged in its own xxxPresent field.
 #define KOVA_SIZE_FILTER_F(member, key, KIND) \
   KOVA_F(SizeFilterBlock, member, key, KIND).Flag(KOVA_AT(SizeFilterBlock, member##Present))
-#define KOVA_SIZE_FILTER_PAIR(member, key)                      \
+#define KOVA_SIZE_FILTER_PAIR(member, key)                     \
   KOVA_TUPLE_OF(SizeFilterBlock, member, key, float, kReal, 2) \
       .Flag(KOVA_AT(SizeFilterBlock, member##Present))
 
