@@ -1,9 +1,9 @@
 // kova: the command-line tool for people who debug device integrations.
 //
 //   kova names                                 every name, its directions, built or not
-//   kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--rule-buffer N]
+//   kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] [--rule-buffer N]
 //   kova pack NAME RECORD.bin [--size N]
-//   kova roundtrip NAME FILE [--size N] [--sized] [--rule-buffer N]
+//   kova roundtrip NAME FILE [--size N] [--sized] [--channel N] [--rule-buffer N]
 //
 // `--sized` is for the configurations whose records begin with their own
 // size, set by the caller: the record size is written into every slot of
@@ -14,14 +14,25 @@
 // entries: the record is given a rule buffer of N bytes before parsing, and
 // `-o` writes the entries filled instead of the record.
 //
+// `--channel N` sets the document's top-level "channel" before parsing, as
+// the device's client does when it asks for one channel (-1: all channels).
+// "Encode" and "Record" read one record or one per channel by it, so that an
+// answer saved from the wire is read as the device meant it without editing
+// the file. The rest of the document is kept as it was.
+//
 // `--log FILE`, before or after the command, opens the library's error log
 // at FILE for the run: every report a translator makes (malformed data, a
 // name not built yet) is appended there as one line.
 #include "kova/kova.h"
 
+#include <json/value.h>
+#include <json/writer.h>
+
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <exception>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -29,6 +40,7 @@
 
 #include "api/dispatch.h"
 #include "common/base/log.h"
+#include "common/json/json.h"
 #include "kova/records/analyse.h"
 
 namespace {
@@ -38,9 +50,9 @@ constexpr uint32_t kDefaultSize = 8u << 20;
 int Usage() {
   std::fprintf(stderr,
                "usage: kova names\n"
-               "       kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--rule-buffer N]\n"
+               "       kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] [--rule-buffer N]\n"
                "       kova pack NAME RECORD.bin [--size N]\n"
-               "       kova roundtrip NAME FILE [--size N] [--sized] [--rule-buffer N]\n"
+               "       kova roundtrip NAME FILE [--size N] [--sized] [--channel N] [--rule-buffer N]\n"
                "option: --log FILE  append the library's error reports to FILE\n");
   return 2;
 }
@@ -64,6 +76,8 @@ struct Options {
   uint32_t size = kDefaultSize;
   bool sized = false;
   uint32_t ruleBuffer = 0;  // bytes of the rule buffer; 0: none
+  bool hasChannel = false;
+  int32_t channel = 0;
   bool ok = true;
 };
 
@@ -88,6 +102,12 @@ Options ParseOptions(int argc, char** argv) {
       if (!ParseSize(argv[++i], &o.ruleBuffer)) o.ok = false;
     } else if (a == "--sized") {
       o.sized = true;
+    } else if (a == "--channel" && i + 1 < argc) {
+      char* end = nullptr;
+      const long long n = std::strtoll(argv[++i], &end, 10);
+      if (*end != '\0' || end == argv[i] || n < INT32_MIN || n > INT32_MAX) o.ok = false;
+      o.hasChannel = true;
+      o.channel = static_cast<int32_t>(n);
     } else if (!a.empty() && a[0] == '-') {
       o.ok = false;
     } else {
@@ -139,15 +159,33 @@ size_t RuleEntryBytes(const std::vector<unsigned char>& record,
   return at;
 }
 
+// Sets the top-level "channel" of the document `json`. The rest is written
+// back losslessly: real numbers with 17 digits, text bytes unchanged.
+bool SetChannel(int32_t channel, std::string* json) {
+  Json::Value root;
+  if (!kova::ReadJson(json->c_str(), &root) || !root.isObject()) return false;
+  kova::SetMember(root, "channel") = channel;
+  Json::StreamWriterBuilder builder;
+  builder["indentation"] = "";
+  builder["precision"] = 17;
+  builder["emitUTF8"] = true;
+  *json = Json::writeString(builder, root);
+  return true;
+}
+
 // Parses FILE as NAME into `record`; prints the outcome. Returns the exit code.
-int ParseInto(const std::string& name, const std::string& file, bool sized,
+int ParseInto(const std::string& name, const std::string& file, const Options& o,
               std::vector<unsigned char>* record, uint32_t* retLen) {
   std::string json;
   if (!ReadFile(file, &json)) {
     std::fprintf(stderr, "kova: cannot read %s\n", file.c_str());
     return 1;
   }
-  if (sized) {
+  if (o.hasChannel && !SetChannel(o.channel, &json)) {
+    std::fprintf(stderr, "kova: %s is not a JSON object; --channel needs one\n", file.c_str());
+    return 1;
+  }
+  if (o.sized) {
     const uint32_t stride = kova::ParseRecordSize(kova::FindParseName(name.c_str()));
     if (stride < sizeof(uint32_t)) {
       std::fprintf(stderr, "kova: no record size known for %s\n", name.c_str());
@@ -200,14 +238,14 @@ int Run(int argc, char** argv) {
   const std::string cmd = argv[1];
   const Options o = ParseOptions(argc, argv);
   if (!o.ok) return Usage();
-  if (cmd == "names" && o.args.empty()) return Names();
+  if (cmd == "names" && o.args.empty() && !o.hasChannel) return Names();
 
   if (cmd == "parse" && o.args.size() == 2) {
     std::vector<unsigned char> record(o.size);
     std::vector<unsigned char> rules;
     AttachRuleBuffer(o.ruleBuffer, &record, &rules);
     uint32_t retLen = 0;
-    const int rc = ParseInto(o.args[0], o.args[1], o.sized, &record, &retLen);
+    const int rc = ParseInto(o.args[0], o.args[1], o, &record, &retLen);
     if (rc != 0) return rc;
     size_t n = retLen <= record.size() ? retLen : record.size();
     const unsigned char* bytes = record.data();
@@ -227,7 +265,7 @@ int Run(int argc, char** argv) {
     return 0;
   }
 
-  if (cmd == "pack" && o.args.size() == 2) {
+  if (cmd == "pack" && o.args.size() == 2 && !o.hasChannel) {
     std::string record;
     if (!ReadFile(o.args[1], &record)) {
       std::fprintf(stderr, "kova: cannot read %s\n", o.args[1].c_str());
@@ -241,7 +279,7 @@ int Run(int argc, char** argv) {
     std::vector<unsigned char> rules;
     AttachRuleBuffer(o.ruleBuffer, &record, &rules);
     uint32_t retLen = 0;
-    const int rc = ParseInto(o.args[0], o.args[1], o.sized, &record, &retLen);
+    const int rc = ParseInto(o.args[0], o.args[1], o, &record, &retLen);
     if (rc != 0) return rc;
     return Pack(o.args[0], record.data(), retLen, o.size);
   }
@@ -263,7 +301,12 @@ int main(int argc, char** argv) {
       return 1;
     }
   }
-  const int rc = Run(static_cast<int>(args.size()), args.data());
+  int rc = 1;
+  try {
+    rc = Run(static_cast<int>(args.size()), args.data());
+  } catch (const std::exception& e) {
+    std::fprintf(stderr, "kova: %s\n", e.what());
+  }
   kova::CloseLogger();
   return rc;
 }

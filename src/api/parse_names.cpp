@@ -20,7 +20,7 @@ const ParseName kParseNames[] = {
     {"NetAbort", ParseSystemEvent, sizeof(SystemEventRecord)},
     {"IPConflict", ParseSystemEvent, sizeof(SystemEventRecord)},
     {"SnapInfo", nullptr, 0},
-    {"Ptz", nullptr, 0},
+    {"Ptz", ParsePtz, sizeof(PtzConfig)},
     {"PtzAutoMovement", nullptr, 0},
     {"WaterMark", nullptr, 0},
     {"VideoAnalyseGlobal", ParseVideoAnalyseGlobal, sizeof(VideoAnalyseGlobalConfig)},
@@ -53,8 +53,8 @@ const ParseName kParseNames[] = {
     {"devVideoInput.getCaps", nullptr, 0}, // parse only
     {"TrafficFlowStat", nullptr, 0},
     {"VideoInOptions", ParseVideoInOptions, sizeof(VideoInOptionsConfig)},
-    {"RTSP", nullptr, 0},
-    {"Multicast", nullptr, 0},
+    {"RTSP", ParseRtsp, sizeof(RtspConfig)},
+    {"Multicast", ParseMulticast, sizeof(MulticastConfig)},
     {"userManager.getActiveUserInfoAll", nullptr, 0}, // parse only
     {"videoStatServer.getSummary", nullptr, 0}, // parse only
     {"TrafficSnapshotNew", nullptr, 0},
@@ -95,7 +95,7 @@ const ParseName kParseNames[] = {
     {"RecordToGroup", nullptr, 0},
     {"IVSFramRule", nullptr, 0}, // parse only
     {"Comm", nullptr, 0},
-    {"Network", nullptr, 0},
+    {"Network", ParseNetwork, sizeof(NetworkConfig)},
     {"NAS", ParseNas, sizeof(NasConfig)},
     {"RecordStoragePoint", nullptr, 0},
     {"IntelliTrackScene", nullptr, 0},
@@ -128,7 +128,7 @@ const ParseName kParseNames[] = {
     {"DiskFluxAlarm", nullptr, 0},
     {"NetFluxAlarm", nullptr, 0},
     {"HolidaySchedule", nullptr, 0},
-    {"DVRIP", nullptr, 0},
+    {"DVRIP", ParseDvrip, sizeof(DvripConfig)},
     {"ParkingSpaceScreen", nullptr, 0},
     {"ParkingSpaceCellStatus", nullptr, 0},
     {"ClientCustomData", nullptr, 0},

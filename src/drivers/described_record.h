@@ -34,6 +34,16 @@ bool PackDescribed(const unsigned char* record, Json::Value& out) {
   return PackValue(record, kWhole, &out);
 }
 
+// A record that carries its own size, for a frame that does not clear the
+// buffer: cleared with its size word written (also for a null element),
+// then read like ParseDescribed.
+template <typename Rec, const Field& kWhole>
+bool ParseDescribedSized(const Json::Value& element, const StepContext& ctx,
+                         unsigned char* record) {
+  StartSizedRecord(record, sizeof(Rec));
+  return ParseDescribed<kWhole>(element, ctx, record);
+}
+
 // The frame of a described per-channel record: "result" must be true, the
 // caller's buffer is cleared, element i of an array table fills record i
 // (as many as fit), any other table fills record 0, and the returned length

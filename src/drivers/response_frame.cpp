@@ -105,6 +105,11 @@ uint32_t CallerRecordSize(const void* buf, uint32_t len) {
   return (size < 1 || size > len) ? 0 : size;
 }
 
+void StartSizedRecord(unsigned char* record, uint32_t size) {
+  std::memset(record, 0, size);
+  if (size >= sizeof size) std::memcpy(record, &size, sizeof size);
+}
+
 int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule) {
   const std::string text = WriteJson(value);
   const bool copied = rule == CopyRule::kAtMost ? CopyTextAtMost(text, outJson, outLen)
@@ -118,6 +123,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     if (jsonText == nullptr || outBuf == nullptr || f.parse == nullptr || f.recordSize == 0) {
       return 0;
     }
+    if (f.refuseEmptyText && *jsonText == '\0') return 0;
     unsigned char* out = static_cast<unsigned char*>(outBuf);
     uint32_t stride = f.recordSize;
     if (f.walk == RecordWalk::kCallerSized) {
@@ -131,12 +137,12 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     Json::Value root;
     if (!ReadJson(jsonText, &root)) return 0;
     if (f.result == ResultRule::kMustBeTrue && !ResultIsTrue(root)) return 0;
-    if (f.result == ResultRule::kNotFalse && !Member(root, "result").isNull() &&
+    if (f.result == ResultRule::kFalseFails && !Member(root, "result").isNull() &&
         !ResultIsTrue(root)) {
       return 0;
     }
     const Json::Value& table = TableOf(f, root);
-    if (table.isNull()) {
+    if (table.isNull() && f.nullTable != NullTable::kStep) {
       switch (f.nullTable) {
         case NullTable::kFail:
           return 0;

@@ -45,7 +45,7 @@ using PackStep = bool (*)(const unsigned char* record, Json::Value& out);
 enum class ResultRule : uint8_t {
   kMustBeTrue,
   kIgnored,
-  kNotFalse,  // only a "result" that is given and false fails
+  kFalseFails,  // only a "result" that is present, not null and false fails
 };
 // Where the records' JSON sits.
 enum class TableAt : uint8_t { kParamsTable, kParams, kRoot };
@@ -54,7 +54,7 @@ enum class NullTable : uint8_t {
   kSucceedEmpty,   // success, no record filled (returned length 0)
   kFail,           // failure
   kAllZeroRecord,  // success with one cleared record
-  kStep,           // the step reads it like any other table (one call, null element)
+  kStep,           // the step reads the null table like any other and fills record 0
 };
 // How the caller's buffer is cleared before the text is read.
 enum class Clearing : uint8_t { kWholeBuffer, kRecords, kNone };
@@ -117,6 +117,7 @@ struct ResponseFrame {
   // Pack: bytes of text every record needs at least; an input of more
   // records than the output could hold is refused before any is packed.
   uint32_t minTextPerRecord = 0;
+  bool refuseEmptyText = false;  // an empty text fails before anything is cleared
 
   template <typename Rec>
   static constexpr ResponseFrame For(ParseStep p, PackStep k) {
@@ -126,8 +127,8 @@ struct ResponseFrame {
     f.pack = k;
     return f;
   }
-  constexpr ResponseFrame IgnoreResult() const { auto f = *this; f.result = ResultRule::kIgnored; return f; }
   constexpr ResponseFrame Result(ResultRule r) const { auto f = *this; f.result = r; return f; }
+  constexpr ResponseFrame IgnoreResult() const { auto f = *this; f.result = ResultRule::kIgnored; return f; }
   constexpr ResponseFrame Table(TableAt t) const { auto f = *this; f.tableAt = t; return f; }
   constexpr ResponseFrame OnNullTable(NullTable n) const { auto f = *this; f.nullTable = n; return f; }
   constexpr ResponseFrame Clear(Clearing c) const { auto f = *this; f.clearing = c; return f; }
@@ -154,6 +155,7 @@ struct ResponseFrame {
     return f;
   }
   constexpr ResponseFrame MinTextPerRecord(uint32_t n) const { auto f = *this; f.minTextPerRecord = n; return f; }
+  constexpr ResponseFrame RefuseEmptyText() const { auto f = *this; f.refuseEmptyText = true; return f; }
 };
 
 // 1 on success, 0 on failure. Never writes past `outLen`; on failure the
@@ -169,6 +171,11 @@ int PackWithFrame(const ResponseFrame& frame, const void* inBuf, uint32_t inLen,
 // The caller's record size from the first record's leading uint32: 0 when
 // the buffer cannot hold the size word, or the size is 0 or above `len`.
 uint32_t CallerRecordSize(const void* buf, uint32_t len);
+
+// Starts a record that carries its own size, for a step of a frame that
+// does not clear the buffer: clears its `size` bytes and writes `size` into
+// its leading uint32.
+void StartSizedRecord(unsigned char* record, uint32_t size);
 
 // Writes `value` as single-line text into `outJson` under `rule`. 1 when copied.
 int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule);

@@ -36,16 +36,16 @@ extern "C" {
 #endif
 
 enum {
-  KOVA_ANALYSE_MAX_POINTS = 20,         // points of one line or region
-  KOVA_RULE_NAME_LENGTH = 128,          // "Name" and each "ObjectTypes" entry
-  KOVA_RULE_MAX_OBJECT_TYPES = 16,      // "ObjectTypes" entries kept
-  KOVA_MAX_TRIGGER_POSITIONS = 8,       // "TriggerPosition" entries read
-  KOVA_SIZE_FILTER_MAX_BOXES = 10,      // entries of each calibration box list
-  KOVA_CROSS_REGION_MAX_ACTIONS = 4,    // "Action" entries read
-  KOVA_DIRECTION_LINE_POINTS = 2,       // points of a DirectionLine
-  KOVA_MAX_DETECT_TYPES = 4,            // entries of a "DetectType" list read
-  KOVA_RULE_LIST_MAX_RULES = 32,        // rules read from one rule list
-  KOVA_RULE_ENTRY_HEADER_SIZE = 12,     // bytes of RuleEntryHeader
+  KOVA_ANALYSE_MAX_POINTS = 20,       // points of one line or region
+  KOVA_RULE_NAME_LENGTH = 128,        // "Name" and each "ObjectTypes" entry
+  KOVA_RULE_MAX_OBJECT_TYPES = 16,    // "ObjectTypes" entries kept
+  KOVA_MAX_TRIGGER_POSITIONS = 8,     // "TriggerPosition" entries read
+  KOVA_SIZE_FILTER_MAX_BOXES = 10,    // entries of each calibration box list
+  KOVA_CROSS_REGION_MAX_ACTIONS = 4,  // "Action" entries read
+  KOVA_DIRECTION_LINE_POINTS = 2,     // points of a DirectionLine
+  KOVA_MAX_DETECT_TYPES = 4,          // entries of a "DetectType" list read
+  KOVA_RULE_LIST_MAX_RULES = 32,      // rules read from one rule list
+  KOVA_RULE_ENTRY_HEADER_SIZE = 12,   // bytes of RuleEntryHeader
 };
 
 // ---------------------------------------------------------------------------
@@ -146,22 +146,22 @@ typedef struct SizeFilterBlock {
   uint8_t minRatioSizePresent;
   uint8_t maxRatioSizePresent;
   uint8_t bySizePresent;
-  uint8_t byArea;               // "ByArea" (0/1): filter by area
-  uint8_t byRatio;              // "ByRatio" (0/1): filter by aspect ratio
-  uint8_t bySize;               // "BySize" (0/1): filter by width and height
-  int32_t measureMode;          // "MeasureMode", KOVA_MEASURE_*
-  int32_t type;                 // "Type", KOVA_SIZE_FILTER_*
-  float minSize[2];             // "MinSize" [w, h]
-  float maxSize[2];             // "MaxSize" [w, h]
-  float minArea;                // "MinArea"
-  float maxArea;                // "MaxArea"
-  float minAreaSize[2];         // "MinAreaSize" [w, h]
-  float maxAreaSize[2];         // "MaxAreaSize" [w, h]
-  double minRatio;              // "MinRatio"
-  double maxRatio;              // "MaxRatio"
-  float minRatioSize[2];        // "MinRatioSize" [w, h]
-  float maxRatioSize[2];        // "MaxRatioSize" [w, h]
-  uint32_t calibrateBoxCount;   // "CalibrateBoxs" entries looked at (at most 10)
+  uint8_t byArea;              // "ByArea" (0/1): filter by area
+  uint8_t byRatio;             // "ByRatio" (0/1): filter by aspect ratio
+  uint8_t bySize;              // "BySize" (0/1): filter by width and height
+  int32_t measureMode;         // "MeasureMode", KOVA_MEASURE_*
+  int32_t type;                // "Type", KOVA_SIZE_FILTER_*
+  float minSize[2];            // "MinSize" [w, h]
+  float maxSize[2];            // "MaxSize" [w, h]
+  float minArea;               // "MinArea"
+  float maxArea;               // "MaxArea"
+  float minAreaSize[2];        // "MinAreaSize" [w, h]
+  float maxAreaSize[2];        // "MaxAreaSize" [w, h]
+  double minRatio;             // "MinRatio"
+  double maxRatio;             // "MaxRatio"
+  float minRatioSize[2];       // "MinRatioSize" [w, h]
+  float maxRatioSize[2];       // "MaxRatioSize" [w, h]
+  uint32_t calibrateBoxCount;  // "CalibrateBoxs" entries looked at (at most 10)
   CalibrateBox calibrateBoxs[10];
   uint32_t areaCalibrateBoxCount;  // "AreaCalibrateBoxs" entries looked at (at most 10)
   CalibrateBox areaCalibrateBoxs[10];
@@ -193,19 +193,19 @@ typedef struct SizeFilterSettings {
   uint8_t minRatioSizePresent;
   uint8_t maxRatioSizePresent;
   uint8_t bySizePresent;
-  uint8_t byArea;        // "ByArea" (0/1)
-  uint8_t byRatio;       // "ByRatio" (0/1)
-  uint8_t bySize;        // "BySize" (0/1)
-  int32_t measureMode;   // "MeasureMode", KOVA_MEASURE_*
-  int32_t type;          // "Type", KOVA_SIZE_FILTER_*
-  float minSize[2];      // "MinSize" [w, h]
-  float maxSize[2];      // "MaxSize" [w, h]
-  float minArea;         // "MinArea"
-  float maxArea;         // "MaxArea"
-  float minAreaSize[2];  // "MinAreaSize" [w, h]
-  float maxAreaSize[2];  // "MaxAreaSize" [w, h]
-  double minRatio;       // "MinRatio"
-  double maxRatio;       // "MaxRatio"
+  uint8_t byArea;         // "ByArea" (0/1)
+  uint8_t byRatio;        // "ByRatio" (0/1)
+  uint8_t bySize;         // "BySize" (0/1)
+  int32_t measureMode;    // "MeasureMode", KOVA_MEASURE_*
+  int32_t type;           // "Type", KOVA_SIZE_FILTER_*
+  float minSize[2];       // "MinSize" [w, h]
+  float maxSize[2];       // "MaxSize" [w, h]
+  float minArea;          // "MinArea"
+  float maxArea;          // "MaxArea"
+  float minAreaSize[2];   // "MinAreaSize" [w, h]
+  float maxAreaSize[2];   // "MaxAreaSize" [w, h]
+  double minRatio;        // "MinRatio"
+  double maxRatio;        // "MaxRatio"
   float minRatioSize[2];  // "MinRatioSize" [w, h]
   float maxRatioSize[2];  // "MaxRatioSize" [w, h]
 } SizeFilterSettings;
@@ -263,13 +263,13 @@ enum {
 // case; a name that matches nothing leaves 0.
 typedef struct CrossLineRule {
   RuleHead head;
-  int32_t direction;             // "Direction", KOVA_LINE_*
-  PointList detectLine;          // "DetectLine"
+  int32_t direction;     // "Direction", KOVA_LINE_*
+  PointList detectLine;  // "DetectLine"
   RuleLinkage linkage;
-  uint32_t sizeFilterPresent;    // 1 when "SizeFilter" was an object; packs it when non-zero
-  SizeFilterBlock sizeFilter;    // "SizeFilter"
+  uint32_t sizeFilterPresent;         // 1 when "SizeFilter" was an object; packs it when non-zero
+  SizeFilterBlock sizeFilter;         // "SizeFilter"
   TriggerPositions triggerPositions;  // "TriggerPosition"
-  int32_t trackDuration;         // "TrackDuration", seconds
+  int32_t trackDuration;              // "TrackDuration", seconds
 } CrossLineRule;
 
 // "Direction" of a region crossing.
@@ -291,20 +291,20 @@ enum {
 // region.
 typedef struct CrossRegionRule {
   RuleHead head;
-  int32_t direction;           // "Direction", KOVA_REGION_*
-  PointList detectRegion;      // "DetectRegion"
+  int32_t direction;       // "Direction", KOVA_REGION_*
+  PointList detectRegion;  // "DetectRegion"
   RuleLinkage linkage;
   uint32_t sizeFilterPresent;  // 1 when "SizeFilter" was an object; packs it when non-zero
   SizeFilterBlock sizeFilter;  // "SizeFilter"
   // "Action": non-null entries among the first 4; entry i goes to slot i
   // (a null entry keeps its slot, an unknown name is counted and leaves 0).
   uint32_t actionCount;
-  uint8_t actions[4];          // KOVA_ACTION_*
-  int32_t minTargets;          // "MinTargets"
-  int32_t maxTargets;          // "MaxTargets"
-  int32_t minDuration;         // "MinDuration", seconds
-  int32_t reportInterval;      // "ReportInterval", seconds
-  int32_t trackDuration;       // "TrackDuration", seconds
+  uint8_t actions[4];      // KOVA_ACTION_*
+  int32_t minTargets;      // "MinTargets"
+  int32_t maxTargets;      // "MaxTargets"
+  int32_t minDuration;     // "MinDuration", seconds
+  int32_t reportInterval;  // "ReportInterval", seconds
+  int32_t trackDuration;   // "TrackDuration", seconds
 } CrossRegionRule;
 
 // ---------------------------------------------------------------------------
@@ -420,7 +420,7 @@ static_assert(offsetof(RuleLinkage, ptzPresetId) == 339084, "RuleLinkage layout"
 
 // A rule record is the body size of its type codes, and its linkage part
 // sits where its leading keys end.
-#define KOVA_RULE_LAYOUT(Rec, bodySize, linkageAt)                                  \
+#define KOVA_RULE_LAYOUT(Rec, bodySize, linkageAt)                                 \
   static_assert(sizeof(Rec) == (bodySize), #Rec " is the body size of its types"); \
   static_assert(offsetof(Rec, linkage) == (linkageAt), #Rec " layout")
 

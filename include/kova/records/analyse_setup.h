@@ -42,16 +42,16 @@ typedef struct SpecialDetectRegion {
 // written on pack; each later member has a presence flag (set on parse when
 // the key is present; on pack, the member is written only when it is set).
 typedef struct AnalyseModule {
-  char objectType[128];  // "ObjectType", local code page
-  uint8_t snapShot;      // "SnapShot" (0/1)
-  uint8_t sensitivity;   // "Sensitivity", cut to 8 bits
+  char objectType[128];    // "ObjectType", local code page
+  uint8_t snapShot;        // "SnapShot" (0/1)
+  uint8_t sensitivity;     // "Sensitivity", cut to 8 bits
   PointList detectRegion;  // "DetectRegion" (the point rule of PointList)
   // "ExcludeRegion": regions looked at (at most 10); entry i goes to slot i
   // (a null or malformed entry keeps its slot empty).
   uint32_t excludeRegionCount;
   PointList excludeRegions[10];
-  PointList trackRegion;     // "TrackRegion"
-  char backgroud[256];       // "Backgroud" (so spelled by the devices), as JSON text
+  PointList trackRegion;       // "TrackRegion"
+  char backgroud[256];         // "Backgroud" (so spelled by the devices), as JSON text
   SizeFilterBlock sizeFilter;  // "SizeFilter"
   char objectFilter[256];      // "ObjectFilter", as JSON text
   char objectImageSize[128];   // "ObjectImageSize", as JSON text
@@ -128,8 +128,8 @@ enum {
 
 // A day/night period: "TimePeriod" and each "TimePeriod%d".
 typedef struct DayNightPeriod {
-  ClockRange day;      // "Day" [start, end]
-  ClockRange night;    // "Night" [start, end]
+  ClockRange day;    // "Day" [start, end]
+  ClockRange night;  // "Night" [start, end]
   // "SwitchMode", KOVA_SWITCH_*; another name leaves it unchanged; a value
   // without a name is not written.
   int32_t switchMode;
@@ -147,19 +147,19 @@ enum {
 // "PtzPresetId" and "Depth" are always written on pack; the others when
 // their flags are set.
 typedef struct AnalyseScene {
-  char type[128];            // "Type", local code page
-  uint32_t typeListCount;    // "TypeList" entries looked at (at most 8)
-  char typeList[8][16];      // "TypeList"[i], local code page
-  int32_t ptzPresetId;       // "PtzPresetId"
-  int32_t jitter;            // "Jitter"
-  int32_t depth;             // "Depth", KOVA_DEPTH_*
+  char type[128];          // "Type", local code page
+  uint32_t typeListCount;  // "TypeList" entries looked at (at most 8)
+  char typeList[8][16];    // "TypeList"[i], local code page
+  int32_t ptzPresetId;     // "PtzPresetId"
+  int32_t jitter;          // "Jitter"
+  int32_t depth;           // "Depth", KOVA_DEPTH_*
   uint8_t jitterPresent;
-  uint8_t dejitter;          // "Dejitter" (0/1)
+  uint8_t dejitter;  // "Dejitter" (0/1)
   uint8_t dejitterPresent;
   uint8_t customDataPresent;
   uint8_t detailPresent;
-  char customData[1024];     // "CustomData": the string's bytes, unchanged
-  char detail[1024];         // "Detail" (laid out per scene type), as JSON text
+  char customData[1024];  // "CustomData": the string's bytes, unchanged
+  char detail[1024];      // "Detail" (laid out per scene type), as JSON text
 } AnalyseScene;
 
 // One staff (a calibration line of known real length).
@@ -201,7 +201,7 @@ typedef struct VideoAnalyseGlobalConfig {
   DayNightPeriod* periods;           // caller's buffer for "TimePeriod%d"
   AnalyseScene scene;                // "Scene"
   CalibrateArea calibrateAreas[32];
-  AnalyseScene scenes[8];            // the multi-scene list
+  AnalyseScene scenes[8];  // the multi-scene list
 } VideoAnalyseGlobalConfig;
 
 #ifdef __cplusplus
@@ -218,7 +218,8 @@ static_assert(sizeof(DayNightPeriod) == 52, "DayNightPeriod layout");
 static_assert(sizeof(AnalyseScene) == 2328, "AnalyseScene layout");
 static_assert(sizeof(CalibrateStaff) == 24, "CalibrateStaff layout");
 static_assert(sizeof(CalibrateArea) == 200, "CalibrateArea layout");
-static_assert(offsetof(VideoAnalyseGlobalConfig, timePeriod) == 44, "VideoAnalyseGlobalConfig layout");
+static_assert(offsetof(VideoAnalyseGlobalConfig, timePeriod) == 44,
+              "VideoAnalyseGlobalConfig layout");
 static_assert(offsetof(VideoAnalyseGlobalConfig, periodCount) == 96,
               "VideoAnalyseGlobalConfig layout");
 static_assert(sizeof(void*) != 8 || offsetof(VideoAnalyseGlobalConfig, periods) == 104,

@@ -154,7 +154,7 @@ struct Slot {
 
 struct Field {
   const char* key = nullptr;  // JSON member name (unused for list entries)
-  uint32_t offset = 0;        // of the member in the record (list entry: in its slot, usually 0)
+  uint32_t offset = 0;        // of the member in the record (0 for a list entry)
   uint32_t size = 0;          // bytes of the member: of one item for tuples, one slot for lists
   FieldKind kind = FieldKind::kInt;
   FieldShape shape = FieldShape::kScalar;
@@ -310,8 +310,6 @@ constexpr Field MakeTuple(const char* key, size_t offset, uint32_t n) {
   return f;
 }
 
-// A list over an array member; a slot is one element of its first
-// dimension (char[8][16] is a list of eight 16-byte texts).
 template <typename T>
 constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
   static_assert(std::is_array<T>::value, "a list member is an array");
@@ -323,6 +321,18 @@ constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
   f.shape = FieldShape::kList;
   f.element = element;
   f.capacity = static_cast<uint32_t>(std::extent<T>::value);
+  return f;
+}
+
+// A JSON object whose members are fields of the enclosing record itself
+// (a flat record read from "RTP": {"StartPort", "EndPort"}): `members`
+// gives offsets in the enclosing record.
+constexpr Field MakeGroup(const char* key, const FieldTable& members) {
+  Field f;
+  f.key = key;
+  f.kind = FieldKind::kObject;
+  f.shape = FieldShape::kNested;
+  f.table = &members;
   return f;
 }
 
@@ -355,6 +365,9 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
 // A nested object read with its type's own table (see KOVA_DESCRIBE).
 #define KOVA_NESTED(Rec, member, key) \
   ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
+// A nested JSON object over members of the same record: KOVA_GROUP("RTP", kRtpTable),
+// kRtpTable a constexpr FieldTable of the record's own fields.
+#define KOVA_GROUP(key, members) ::kova::MakeGroup(key, members)
 // A tuple of n items of type Item ([x, y]: KOVA_TUPLE(Rec, pt, "Point", int32_t, 2)); by
 // default all n items are required, .MinItems(k) lowers that.
 #define KOVA_TUPLE(Rec, member, key, Item, n)                                                    \

@@ -25,8 +25,8 @@ void PackJsonText(const unsigned char* record, Json::Value& obj, const Field& f)
 
 }  // namespace kova
 
-#define KOVA_JSON_TEXT(Rec, member, key)                                              \
-  ::kova::MakeCustom(key, offsetof(Rec, member), KOVA_MEMBER_SIZE(Rec, member),      \
+#define KOVA_JSON_TEXT(Rec, member, key)                                        \
+  ::kova::MakeCustom(key, offsetof(Rec, member), KOVA_MEMBER_SIZE(Rec, member), \
                      ::kova::ParseJsonText, ::kova::PackJsonText)
 
 #endif  // KOVA_COMMON_JSON_TEXT_H_

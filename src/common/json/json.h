@@ -67,6 +67,20 @@ void ForEachElement(const Json::Value& v, uint32_t limit, Visit visit) {
   }
 }
 
+// Calls `visit(name, value)` for each member of an object, in the JSON
+// library's member order (ascending by the bytes of the name), until it
+// returns false; does nothing for any other value. `name` keeps embedded NULs.
+template <typename Visit>
+void ForEachMember(const Json::Value& obj, Visit visit) {
+  if (!obj.isObject()) return;
+  for (auto it = obj.begin(); it != obj.end(); ++it) {
+    const char* end = nullptr;
+    const char* begin = it.memberName(&end);
+    const std::string name = begin != nullptr ? std::string(begin, end) : std::string();
+    if (!visit(name, *it)) return;
+  }
+}
+
 // Writable member `key`: `obj` becomes an object first when it is not one
 // (a non-null value of another type is replaced).
 Json::Value& SetMember(Json::Value& obj, const char* key);

@@ -11,8 +11,8 @@
 #include "common/fields/field_table.h"
 #include "common/fields/json_text.h"
 #include "common/json/json.h"
-#include "config/analyse/translators.h"
 #include "config/analyse/analyse_frame.h"
+#include "config/analyse/translators.h"
 
 namespace kova {
 
@@ -50,7 +50,8 @@ void PackClockRange(const unsigned char* record, Json::Value& obj, const Field& 
   KOVA_CUSTOM(DayNightPeriod, member, key, ParseClockRange, PackClockRange)
 
 inline constexpr const char* kSwitchModeNames[] = {"ByColor", "ByBrightness"};
-inline constexpr EnumNames kSwitchModes = EnumNames::Of(kSwitchModeNames).FirstValue(1).OmitUnnamed();
+inline constexpr EnumNames kSwitchModes =
+    EnumNames::Of(kSwitchModeNames).FirstValue(1).OmitUnnamed();
 
 inline constexpr Field kPeriodFields[] = {
     KOVA_CLOCK_RANGE(day, "Day"),
@@ -114,7 +115,7 @@ struct NumberedSlots {
   const char* base;
   uint32_t first;
   uint32_t slots;
-  size_t at;         // offset of slot 0 in the record
+  size_t at;  // offset of slot 0 in the record
   size_t slotSize;
   size_t flagsAt;    // offset of the uint8 flag of slot 0
   FieldTable table;  // of one slot
@@ -127,7 +128,8 @@ std::string NumberedKey(const char* base, uint32_t number) {
 const NumberedSlots kNumbered[] = {
     {"CalibrateArea", 0, KOVA_GLOBAL_MAX_CALIBRATE_AREAS, offsetof(G, calibrateAreas),
      sizeof(CalibrateArea), offsetof(G, calibrateAreaPresent),
-     FieldTable{kCalibrateAreaFields, sizeof kCalibrateAreaFields / sizeof kCalibrateAreaFields[0]}},
+     FieldTable{kCalibrateAreaFields,
+                sizeof kCalibrateAreaFields / sizeof kCalibrateAreaFields[0]}},
     {"Scene", 1, KOVA_GLOBAL_MAX_SCENES, offsetof(G, scenes), sizeof(AnalyseScene),
      offsetof(G, scenesPresent), Description<AnalyseScene>::table},
 };
@@ -157,7 +159,8 @@ void PackNumbered(const unsigned char* record, Json::Value& table) {
 // "TimePeriod1", "TimePeriod2", ... into the caller's array, while the
 // numbers run on and the array has room.
 void ParsePeriods(const Json::Value& table, G* g) {
-  const uint32_t room = g->periods == nullptr ? 0 : std::min<uint32_t>(g->periodCount, KOVA_GLOBAL_MAX_PERIODS);
+  const uint32_t room =
+      g->periods == nullptr ? 0 : std::min<uint32_t>(g->periodCount, KOVA_GLOBAL_MAX_PERIODS);
   uint32_t found = 0;
   while (found < room) {
     const Json::Value& v = Member(table, NumberedKey("TimePeriod", found + 1).c_str());
@@ -211,7 +214,7 @@ bool PackGlobal(const unsigned char* record, Json::Value& out) {
 
 // Only a "result" given and false fails.
 constexpr ResponseFrame kGlobalFrame =
-    AnalyseFrame<G>(ParseGlobal, PackGlobal).Result(ResultRule::kNotFalse);
+    AnalyseFrame<G>(ParseGlobal, PackGlobal).Result(ResultRule::kFalseFails);
 
 }  // namespace
 

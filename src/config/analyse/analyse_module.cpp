@@ -6,8 +6,8 @@
 #include "common/fields/field_table.h"
 #include "common/fields/json_text.h"
 #include "common/json/json.h"
-#include "config/analyse/translators.h"
 #include "config/analyse/analyse_frame.h"
+#include "config/analyse/translators.h"
 
 namespace kova {
 
@@ -103,7 +103,8 @@ bool PackModules(const unsigned char* record, Json::Value& out) {
 
 // Only a "result" given and false fails.
 constexpr ResponseFrame kModuleFrame =
-    AnalyseFrame<VideoAnalyseModuleConfig>(ParseModules, PackModules).Result(ResultRule::kNotFalse);
+    AnalyseFrame<VideoAnalyseModuleConfig>(ParseModules, PackModules)
+        .Result(ResultRule::kFalseFails);
 
 }  // namespace
 

@@ -19,10 +19,10 @@
 
 #include "common/base/log.h"
 #include "common/json/json.h"
+#include "config/analyse/analyse_frame.h"
 #include "config/analyse/rule_config.h"
 #include "config/analyse/rule_types.h"
 #include "config/analyse/translators.h"
-#include "config/analyse/analyse_frame.h"
 
 namespace kova {
 
@@ -78,9 +78,7 @@ bool PlanRule(const Json::Value& rule, RulePlan* plan) {
 }
 
 // True when a record at `p` may be worked on in place.
-bool Aligned(const void* p) {
-  return reinterpret_cast<uintptr_t>(p) % alignof(RuleLinkage) == 0;
-}
+bool Aligned(const void* p) { return reinterpret_cast<uintptr_t>(p) % alignof(RuleLinkage) == 0; }
 
 // Writes one entry at `at`, which has room for it and is cleared.
 bool WriteEntry(const Json::Value& rule, const RulePlan& plan, unsigned char* at) {

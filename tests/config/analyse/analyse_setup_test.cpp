@@ -1,6 +1,8 @@
 // "VideoAnalyseModule" and "VideoAnalyseGlobal" through the exported
 // functions: the samples field by field, their packed text and fixed point,
 // the envelope rules, limits, and the caller's room for numbered periods.
+#include "kova/records/analyse_setup.h"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -10,7 +12,6 @@
 
 #include "config/alarm/alarm_test_util.h"
 #include "kova/kova.h"
-#include "kova/records/analyse_setup.h"
 
 namespace {
 
@@ -117,12 +118,15 @@ TEST(VideoAnalyseModule, Limits) {
   std::string modules = "[null";
   for (int i = 1; i < 17; ++i) modules += R"(,{"ObjectType":"M)" + std::to_string(i) + "\"}";
   std::string regions = "[";
-  for (int i = 0; i < 11; ++i) regions += std::string(i ? "," : "") + "[[" + std::to_string(i) + ",1]]";
+  for (int i = 0; i < 11; ++i)
+    regions += std::string(i ? "," : "") + "[[" + std::to_string(i) + ",1]]";
   regions += "]";
   const std::string longFilter = R"({"Names":[")" + std::string(300, 'x') + R"("]})";
   modules += R"(,{"ObjectType":"Last"}])";
-  std::string first = R"([{"ExcludeRegion":)" + regions + R"(,"DetectRegion":[[1,2],[5],[3,4]],)"
-                      R"("ObjectFilter":)" + longFilter + R"(,"Sensitivity":300}])";
+  std::string first = R"([{"ExcludeRegion":)" + regions +
+                      R"(,"DetectRegion":[[1,2],[5],[3,4]],)"
+                      R"("ObjectFilter":)" +
+                      longFilter + R"(,"Sensitivity":300}])";
   int rc = 0;
   auto a = kova_test::ParseAs<VideoAnalyseModuleConfig>("VideoAnalyseModule", Doc(modules), &rc);
   ASSERT_EQ(1, rc);
@@ -217,8 +221,8 @@ TEST(VideoAnalyseGlobal, NumberedPeriods) {
     auto g = NewRecord<VideoAnalyseGlobalConfig>();
     g->periods = c.pointer ? periods.data() : nullptr;
     g->periodCount = c.room;
-    ASSERT_EQ(1, KOVA_ParseData("VideoAnalyseGlobal", Doc(c.table).c_str(), g.get(), sizeof *g,
-                                nullptr));
+    ASSERT_EQ(
+        1, KOVA_ParseData("VideoAnalyseGlobal", Doc(c.table).c_str(), g.get(), sizeof *g, nullptr));
     EXPECT_EQ(c.found, g->periodCount) << c.table;
     if (c.found > 0) {
       EXPECT_EQ(8, periods[0].day.start.hour);
@@ -269,8 +273,8 @@ TEST(VideoAnalyseGlobal, NumberedSlotsEnvelopeAndRawText) {
 
   auto kept = Filled<VideoAnalyseGlobalConfig>(0xAB);
   const std::string refused = R"({"result":false,"params":{"table":)" + table + "}}";
-  EXPECT_EQ(0, KOVA_ParseData("VideoAnalyseGlobal", refused.c_str(), kept.get(), sizeof *kept,
-                              nullptr));
+  EXPECT_EQ(
+      0, KOVA_ParseData("VideoAnalyseGlobal", refused.c_str(), kept.get(), sizeof *kept, nullptr));
   EXPECT_TRUE(AllBytes(*kept, 0xAB));
   EXPECT_EQ(0, KOVA_ParseData("VideoAnalyseGlobal", Doc(table).c_str(), kept.get(),
                               sizeof *kept - 1, nullptr));

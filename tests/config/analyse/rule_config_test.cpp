@@ -3,13 +3,15 @@
 #include "config/analyse/rule_config.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "common/base/log.h"
 #include "config/alarm/alarm_test_util.h"
@@ -20,11 +22,11 @@ namespace kova {
 namespace {
 
 TEST(RuleConfigTable, SeventyOneRowsInTheDevicesOrder) {
-  const uint32_t order[] = {2,   287, 3,   12,  13,  4,   8,   10,  272, 14,  9,   6,   7,   5,  277,
-                            278, 11,  15,  16,  275, 274, 19,  279, 21,  22,  23,  24,  26,  27, 303,
-                            264, 256, 265, 266, 257, 259, 260, 270, 283, 293, 292, 267, 261, 262, 263,
-                            286, 288, 258, 271, 291, 294, 296, 297, 298, 299, 300, 308, 312, 313, 314,
-                            301, 302, 341, 342, 343, 351, 315, 316, 514, 359, 362};
+  const uint32_t order[] = {
+      2,   287, 3,   12,  13,  4,   8,   10,  272, 14,  9,   6,   7,   5,   277, 278, 11,  15,
+      16,  275, 274, 19,  279, 21,  22,  23,  24,  26,  27,  303, 264, 256, 265, 266, 257, 259,
+      260, 270, 283, 293, 292, 267, 261, 262, 263, 286, 288, 258, 271, 291, 294, 296, 297, 298,
+      299, 300, 308, 312, 313, 314, 301, 302, 341, 342, 343, 351, 315, 316, 514, 359, 362};
   ASSERT_EQ(sizeof order / sizeof order[0], kRuleConfigRowCount);
   std::set<uint32_t> codes;
   for (size_t i = 0; i < kRuleConfigRowCount; ++i) {
@@ -42,7 +44,7 @@ TEST(RuleConfigTable, SeventyOneRowsInTheDevicesOrder) {
   EXPECT_EQ(&kCrossRegionRuleType, FindRuleType(KOVA_RULE_CROSS_REGION));
   EXPECT_EQ(&kFireRuleType, FindRuleType(12));  // one type in several rows
   EXPECT_EQ(&kFireRuleType, FindRuleType(13));
-  EXPECT_EQ(nullptr, FindRuleType(1));   // no row
+  EXPECT_EQ(nullptr, FindRuleType(1));  // no row
   EXPECT_EQ(offsetof(CrossLineRule, linkage), kCrossLineRuleType.linkageOffset);
 }
 
@@ -60,12 +62,11 @@ TEST(SceneClassNames, ParseAndPackTables) {
 
 // The two class reports, in the devices' own words.
 TEST(RuleList, ReportsMissingAndUnknownClasses) {
-  char path[] = "/tmp/kova_rule_log_XXXXXX";
-  const int fd = mkstemp(path);
-  ASSERT_GE(fd, 0);
-  close(fd);
+  const std::string path = (std::filesystem::temp_directory_path() /
+                            ("kova_rule_log_" + std::to_string(std::random_device()())))
+                               .string();
   LogSettings s = {};
-  std::snprintf(s.path, sizeof s.path, "%s", path);
+  std::snprintf(s.path, sizeof s.path, "%s", path.c_str());
   ASSERT_TRUE(OpenLogger(&s));
   const std::string doc = kova_test::Doc(
       R"([{"Type":"CrossLineDetection"},{"Type":"CrossLineDetection","Class":"Moon"}])");
@@ -75,7 +76,7 @@ TEST(RuleList, ReportsMissingAndUnknownClasses) {
   CloseLogger();
   std::ifstream in(path);
   const std::string log((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  std::remove(path);
+  std::remove(path.c_str());
   const size_t missing = log.find("This class type is not exist!");
   const size_t unknown = log.find("This calss type is unknown!");
   EXPECT_NE(std::string::npos, missing) << log;

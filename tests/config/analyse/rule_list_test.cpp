@@ -158,18 +158,18 @@ TEST(RuleList, SamplePacksToTheExpectedTextAndReachesAFixedPoint) {
 }
 
 TEST(RuleList, PackedTextOfEachType) {
-  const std::string doc = Doc(
-      "[" +
-      LineRule(R"({"Direction":"Both","DetectLine":[[0,1],[2,3]],"TriggerPosition":["Center"],)"
-               R"("TrackDuration":4})",
-               R"("Enable":true,"ObjectTypes":["Human"],"PtzPresetId":3,)") +
-      "," +
-      RegionRule(R"({"Direction":"Leave","DetectRegion":[[1,1],[9,9]],"Action":["Cross"],)"
-                 R"("MinTargets":1,"MaxTargets":5,"MinDuration":6,"ReportInterval":7,)"
-                 R"("TrackDuration":8,"SizeFilter":{"MeasureMode":"metric","MinSize":[1,2],)"
-                 R"("AreaCalibrateBoxs":[{"CenterPoint":[10,20],"Ratio":0.5}]}})",
-                 R"("TrackEnable":true,)") +
-      "]");
+  const std::string doc =
+      Doc("[" +
+          LineRule(R"({"Direction":"Both","DetectLine":[[0,1],[2,3]],"TriggerPosition":["Center"],)"
+                   R"("TrackDuration":4})",
+                   R"("Enable":true,"ObjectTypes":["Human"],"PtzPresetId":3,)") +
+          "," +
+          RegionRule(R"({"Direction":"Leave","DetectRegion":[[1,1],[9,9]],"Action":["Cross"],)"
+                     R"("MinTargets":1,"MaxTargets":5,"MinDuration":6,"ReportInterval":7,)"
+                     R"("TrackDuration":8,"SizeFilter":{"MeasureMode":"metric","MinSize":[1,2],)"
+                     R"("AreaCalibrateBoxs":[{"CenterPoint":[10,20],"Ratio":0.5}]}})",
+                     R"("TrackEnable":true,)") +
+          "]");
   Rules r(2 * (kHeader + kRegion));
   ASSERT_EQ(1, r.Parse(doc));
   std::string off;
@@ -178,22 +178,25 @@ TEST(RuleList, PackedTextOfEachType) {
   for (int d = 0; d < 7; ++d) week += std::string(d ? ", " : "") + "[ " + off + " ]";
   week += " ]";
   const std::string handler = R"("EventHandler" : { "AlarmOutEnable" : false, )"
-                              R"("RecordEnable" : false, "TimeSection" : )" + week + " }, ";
+                              R"("RecordEnable" : false, "TimeSection" : )" +
+                              week + " }, ";
   EXPECT_EQ(
       R"([ { "Class" : "Normal", "Config" : { "DetectLine" : [ [ 0, 1 ], [ 2, 3 ] ], )"
       R"("Direction" : "Both", "TrackDuration" : 4, "TriggerPosition" : [ "Center" ] }, )"
-      R"("Enable" : true, )" + handler +
-      R"("Name" : "R", "ObjectTypes" : [ "Human" ], "PtzPresetId" : 3, "TrackEnable" : false, )"
-      R"("Type" : "CrossLineDetection" }, )"
-      R"({ "Class" : "Normal", "Config" : { "Action" : [ "Cross" ], )"
-      R"("DetectRegion" : [ [ 1, 1 ], [ 9, 9 ] ], "Direction" : "Leave", "MaxTargets" : 5, )"
-      R"("MinDuration" : 6, "MinTargets" : 1, "ReportInterval" : 7, "SizeFilter" : { )"
-      R"("AreaCalibrateBoxs" : [ { "CenterPoint" : [ 10, 20 ], "Ratio" : 0.5000000000000000 } ], )"
-      R"("MeasureMode" : "Metric", "MinSize" : [ 1.000000000000000, 2.000000000000000 ] }, )"
-      R"("TrackDuration" : 8 }, "Enable" : false, )" + handler +
-      R"("Name" : "R", "ObjectTypes" : [  ], "PtzPresetId" : 0, "TrackEnable" : true, )"
-      R"("Type" : "CrossRegionDetection" } ])"
-      "\n",
+      R"("Enable" : true, )" +
+          handler +
+          R"("Name" : "R", "ObjectTypes" : [ "Human" ], "PtzPresetId" : 3, "TrackEnable" : false, )"
+          R"("Type" : "CrossLineDetection" }, )"
+          R"({ "Class" : "Normal", "Config" : { "Action" : [ "Cross" ], )"
+          R"("DetectRegion" : [ [ 1, 1 ], [ 9, 9 ] ], "Direction" : "Leave", "MaxTargets" : 5, )"
+          R"("MinDuration" : 6, "MinTargets" : 1, "ReportInterval" : 7, "SizeFilter" : { )"
+          R"("AreaCalibrateBoxs" : [ { "CenterPoint" : [ 10, 20 ], "Ratio" : 0.5000000000000000 } ], )"
+          R"("MeasureMode" : "Metric", "MinSize" : [ 1.000000000000000, 2.000000000000000 ] }, )"
+          R"("TrackDuration" : 8 }, "Enable" : false, )" +
+          handler +
+          R"("Name" : "R", "ObjectTypes" : [  ], "PtzPresetId" : 0, "TrackEnable" : true, )"
+          R"("Type" : "CrossRegionDetection" } ])"
+          "\n",
       r.Pack());
 }
 
@@ -241,7 +244,7 @@ TEST(RuleList, FailuresAndWhatTheyLeave) {
   struct Case {
     std::string rules;
     uint32_t count;
-    bool cleared;        // false: untouched
+    bool cleared;  // false: untouched
     uint32_t entriesKept;
   } cases[] = {
       {line + "," + Rule("All", "{}"), 2, false, 0},
@@ -279,8 +282,8 @@ TEST(RuleList, RoomIsCheckedBeforeAnythingIsWritten) {
   EXPECT_EQ(1, exact.Parse(doc));
   EXPECT_EQ(0xAB, exact.buffer.back());
   VideoAnalyseRuleList nullBuffer = {0, nullptr, static_cast<uint32_t>(need)};
-  EXPECT_EQ(0, KOVA_ParseData("VideoAnalyseRule", doc.c_str(), &nullBuffer, sizeof nullBuffer,
-                              nullptr));
+  EXPECT_EQ(
+      0, KOVA_ParseData("VideoAnalyseRule", doc.c_str(), &nullBuffer, sizeof nullBuffer, nullptr));
   Rules tooSmallRecord(need);
   EXPECT_EQ(0, KOVA_ParseData("VideoAnalyseRule", doc.c_str(), &tooSmallRecord.list,
                               sizeof(VideoAnalyseRuleList) - 1, nullptr));
@@ -324,13 +327,16 @@ TEST(RuleList, SceneClasses) {
 // The device's edge cases of the common head and the two types' own keys.
 TEST(RuleList, RuleFieldRules) {
   std::string types;
-  for (int i = 0; i < 20; ++i) types += std::string(i ? "," : "") + "\"T" + std::to_string(i) + "\"";
+  for (int i = 0; i < 20; ++i)
+    types += std::string(i ? "," : "") + "\"T" + std::to_string(i) + "\"";
   const std::string doc = Doc(
-      "[" + LineRule(R"({"Direction":"righttoleft","DetectLine":[[1,2],[5],null,[7,8,9]],)"
-                     R"("TriggerPosition":["Center",null,"Up","BottomCenter","Center"]})",
-                     R"("ObjectTypes":[)" + types + "],") +
+      "[" +
+      LineRule(R"({"Direction":"righttoleft","DetectLine":[[1,2],[5],null,[7,8,9]],)"
+               R"("TriggerPosition":["Center",null,"Up","BottomCenter","Center"]})",
+               R"("ObjectTypes":[)" + types + "],") +
       "," + LineRule(R"({"Direction":"Sideways","TriggerPosition":[0,1,2,3,4,5,6,7,8,9]})") + "," +
-      RegionRule(R"({"Direction":"ENTER","Action":["Cross",null,"Nope","Appear","Inside","Cross"]})") +
+      RegionRule(
+          R"({"Direction":"ENTER","Action":["Cross",null,"Nope","Appear","Inside","Cross"]})") +
       "]");
   Rules r(3 * (kHeader + kRegion));
   ASSERT_EQ(1, r.Parse(doc));
