@@ -1,7 +1,9 @@
 #!/bin/sh
 # Runs the command-line tool over every shipped device response: each file
-# samples/NAME.json is parsed as NAME into records, and the records are
-# packed back into the text the device expects. Then every event
+# samples/NAME.json (or samples/NAME.what.json, one of several answers of
+# NAME) is parsed as NAME into records, and the records are packed back into
+# the text the device expects. Options for the tool come from
+# samples/NAME.what.args, else samples/NAME.args. Then every event
 # notification in samples/events/ is read by the analyzer event stream and
 # by the parse-by-callback reader, and every other device document there by
 # the parse-by-callback reader.
@@ -12,15 +14,24 @@ total=0
 ok=0
 built_parse=$("$tool" names | awk '$3 == "built"' | wc -l)
 built_pack=$("$tool" names | awk '$5 == "built"' | wc -l)
+names=$("$tool" names | awk '{print $1}')
 echo "kova demo: $built_parse parse and $built_pack pack translators built"
 echo
 for f in "$dir"/*.json; do
   [ -e "$f" ] || continue
-  name=$(basename "$f" .json)
+  stem=$(basename "$f" .json)
+  name=$stem
+  while ! printf '%s\n' "$names" | grep -qixF -- "$name" && [ "${name%.*}" != "$name" ]; do
+    name=${name%.*}
+  done
   total=$((total + 1))
   echo "== $name  ($f)"
   extra=""
-  [ -f "$dir/$name.args" ] && extra=$(cat "$dir/$name.args")
+  if [ -f "$dir/$stem.args" ]; then
+    extra=$(cat "$dir/$stem.args")
+  elif [ -f "$dir/$name.args" ]; then
+    extra=$(cat "$dir/$name.args")
+  fi
   # shellcheck disable=SC2086
   out=$("$tool" roundtrip "$name" "$f" $extra 2>&1)
   rc=$?

@@ -1,14 +1,19 @@
 // kova: the command-line tool for people who debug device integrations.
 //
 //   kova names                                 every name, its directions, built or not
-//   kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N]
+//   kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] [--rule-buffer N]
 //   kova pack NAME RECORD.bin [--size N]
-//   kova roundtrip NAME FILE [--size N] [--sized] [--channel N]
+//   kova roundtrip NAME FILE [--size N] [--sized] [--channel N] [--rule-buffer N]
 //   kova events FILE [--by-callback]           every event (or record) of a notification
 //
 // `--sized` is for the configurations whose records begin with their own
 // size, set by the caller: the record size is written into every slot of
 // the buffer before parsing.
+//
+// `--rule-buffer N` is for the analysis rule list ("VideoAnalyseRule",
+// "AudioAnalyseRule"), whose record points at a caller's buffer of rule
+// entries: the record is given a rule buffer of N bytes before parsing, and
+// `-o` writes the entries filled instead of the record.
 //
 // `--channel N` sets the document's top-level "channel" before parsing, as
 // the device's client does when it asks for one channel (-1: all channels).
@@ -39,6 +44,7 @@
 #include "common/json/json.h"
 #include "config/analyse/rule_types.h"
 #include "events/event_code_dictionary.h"
+#include "kova/records/analyse.h"
 #include "kova/records/events.h"
 
 namespace {
@@ -48,9 +54,9 @@ constexpr uint32_t kDefaultSize = 8u << 20;
 int Usage() {
   std::fprintf(stderr,
                "usage: kova names\n"
-               "       kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N]\n"
+               "       kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] [--rule-buffer N]\n"
                "       kova pack NAME RECORD.bin [--size N]\n"
-               "       kova roundtrip NAME FILE [--size N] [--sized] [--channel N]\n"
+               "       kova roundtrip NAME FILE [--size N] [--sized] [--channel N] [--rule-buffer N]\n"
                "       kova events FILE [--by-callback]\n"
                "option: --log FILE  append the library's error reports to FILE\n");
   return 2;
@@ -75,10 +81,20 @@ struct Options {
   uint32_t size = kDefaultSize;
   bool sized = false;
   bool byCallback = false;
+  uint32_t ruleBuffer = 0;  // bytes of the rule buffer; 0: none
   bool hasChannel = false;
   int32_t channel = 0;
   bool ok = true;
 };
+
+// A positive 32-bit number option; false when it is not one.
+bool ParseSize(const char* text, uint32_t* out) {
+  char* end = nullptr;
+  const unsigned long long n = std::strtoull(text, &end, 0);
+  if (*end != '\0' || n == 0 || n > 0xFFFFFFFFull) return false;
+  *out = static_cast<uint32_t>(n);
+  return true;
+}
 
 Options ParseOptions(int argc, char** argv) {
   Options o;
@@ -87,10 +103,9 @@ Options ParseOptions(int argc, char** argv) {
     if (a == "-o" && i + 1 < argc) {
       o.output = argv[++i];
     } else if (a == "--size" && i + 1 < argc) {
-      char* end = nullptr;
-      const unsigned long long n = std::strtoull(argv[++i], &end, 0);
-      if (*end != '\0' || n == 0 || n > 0xFFFFFFFFull) o.ok = false;
-      o.size = static_cast<uint32_t>(n);
+      if (!ParseSize(argv[++i], &o.size)) o.ok = false;
+    } else if (a == "--rule-buffer" && i + 1 < argc) {
+      if (!ParseSize(argv[++i], &o.ruleBuffer)) o.ok = false;
     } else if (a == "--sized") {
       o.sized = true;
     } else if (a == "--by-callback") {
@@ -125,6 +140,31 @@ int Names() {
                 kova::PackBuilt(static_cast<int>(k)) ? "built" : "not-built");
   }
   return 0;
+}
+
+// With `bytes` > 0, aims a rule list record at the start of `record` at a
+// new rule buffer `rules` of that many bytes.
+void AttachRuleBuffer(uint32_t bytes, std::vector<unsigned char>* record,
+                      std::vector<unsigned char>* rules) {
+  if (bytes == 0 || record->size() < sizeof(VideoAnalyseRuleList)) return;
+  rules->assign(bytes, 0);
+  VideoAnalyseRuleList list = {0, rules->data(), bytes};
+  std::memcpy(record->data(), &list, sizeof list);
+}
+
+// The bytes of the entries a parsed rule list holds.
+size_t RuleEntryBytes(const std::vector<unsigned char>& record,
+                      const std::vector<unsigned char>& rules) {
+  VideoAnalyseRuleList list;
+  std::memcpy(&list, record.data(), sizeof list);
+  size_t at = 0;
+  for (uint32_t i = 0; i < list.ruleCount && rules.size() - at >= sizeof(RuleEntryHeader); ++i) {
+    RuleEntryHeader header;
+    std::memcpy(&header, rules.data() + at, sizeof header);
+    if (rules.size() - at - sizeof header < header.bodySize) break;
+    at += sizeof header + header.bodySize;
+  }
+  return at;
 }
 
 // Sets the top-level "channel" of the document `json`. The rest is written
@@ -324,12 +364,19 @@ int Run(int argc, char** argv) {
 
   if (cmd == "parse" && o.args.size() == 2) {
     std::vector<unsigned char> record(o.size);
+    std::vector<unsigned char> rules;
+    AttachRuleBuffer(o.ruleBuffer, &record, &rules);
     uint32_t retLen = 0;
     const int rc = ParseInto(o.args[0], o.args[1], o, &record, &retLen);
     if (rc != 0) return rc;
-    const size_t n = retLen <= record.size() ? retLen : record.size();
+    size_t n = retLen <= record.size() ? retLen : record.size();
+    const unsigned char* bytes = record.data();
+    if (!rules.empty()) {
+      n = RuleEntryBytes(record, rules);
+      bytes = rules.data();
+    }
     if (!o.output.empty()) {
-      if (!WriteFile(o.output, record.data(), n)) {
+      if (!WriteFile(o.output, bytes, n)) {
         std::fprintf(stderr, "kova: cannot write %s\n", o.output.c_str());
         return 1;
       }
@@ -351,6 +398,8 @@ int Run(int argc, char** argv) {
 
   if (cmd == "roundtrip" && o.args.size() == 2) {
     std::vector<unsigned char> record(o.size);
+    std::vector<unsigned char> rules;
+    AttachRuleBuffer(o.ruleBuffer, &record, &rules);
     uint32_t retLen = 0;
     const int rc = ParseInto(o.args[0], o.args[1], o, &record, &retLen);
     if (rc != 0) return rc;

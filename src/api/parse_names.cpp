@@ -23,9 +23,9 @@ const ParseName kParseNames[] = {
     {"Ptz", ParsePtz, sizeof(PtzConfig)},
     {"PtzAutoMovement", nullptr, 0},
     {"WaterMark", nullptr, 0},
-    {"VideoAnalyseGlobal", nullptr, 0},
-    {"VideoAnalyseModule", nullptr, 0},
-    {"VideoAnalyseRule", nullptr, 0},
+    {"VideoAnalyseGlobal", ParseVideoAnalyseGlobal, sizeof(VideoAnalyseGlobalConfig)},
+    {"VideoAnalyseModule", ParseVideoAnalyseModule, sizeof(VideoAnalyseModuleConfig)},
+    {"VideoAnalyseRule", ParseVideoAnalyseRule, sizeof(VideoAnalyseRuleList)},
     {"devVideoAnalyse.getCaps", nullptr, 0}, // parse only
     {"VideoAnalyseSource", nullptr, 0},
     {"RainBrush", nullptr, 0},
@@ -105,7 +105,7 @@ const ParseName kParseNames[] = {
     {"capsManager.get&EventManagerEventHandler", nullptr, 0}, // parse only
     {"alarm.getAlarmCaps", nullptr, 0}, // parse only
     {"FlashLight", nullptr, 0},
-    {"AudioAnalyseRule", nullptr, 0},
+    {"AudioAnalyseRule", ParseVideoAnalyseRule, sizeof(VideoAnalyseRuleList)},
     {"devAudioAnalyse.getCaps", nullptr, 0}, // parse only
     {"Judicature", nullptr, 0},
     {"CQDTSet", nullptr, 0},

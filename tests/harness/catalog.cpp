@@ -179,6 +179,18 @@ void PointedBuffers::Attach(const char* name, uint8_t* records, size_t length, u
   }
 }
 
+void ClearPointerFields(const char* name, uint8_t* records, size_t length, uint32_t recordSize) {
+  if (recordSize == 0) return;
+  for (const RecordPointer* rp = kRecordPointers; rp->name != nullptr; ++rp) {
+    if (!kova::NameEquals(name, rp->name) || rp->pointerOffset + sizeof(void*) > recordSize) {
+      continue;
+    }
+    for (size_t at = 0; at + recordSize <= length; at += recordSize) {
+      std::memset(records + at + rp->pointerOffset, 0, sizeof(void*));
+    }
+  }
+}
+
 bool PointedBuffers::GuardsIntact() const {
   for (const auto& b : buffers_) {
     if (!b->GuardsIntact()) return false;

@@ -89,6 +89,11 @@ struct RecordPointer {
 };
 extern const RecordPointer kRecordPointers[];
 
+// Zeroes the pointer fields of configuration `name` in every whole record
+// of [records, records + length): what is left depends on the call alone,
+// not on where the pointed buffers happen to live.
+void ClearPointerFields(const char* name, uint8_t* records, size_t length, uint32_t recordSize);
+
 // The buffers that the pointer fields of some records were aimed at.
 class PointedBuffers {
  public:

@@ -209,17 +209,8 @@ void PackPstnAlarmServer(const R& r, Json::Value& obj) {
 
 bool Given(const Json::Value& v) { return !v.isNull(); }
 
-}  // namespace
-
-bool ParseEventHandler(const Json::Value& obj, EventHandlerRecord* r) {
-  if (r == nullptr) return false;
-
-  // An object (or any other non-array) "TimeSection" leaves the schedule as
-  // the caller left it; a null one clears it. A failed read is ignored.
-  const Json::Value& timeSection = Member(obj, "TimeSection");
-  if (timeSection.isArray() || timeSection.isNull())
-    ParseHolidaySchedule(timeSection, &r->schedule);
-
+// Every member but "TimeSection".
+void ParseMembers(const Json::Value& obj, EventHandlerRecord* r) {
   ParseScalars(obj, r);
   ParseChannelSets(obj, r, kChannelSets, sizeof kChannelSets / sizeof kChannelSets[0]);
 
@@ -263,6 +254,31 @@ bool ParseEventHandler(const Json::Value& obj, EventHandlerRecord* r) {
 
   const Json::Value& pstn = Member(obj, "PSTNAlarmServer");
   if (Given(pstn)) ParsePstnAlarmServer(pstn, r);
+}
+
+// An object (or any other non-array) "TimeSection" leaves the schedule as
+// the caller left it; a null one clears it. A failed read is ignored.
+bool ReadsSchedule(const Json::Value& timeSection) {
+  return timeSection.isArray() || timeSection.isNull();
+}
+
+}  // namespace
+
+bool ParseEventHandler(const Json::Value& obj, EventHandlerRecord* r) {
+  if (r == nullptr) return false;
+  const Json::Value& timeSection = Member(obj, "TimeSection");
+  if (ReadsSchedule(timeSection)) ParseHolidaySchedule(timeSection, &r->schedule);
+  ParseMembers(obj, r);
+  return true;
+}
+
+bool ParseEventHandlerWithGrid(const Json::Value& obj, EventHandlerRecord* r,
+                               const SectionGrid& grid) {
+  if (r == nullptr) return false;
+  // A "TimeSection" that is not an array reads nothing into the grid.
+  const Json::Value& timeSection = Member(obj, "TimeSection");
+  if (ReadsSchedule(timeSection)) ParseHolidayScheduleAndGrid(timeSection, &r->schedule, grid);
+  ParseMembers(obj, r);
   return true;
 }
 

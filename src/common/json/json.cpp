@@ -147,6 +147,12 @@ std::string ToText(const Json::Value& v) {
   return std::string(begin, end);
 }
 
+const char* TextInPlace(const Json::Value& v) {
+  if (!v.isString()) return "";
+  const char* text = v.asCString();  // a string value is stored NUL-terminated
+  return text != nullptr ? text : "";
+}
+
 Json::Value& SetMember(Json::Value& obj, const char* key) {
   if (!obj.isObject()) obj = Json::Value(Json::objectValue);
   return obj[key];

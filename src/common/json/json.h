@@ -49,6 +49,24 @@ double ToDouble(const Json::Value& v);
 bool ToBool(const Json::Value& v);
 // The text of a string value (embedded NULs kept); "" for any other type.
 std::string ToText(const Json::Value& v);
+// The text of a string value in place, NUL-terminated (a reader sees it up
+// to its first NUL), valid while `v` lives; "" for any other type. For
+// scanning text without copying it.
+const char* TextInPlace(const Json::Value& v);
+
+// Calls visit(i, element) for the elements of array `v` in index order,
+// up to index `limit` (excluded), until visit returns false; nothing for a
+// non-array. Walks the array once instead of looking each index up (arrays
+// read from text have every index; an index never set is not visited).
+template <typename Visit>
+void ForEachElement(const Json::Value& v, uint32_t limit, Visit visit) {
+  if (!v.isArray()) return;
+  const Json::Value::const_iterator end = v.end();
+  for (Json::Value::const_iterator it = v.begin(); it != end; ++it) {
+    const uint32_t i = it.index();
+    if (i >= limit || !visit(i, *it)) return;
+  }
+}
 
 // Calls `visit(name, length, value)` for each member of an object, in the
 // JSON library's member order (ascending by the bytes of the name), until it

@@ -155,4 +155,26 @@ const char* RuleTypeName(uint32_t code) {
   return nullptr;
 }
 
+// SceneClassNames: index order. Packing uses the first 15 names only.
+const char* const kSceneClassNames[] = {
+    "",           "Normal",          "Traffic",    "TrafficPatrol", "FaceDetection",
+    "ATM",        "Indoor",          "FaceRecognition", "Prison",   "NumberStat",
+    "HeatMap",    "VideoDiagnosis",  "VehicleAnalyse",  "CourseRecord", "Vehicle",
+    "StandUpDetection",
+};
+constexpr uint32_t kSceneClassCount = sizeof kSceneClassNames / sizeof kSceneClassNames[0];
+constexpr uint32_t kSceneClassPackCount = kSceneClassCount - 1;
+
+uint32_t SceneClassFromName(const char* name) {
+  if (name == nullptr) return 0;
+  for (uint32_t i = 0; i < kSceneClassCount; ++i) {
+    if (NameEquals(kSceneClassNames[i], name)) return i;
+  }
+  return 0;
+}
+
+const char* SceneClassPackName(uint32_t sceneClass) {
+  return sceneClass < kSceneClassPackCount ? kSceneClassNames[sceneClass] : "";
+}
+
 }  // namespace kova

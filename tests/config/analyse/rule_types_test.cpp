@@ -27,8 +27,8 @@ TEST(RuleTypes, LookupRules) {
   EXPECT_EQ(RuleTypeFromName(nullptr), 0u);
   EXPECT_EQ(RuleTypeFromName("TrafficYellowInRoute"), 270u);
   EXPECT_STREQ(RuleTypeName(270), "TrafficYellowPlateInLane");  // first name of a shared code
-  EXPECT_EQ(RuleBodySize(1), 0);       // "All" has a code but is rejected
-  EXPECT_EQ(RuleBodySize(339), 0);     // "VideoBlind"
+  EXPECT_EQ(RuleBodySize(1), 0);                                // "All" has a code but is rejected
+  EXPECT_EQ(RuleBodySize(339), 0);                              // "VideoBlind"
   EXPECT_EQ(RuleBodySize(294), 339228);
   EXPECT_EQ(RuleBodySize(0), 0);
   EXPECT_EQ(RuleTypeName(0), nullptr);
