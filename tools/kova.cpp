@@ -266,7 +266,7 @@ void PrintEvent(uint32_t code, const void* info) {
 
 void PrintOtherRecord(uint32_t code, const void* info, uint32_t size) {
   if ((code & KOVA_CALLBACK_ANALYSE_RULE) != 0) {
-    const AnalyseRuleHead& r = *static_cast<const AnalyseRuleHead*>(info);
+    const RuleHead& r = *static_cast<const RuleHead*>(info);
     const uint32_t type = code & ~KOVA_CALLBACK_ANALYSE_RULE;
     const char* name = kova::RuleTypeName(type);
     std::printf("rule  %3u %-24s name \"%s\" enable %u object types %u\n", type,

@@ -140,9 +140,11 @@ KOVA_EXPORT int KOVA_CALL KOVA_ParseAnalyzerEventData(const char* buf, uint32_t 
 //   "TrafficFlowStat",                  KOVA_CALLBACK_TRAFFIC_FLOW_STAT:
 //   "TrafficFlowStatInfo"               TrafficFlowStatRecord
 //   "VideoAnalyse", "VideoAnalyseRule", KOVA_CALLBACK_ANALYSE_RULE | type code:
-//   "VideoSynopsisAnalyseRule"          AnalyseRuleHead, the part every rule
-//                                       record begins with ("Name", "Enable",
-//                                       "TrackEnable", "ObjectTypes")
+//   "VideoSynopsisAnalyseRule"          the record of the rule's type, as the
+//                                       rule list fills it (CrossLineRule, ...,
+//                                       <kova/records/analyse*.h>); RuleHead
+//                                       alone when the type is missing or has
+//                                       no record
 //
 // A member other than the events' holds one object (one record) or an array
 // of them (one record per entry that is an object, at most 128; at most 32

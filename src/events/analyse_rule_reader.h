@@ -15,10 +15,9 @@ struct RuleRecord {
   uint32_t size = 0;
 };
 
-// Builds the record of one rule object (an entry of a rule list). For now
-// every rule gets AnalyseRuleHead, the part every rule type's record
-// begins with; the rule types' own records take its place once the rule
-// list's per-type parse exists. False when memory runs out.
+// Builds the record of one rule object (an entry of a rule list): the record
+// of its rule type, read as the rule list reads it, or RuleHead alone for a
+// rule whose type is missing or has no record. False when memory runs out.
 bool BuildRuleRecord(const Json::Value& rule, RuleRecord* out);
 
 }  // namespace kova

@@ -7,6 +7,8 @@
 
 #include "events/event_test_util.h"
 #include "kova/kova.h"
+#include "config/analyse/rule_types.h"
+#include "kova/records/analyse.h"
 #include "kova/records/events.h"
 
 namespace kova_test {
@@ -145,20 +147,25 @@ TEST(ParseByCallback, StatusStatisticsAndObjectRecords) {
   EXPECT_EQ(2u + 1 + 1 + 3 + 3, got.size());
 }
 
-TEST(ParseByCallback, AnalysisRulesComeWithTheirTypeCodeAndCommonHead) {
+TEST(ParseByCallback, AnalysisRulesComeAsTheirTypesRecords) {
   std::vector<uint32_t> codes;
   ReadEvents(
       ReadSample("document-rules.json"),
       [&](uint32_t code, const void* info, uint32_t size) {
         codes.push_back(code);
-        ASSERT_EQ(sizeof(AnalyseRuleHead), size);
-        const AnalyseRuleHead& r = *static_cast<const AnalyseRuleHead*>(info);
+        // Every rule record begins with RuleHead; its size is the type's own.
+        ASSERT_EQ(code == (kRule | 2) ? sizeof(CrossLineRule) : static_cast<uint32_t>(kova::RuleBodySize(code & 0xFFFF)), size);
+        const RuleHead& r = *static_cast<const RuleHead*>(info);
         if (code == (kRule | 2)) {
           EXPECT_STREQ("Gate line", r.name);
           EXPECT_EQ(1, r.enable);
           EXPECT_EQ(0, r.trackEnable);
           ASSERT_EQ(2u, r.objectTypeCount);
           EXPECT_STREQ("Vehicle", r.objectTypes[1]);
+          const CrossLineRule& line = *static_cast<const CrossLineRule*>(info);
+          EXPECT_EQ(2u, line.detectLine.pointCount);  // the type's own "Config" keys
+          EXPECT_EQ(6890, line.detectLine.points[1].x);
+          EXPECT_EQ(5, line.trackDuration);
         } else if (code == (kRule | 5)) {
           EXPECT_STREQ("Synopsis", r.name);
           EXPECT_EQ(0, r.enable);

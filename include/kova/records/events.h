@@ -394,15 +394,6 @@ typedef struct TrafficFlowStatRecord {
   int32_t state;              // "State": 1 free flow, 2 slow, 3 congested, as the device counts
 } TrafficFlowStatRecord;
 
-// The part every analysis rule record begins with, delivered by the
-// analysis rule reader of KOVA_ParseDataByCallback.
-typedef struct AnalyseRuleHead {
-  char name[128];              // "Name"
-  uint8_t enable;              // "Enable"
-  uint8_t trackEnable;         // "TrackEnable"
-  uint32_t objectTypeCount;    // entries of "ObjectTypes", at most 16
-  char objectTypes[16][128];   // "ObjectTypes"
-} AnalyseRuleHead;
 
 #ifdef __cplusplus
 }
@@ -413,8 +404,6 @@ static_assert(offsetof(FaceEventInfo, common) == 0, "event records begin with Ev
 static_assert(offsetof(TrafficEventInfo, common) == 0, "event records begin with EventCommon");
 static_assert(offsetof(AbnormalityEventInfo, common) == 0, "event records begin with EventCommon");
 static_assert(offsetof(GeneralEventInfo, common) == 0, "event records begin with EventCommon");
-static_assert(offsetof(AnalyseRuleHead, objectTypeCount) == 132, "the rule records' common head");
-static_assert(sizeof(AnalyseRuleHead) == 2184, "the rule records' common head");
 #endif
 
 #endif  // KOVA_RECORDS_EVENTS_H_
