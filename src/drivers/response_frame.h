@@ -182,4 +182,14 @@ int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRul
 
 }  // namespace kova
 
+// Defines the entry points Parse<Name> and Pack<Name> of a configuration
+// served by `frame` alone (inside namespace kova).
+#define KOVA_FRAME_TRANSLATORS(Name, frame)                                                   \
+  int Parse##Name(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {    \
+    return ParseWithFrame(frame, jsonText, outBuf, outLen, retLen);                           \
+  }                                                                                           \
+  int Pack##Name(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {         \
+    return PackWithFrame(frame, inBuf, inLen, outJson, outLen);                               \
+  }
+
 #endif  // KOVA_DRIVERS_RESPONSE_FRAME_H_

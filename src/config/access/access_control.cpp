@@ -141,7 +141,6 @@ namespace {
 constexpr ResponseFrame kDoors = DescribedObject<AccessControlConfig>::kFrame;
 }  // namespace
 
-int ParseAccessControl(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kDoors, t, o, n, r); }
-int PackAccessControl(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kDoors, i, n, o, m); }
+KOVA_FRAME_TRANSLATORS(AccessControl, kDoors)
 
 }  // namespace kova

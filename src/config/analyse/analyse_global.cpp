@@ -218,12 +218,6 @@ constexpr ResponseFrame kGlobalFrame =
 
 }  // namespace
 
-int ParseVideoAnalyseGlobal(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kGlobalFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackVideoAnalyseGlobal(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kGlobalFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(VideoAnalyseGlobal, kGlobalFrame)
 
 }  // namespace kova

@@ -108,12 +108,6 @@ constexpr ResponseFrame kModuleFrame =
 
 }  // namespace
 
-int ParseVideoAnalyseModule(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kModuleFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackVideoAnalyseModule(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kModuleFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(VideoAnalyseModule, kModuleFrame)
 
 }  // namespace kova

@@ -176,12 +176,6 @@ constexpr ResponseFrame kRuleListFrame =
 
 }  // namespace
 
-int ParseVideoAnalyseRule(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kRuleListFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackVideoAnalyseRule(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kRuleListFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(VideoAnalyseRule, kRuleListFrame)
 
 }  // namespace kova

@@ -70,7 +70,6 @@ namespace {
 constexpr ResponseFrame kAudioDetect = DescribedObject<AudioDetectConfig>::kFrame;
 }  // namespace
 
-int ParseAudioDetect(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kAudioDetect, t, o, n, r); }
-int PackAudioDetect(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kAudioDetect, i, n, o, m); }
+KOVA_FRAME_TRANSLATORS(AudioDetect, kAudioDetect)
 
 }  // namespace kova

@@ -14,7 +14,6 @@ constexpr ResponseFrame kVolumes =
         .Walk(RecordWalk::kPerChannel);
 }  // namespace
 
-int ParseAudioVolume(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kVolumes, t, o, n, r); }
-int PackAudioVolume(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kVolumes, i, n, o, m); }
+KOVA_FRAME_TRANSLATORS(AudioVolume, kVolumes)
 
 }  // namespace kova

@@ -73,12 +73,6 @@ constexpr ResponseFrame kFrame =
 
 }  // namespace
 
-int ParseDvrip(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackDvrip(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(Dvrip, kFrame)
 
 }  // namespace kova

@@ -136,12 +136,6 @@ constexpr ResponseFrame kFrame = ResponseFrame::For<PtzConfig>(ParsePtzTable, Pa
 
 }  // namespace
 
-int ParsePtz(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackPtz(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(Ptz, kFrame)
 
 }  // namespace kova

@@ -142,12 +142,6 @@ constexpr ResponseFrame kFrame = ResponseFrame::For<NasConfig>(ParseNasRoot, Pac
 
 }  // namespace
 
-int ParseNas(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackNas(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(Nas, kFrame)
 
 }  // namespace kova

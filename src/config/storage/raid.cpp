@@ -38,12 +38,6 @@ constexpr ResponseFrame kFrame = DescribedObject<RaidRecord>::kFrame
 
 }  // namespace
 
-int ParseRaid(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackRaid(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(Raid, kFrame)
 
 }  // namespace kova

@@ -102,12 +102,6 @@ constexpr ResponseFrame kFrame = ResponseFrame::For<RecordConfig>(ParseChannel, 
 
 }  // namespace
 
-int ParseRecord(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackRecord(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(Record, kFrame)
 
 }  // namespace kova

@@ -54,12 +54,6 @@ constexpr ResponseFrame kFrame = DescribedObject<StorageGroupRecord>::kFrame
 
 }  // namespace
 
-int ParseStorageGroup(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackStorageGroup(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(StorageGroup, kFrame)
 
 }  // namespace kova

@@ -25,7 +25,6 @@ namespace {
 constexpr ResponseFrame kAlarmOut = DescribedObject<AlarmOutConfig>::kFrame;
 }  // namespace
 
-int ParseAlarmOut(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kAlarmOut, t, o, n, r); }
-int PackAlarmOut(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kAlarmOut, i, n, o, m); }
+KOVA_FRAME_TRANSLATORS(AlarmOut, kAlarmOut)
 
 }  // namespace kova

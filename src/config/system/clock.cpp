@@ -50,9 +50,7 @@ constexpr ResponseFrame kNtp = DescribedObject<NtpConfig>::kFrame.Walk(RecordWal
 constexpr ResponseFrame kLocales = DescribedObject<LocalesConfig>::kFrame.Walk(RecordWalk::kOne);
 }  // namespace
 
-int ParseNtp(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kNtp, t, o, n, r); }
-int PackNtp(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kNtp, i, n, o, m); }
-int ParseLocales(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kLocales, t, o, n, r); }
-int PackLocales(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kLocales, i, n, o, m); }
+KOVA_FRAME_TRANSLATORS(Ntp, kNtp)
+KOVA_FRAME_TRANSLATORS(Locales, kLocales)
 
 }  // namespace kova

@@ -37,9 +37,7 @@ constexpr ResponseFrame kLanguage = ResponseFrame::For<LanguageConfig>(
     ParseDescribed<kLanguageText>, PackDescribed<kLanguageText>);
 }  // namespace
 
-int ParseGeneral(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kGeneral, t, o, n, r); }
-int PackGeneral(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kGeneral, i, n, o, m); }
-int ParseLanguage(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kLanguage, t, o, n, r); }
-int PackLanguage(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kLanguage, i, n, o, m); }
+KOVA_FRAME_TRANSLATORS(General, kGeneral)
+KOVA_FRAME_TRANSLATORS(Language, kLanguage)
 
 }  // namespace kova

@@ -62,9 +62,7 @@ constexpr ResponseFrame kAutoMaintain = DescribedObject<AutoMaintainConfig>::kFr
 constexpr ResponseFrame kEmail = DescribedObject<EmailConfig>::kFrame.Walk(RecordWalk::kOne);
 }  // namespace
 
-int ParseAutoMaintain(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kAutoMaintain, t, o, n, r); }
-int PackAutoMaintain(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kAutoMaintain, i, n, o, m); }
-int ParseEmail(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kEmail, t, o, n, r); }
-int PackEmail(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kEmail, i, n, o, m); }
+KOVA_FRAME_TRANSLATORS(AutoMaintain, kAutoMaintain)
+KOVA_FRAME_TRANSLATORS(Email, kEmail)
 
 }  // namespace kova

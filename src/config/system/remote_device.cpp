@@ -88,7 +88,6 @@ constexpr ResponseFrame kRemoteDevice = ResponseFrame::For<RemoteDeviceConfig>(P
 
 }  // namespace
 
-int ParseRemoteDevice(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kRemoteDevice, t, o, n, r); }
-int PackRemoteDevice(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kRemoteDevice, i, n, o, m); }
+KOVA_FRAME_TRANSLATORS(RemoteDevice, kRemoteDevice)
 
 }  // namespace kova

@@ -40,7 +40,6 @@ namespace {
 constexpr ResponseFrame kSnap = DescribedObject<SnapConfig>::kFrame;
 }  // namespace
 
-int ParseSnap(const char* t, void* o, uint32_t n, uint32_t* r) { return ParseWithFrame(kSnap, t, o, n, r); }
-int PackSnap(const void* i, uint32_t n, char* o, uint32_t m) { return PackWithFrame(kSnap, i, n, o, m); }
+KOVA_FRAME_TRANSLATORS(Snap, kSnap)
 
 }  // namespace kova

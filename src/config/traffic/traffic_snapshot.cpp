@@ -357,12 +357,6 @@ constexpr ResponseFrame kFrame = ResponseFrame::For<R>(FillSnapshot, WriteSnapsh
 
 }  // namespace
 
-int ParseTrafficSnapshot(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackTrafficSnapshot(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(TrafficSnapshot, kFrame)
 
 }  // namespace kova

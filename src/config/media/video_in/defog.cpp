@@ -24,13 +24,6 @@ KOVA_DESCRIBE(VideoInDefogProfile, kova::kDefogProfileFields)
 
 namespace kova {
 
-int ParseVideoInDefog(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(ProfileRecord<VideoInDefogConfig>::kFrame, jsonText, outBuf, outLen,
-                        retLen);
-}
-
-int PackVideoInDefog(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(ProfileRecord<VideoInDefogConfig>::kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(VideoInDefog, ProfileRecord<VideoInDefogConfig>::kFrame)
 
 }  // namespace kova

@@ -44,14 +44,6 @@ KOVA_DESCRIBE(VideoInExposureProfile, kova::kExposureProfileFields)
 
 namespace kova {
 
-int ParseVideoInExposure(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(ProfileRecord<VideoInExposureConfig>::kFrame, jsonText, outBuf, outLen,
-                        retLen);
-}
-
-int PackVideoInExposure(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(ProfileRecord<VideoInExposureConfig>::kFrame, inBuf, inLen, outJson,
-                       outLen);
-}
+KOVA_FRAME_TRANSLATORS(VideoInExposure, ProfileRecord<VideoInExposureConfig>::kFrame)
 
 }  // namespace kova

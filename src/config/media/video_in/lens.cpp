@@ -32,22 +32,8 @@ KOVA_DESCRIBE(VideoInZoomProfile, kova::kZoomProfileFields)
 
 namespace kova {
 
-int ParseVideoInFocus(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(ProfileRecord<VideoInFocusConfig>::kFrame, jsonText, outBuf, outLen,
-                        retLen);
-}
+KOVA_FRAME_TRANSLATORS(VideoInFocus, ProfileRecord<VideoInFocusConfig>::kFrame)
 
-int PackVideoInFocus(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(ProfileRecord<VideoInFocusConfig>::kFrame, inBuf, inLen, outJson, outLen);
-}
-
-int ParseVideoInZoom(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(ProfileRecord<VideoInZoomConfig>::kFrame, jsonText, outBuf, outLen,
-                        retLen);
-}
-
-int PackVideoInZoom(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(ProfileRecord<VideoInZoomConfig>::kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(VideoInZoom, ProfileRecord<VideoInZoomConfig>::kFrame)
 
 }  // namespace kova

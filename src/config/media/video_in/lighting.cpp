@@ -41,12 +41,6 @@ KOVA_DESCRIBE(LightingProfile, kova::kLightingProfileFields)
 
 namespace kova {
 
-int ParseLighting(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(ProfileRecord<LightingConfig>::kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackLighting(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(ProfileRecord<LightingConfig>::kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(Lighting, ProfileRecord<LightingConfig>::kFrame)
 
 }  // namespace kova

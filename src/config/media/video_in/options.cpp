@@ -121,14 +121,6 @@ KOVA_DESCRIBE(VideoInOptionsConfig, kova::kOptionsFields)
 
 namespace kova {
 
-int ParseVideoInOptions(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(DescribedObject<VideoInOptionsConfig>::kFrame, jsonText, outBuf, outLen,
-                        retLen);
-}
-
-int PackVideoInOptions(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(DescribedObject<VideoInOptionsConfig>::kFrame, inBuf, inLen, outJson,
-                       outLen);
-}
+KOVA_FRAME_TRANSLATORS(VideoInOptions, DescribedObject<VideoInOptionsConfig>::kFrame)
 
 }  // namespace kova

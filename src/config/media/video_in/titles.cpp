@@ -52,22 +52,8 @@ KOVA_DESCRIBE(VideoWidgetConfig, kova::kWidgetFields)
 
 namespace kova {
 
-int ParseChannelTitle(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(DescribedObject<ChannelTitleConfig>::kFrame, jsonText, outBuf, outLen,
-                        retLen);
-}
+KOVA_FRAME_TRANSLATORS(ChannelTitle, DescribedObject<ChannelTitleConfig>::kFrame)
 
-int PackChannelTitle(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(DescribedObject<ChannelTitleConfig>::kFrame, inBuf, inLen, outJson, outLen);
-}
-
-int ParseVideoWidget(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(DescribedObject<VideoWidgetConfig>::kFrame, jsonText, outBuf, outLen,
-                        retLen);
-}
-
-int PackVideoWidget(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(DescribedObject<VideoWidgetConfig>::kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(VideoWidget, DescribedObject<VideoWidgetConfig>::kFrame)
 
 }  // namespace kova

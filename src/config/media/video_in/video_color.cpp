@@ -50,12 +50,6 @@ KOVA_DESCRIBE(VideoColorProfile, kova::kVideoColorProfileFields)
 
 namespace kova {
 
-int ParseVideoColor(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(ProfileRecord<VideoColorConfig>::kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackVideoColor(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(ProfileRecord<VideoColorConfig>::kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(VideoColor, ProfileRecord<VideoColorConfig>::kFrame)
 
 }  // namespace kova
