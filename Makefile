@@ -9,17 +9,26 @@ FUZZ_SHORT_SECONDS ?= 60
 TSAN_BUILD ?= build-tsan
 BENCH_BUILD ?= build-bench
 COVERAGE_BUILD ?= build-coverage
+WINDOWS_BUILD ?= build-windows
 BENCH_ARGS ?=
 
 DEB_PACKAGES := cmake make g++ pkg-config libjsoncpp-dev libgtest-dev libgmock-dev \
-	libbenchmark-dev ninja-build clang libclang-rt-dev llvm binutils gcovr
+	libbenchmark-dev ninja-build clang libclang-rt-dev llvm binutils gcovr dpkg-dev file
 
-.PHONY: all deps build test demo fuzz-build fuzz fuzz-short tsan bench coverage clean
+# The Windows cross-build only (`make windows`, `make windows-test`): MinGW-w64,
+# Wine, GoogleTest's sources, and what `apt-get source` needs to unpack
+# Debian's jsoncpp source package. Large; `make test` never installs them.
+WINDOWS_PACKAGES := cmake make ninja-build g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 \
+	wine wine64 googletest dpkg-dev
+
+.PHONY: all deps build test demo fuzz-build fuzz fuzz-short tsan bench coverage \
+	package package-check windows windows-test windows-deps clean
 
 all: build
 
-deps:
-	@missing=""; for p in $(DEB_PACKAGES); do \
+# Installs the Debian packages in $(1) that are missing.
+define install-missing
+	@missing=""; for p in $(1); do \
 	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q 'install ok installed' || missing="$$missing $$p"; \
 	done; \
 	if [ -n "$$missing" ]; then \
@@ -28,6 +37,10 @@ deps:
 	  $$SUDO apt-get update -qq && \
 	  DEBIAN_FRONTEND=noninteractive $$SUDO apt-get install -y -qq --no-install-recommends $$missing; \
 	fi
+endef
+
+deps:
+	$(call install-missing,$(DEB_PACKAGES))
 
 build: deps
 	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
@@ -81,5 +94,39 @@ coverage: deps
 	gcovr -r . $(COVERAGE_BUILD) --filter 'src/' --exclude-throw-branches \
 	  --exclude-unreachable-branches --print-summary
 
+# The .deb of the library, headers, tool, CMake package and pkg-config file
+# (CPack), in $(BUILD)/.
+package: build
+	cd $(BUILD) && cpack -G DEB
+
+# Installs that .deb with dpkg, builds a client against it, removes it again.
+package-check: package
+	sh tests/install/deb_test.sh $$(ls $(BUILD)/kova_*.deb | head -n 1) tests/install/consumer
+
+# kova.dll (with its import library kova.lib) and kova.exe for 64-bit
+# Windows, cross-built with MinGW-w64, in $(WINDOWS_BUILD)/. jsoncpp is built
+# from Debian's source package, unpacked there by apt-get source.
+WINDOWS_WINE := WINEPREFIX=$(abspath $(WINDOWS_BUILD))/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
+
+windows: windows-deps
+	sh tools/debian_source.sh libjsoncpp $(WINDOWS_BUILD)/debian-source
+	cmake -S . -B $(WINDOWS_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Release \
+	  -DCMAKE_TOOLCHAIN_FILE=cmake/mingw-w64-x86_64.cmake \
+	  -DKOVA_JSONCPP_SOURCE_DIR=$$(ls -d $(abspath $(WINDOWS_BUILD))/debian-source/libjsoncpp-*/ | head -n 1) \
+	  >/dev/null
+	cmake --build $(WINDOWS_BUILD) -j $(JOBS) --target kova_shared kova_tool
+	@sh tests/windows/exported_symbols.sh $(WINDOWS_BUILD)/kova.dll x86_64-w64-mingw32-objdump
+
+# The unit and bad-input suites as Windows executables under Wine, kova.dll
+# loaded by LoadLibrary, and its export table checked.
+windows-test: windows
+	cmake --build $(WINDOWS_BUILD) -j $(JOBS)
+	@[ -d $(WINDOWS_BUILD)/wine ] || $(WINDOWS_WINE) wineboot --init
+	cd $(WINDOWS_BUILD) && ctest --output-on-failure -j $(JOBS)
+
+windows-deps:
+	$(call install-missing,$(WINDOWS_PACKAGES))
+
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD) $(TSAN_BUILD) $(BENCH_BUILD) $(COVERAGE_BUILD)
+	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD) $(TSAN_BUILD) $(BENCH_BUILD) $(COVERAGE_BUILD) \
+	  $(WINDOWS_BUILD)

@@ -3,6 +3,9 @@
 #ifndef KOVA_BENCH_BENCH_CASES_H_
 #define KOVA_BENCH_BENCH_CASES_H_
 
+#include <benchmark/benchmark.h>
+
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -21,8 +24,16 @@ void AddPair(const std::string& what, const std::string& subject, const std::str
              const std::string& floor);
 const std::vector<Pair>& Pairs();
 
+// The floors. Parse: the JSON library's reader (one reader, kept) on `doc`
+// plus clearing `clearBytes` bytes. Pack: the library's compact writer on
+// the value tree of `packed` plus copying the text into a buffer of
+// `textLen` bytes.
+void RunParseFloor(benchmark::State& state, const std::string& doc, size_t clearBytes);
+void RunPackFloor(benchmark::State& state, const std::string& packed, size_t textLen);
+
 void RegisterTranslatorBenchmarks(const std::vector<kova_harness::SampleDocument>& samples);
 void RegisterWriterBenchmarks(const std::vector<kova_harness::SampleDocument>& samples);
+void RegisterRuleListBenchmarks(const std::vector<kova_harness::SampleDocument>& samples);
 void RegisterEventBenchmarks(const std::vector<kova_harness::SampleDocument>& samples);
 
 }  // namespace kova_bench

@@ -63,6 +63,7 @@ int main(int argc, char** argv) {
   const std::vector<kova_harness::SampleDocument> samples =
       kova_harness::LoadSampleDocuments({KOVA_SAMPLES_DIR, KOVA_FIXTURES_DIR});
   kova_bench::RegisterTranslatorBenchmarks(samples);
+  kova_bench::RegisterRuleListBenchmarks(samples);
   kova_bench::RegisterWriterBenchmarks(samples);
   kova_bench::RegisterEventBenchmarks(samples);
   kova_bench::RatioReporter reporter;

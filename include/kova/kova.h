@@ -7,15 +7,17 @@
 // number of threads at once. The caller owns every buffer.
 //
 // Text fields of the records hold text in the local code page; the JSON side
-// is UTF-8. The local code page is the charset named by the environment
-// variable KOVA_CODEPAGE when it is set (any iconv name: "GBK", "BIG5",
-// "ISO-8859-1", "UTF-8", ...), otherwise the codeset of the process's current
-// locale, where the plain C/POSIX locale counts as UTF-8. A character the
-// local code page cannot hold becomes "?"; an invalid UTF-8 sequence becomes
-// one replacement character and conversion goes on; text is cut at a field's
-// capacity less its terminator without splitting a multi-byte character. An
-// unknown KOVA_CODEPAGE falls back to UTF-8. Set KOVA_CODEPAGE before calls
-// start on other threads.
+// is UTF-8. The local code page is the one named by the environment variable
+// KOVA_CODEPAGE when it is set: on Windows a code page number ("936") or
+// name ("CP936", "windows-1252", "GBK", "BIG5", "UTF-8", ...), elsewhere any
+// iconv name ("GBK", "BIG5", "ISO-8859-1", "UTF-8", ...). Otherwise it is the
+// process's ANSI code page on Windows, and elsewhere the codeset of the
+// process's current locale, where the plain C/POSIX locale counts as UTF-8.
+// A character the local code page cannot hold becomes "?"; an invalid UTF-8
+// sequence becomes one replacement character and conversion goes on; text is
+// cut at a field's capacity less its terminator without splitting a
+// multi-byte character. An unknown KOVA_CODEPAGE falls back to UTF-8. Set
+// KOVA_CODEPAGE before calls start on other threads.
 //
 // Record layouts are in <kova/records/*.h>.
 #ifndef KOVA_KOVA_H_
@@ -23,15 +25,23 @@
 
 #include <stdint.h>
 
-#if defined(_WIN32)
+// KOVA_CALL is the calling convention of the four functions and of the
+// callback: __stdcall on 32-bit Windows, the platform's default elsewhere
+// (64-bit Windows has one convention). The names are exported undecorated.
+// KOVA_EXPORT imports them from kova.dll on Windows (the library's own build
+// defines KOVA_BUILDING_LIBRARY to export them instead).
+#if defined(_WIN32) && !defined(_WIN64)
 #define KOVA_CALL __stdcall
+#else
+#define KOVA_CALL
+#endif
+#if defined(_WIN32)
 #if defined(KOVA_BUILDING_LIBRARY)
 #define KOVA_EXPORT __declspec(dllexport)
 #else
 #define KOVA_EXPORT __declspec(dllimport)
 #endif
 #else
-#define KOVA_CALL
 #define KOVA_EXPORT __attribute__((visibility("default")))
 #endif
 
@@ -79,17 +89,73 @@ KOVA_EXPORT int KOVA_CALL KOVA_ParseData(const char* name, const char* jsonText,
 KOVA_EXPORT int KOVA_CALL KOVA_PacketData(const char* name, const void* inBuf, uint32_t inLen,
                                           char* outJson, uint32_t outLen);
 
-// Reads one analyzer event document (NUL-terminated JSON; `len` is not used
-// to bound it) and calls `callback` once per event, in document order, on
-// the caller's thread, before returning. Returns 0 when `buf` or `callback`
-// is null, otherwise 1 whatever the document held.
+// Reads one analyzer event notification and calls `callback` once per
+// event, in the order of the device's list, on the caller's thread, before
+// returning. Returns 0 when `buf` or `callback` is null (nothing else is
+// done), otherwise 1 whatever the text held: text that is not JSON, an
+// empty list and unknown events all give 1.
+// - `buf` is NUL-terminated JSON; `len` is not used to bound it.
+// - The events are the array "Event" of the root; when "Event" is null or
+//   missing, "EventList"; when both are, "params"."eventList" (a device's
+//   {"method": "client.notifyEventStream", "params": {"eventList": [...]}}).
+//   A list that is not an array gives no events. At most the first 128
+//   entries are looked at (null entries are skipped but count).
+// - Each event's "Code" (at most 128 characters of it) is an analysis type
+//   name, compared without regard to letter case; its code ("CrossLineDetection"
+//   2, "TrafficJunction" 23, ...; 0 for a name that is none) is the callback's
+//   `eventCode`. `eventInfo` is the record of the code's family, declared
+//   with its codes in <kova/records/events.h>, beginning with an EventCommon;
+//   code 0 gets an EventCommon alone.
+// - An event without "Data" is dropped, except "VideoBlind" (339) and
+//   "SnapByTime" (356), which come with a null `eventInfo` and size 0.
+// - The callback runs while the call holds its own lock: it must not call
+//   back into the same call. Each record is freed as soon as its callback
+//   returns.
 KOVA_EXPORT int KOVA_CALL KOVA_ParseAnalyzerEventData(const char* buf, uint32_t len,
                                                       KOVA_AnalyzerEventCallback callback,
                                                       void* user);
 
-// Reads a device document (NUL-terminated JSON) and delivers typed records
-// through `callback` according to the member names at its root. Returns 0
-// when `buf` or `callback` is null.
+// Codes of the records KOVA_ParseDataByCallback delivers besides events.
+#define KOVA_CALLBACK_PTZ_STATUS 0x10001u          // PtzStatusRecord
+#define KOVA_CALLBACK_FOCUS_STATUS 0x10002u        // FocusStatusRecord
+#define KOVA_CALLBACK_VIDEO_STAT_SUMMARY 0x10003u  // VideoStatSummaryRecord
+#define KOVA_CALLBACK_OBJECT 0x10004u              // EventObject
+#define KOVA_CALLBACK_TRAFFIC_FLOW_STAT 0x10005u   // TrafficFlowStatRecord
+// An analysis rule: this bit with the rule's type code below it
+// (KOVA_CALLBACK_ANALYSE_RULE | 2 for "CrossLineDetection"; | 0 for a rule
+// whose "Type" is missing or unknown).
+#define KOVA_CALLBACK_ANALYSE_RULE 0x20000u
+
+// Reads a device document (NUL-terminated JSON; `len` is not used) and
+// delivers typed records through `callback`, chosen by the member names at
+// the document's root, taken in byte order of the names; members that are
+// none of these are passed over. Records are in <kova/records/events.h>.
+//
+//   member                              reader, code: record
+//   "Event", "EventList"                the analyzer events exactly as
+//   (or "params" holding "eventList")   KOVA_ParseAnalyzerEventData reads them,
+//                                       once per document: event code:
+//                                       the family's record
+//   "Ptz"                               KOVA_CALLBACK_PTZ_STATUS: PtzStatusRecord
+//   "FocusStatus"                       KOVA_CALLBACK_FOCUS_STATUS: FocusStatusRecord
+//   "VideoStatSummary"                  KOVA_CALLBACK_VIDEO_STAT_SUMMARY:
+//                                       VideoStatSummaryRecord
+//   "ObjectList"                        KOVA_CALLBACK_OBJECT: EventObject
+//   "TrafficFlowStat",                  KOVA_CALLBACK_TRAFFIC_FLOW_STAT:
+//   "TrafficFlowStatInfo"               TrafficFlowStatRecord
+//   "VideoAnalyse", "VideoAnalyseRule", KOVA_CALLBACK_ANALYSE_RULE | type code:
+//   "VideoSynopsisAnalyseRule"          the record of the rule's type, as the
+//                                       rule list fills it (CrossLineRule, ...,
+//                                       <kova/records/analyse*.h>); RuleHead
+//                                       alone when the type is missing or has
+//                                       no record
+//
+// A member other than the events' holds one object (one record) or an array
+// of them (one record per entry that is an object, at most 128; at most 32
+// rules). Every record comes once, in that order, on the caller's thread,
+// under the call's own lock, and is freed when its callback returns.
+// Returns 1 when the text is a JSON object (with or without any of these
+// members), 0 otherwise or when `buf` or `callback` is null.
 KOVA_EXPORT int KOVA_CALL KOVA_ParseDataByCallback(const char* buf, uint32_t len,
                                                    KOVA_AnalyzerEventCallback callback, void* user);
 

@@ -34,7 +34,7 @@
   X("CheckCode",                 nullptr,                    nullptr,                        328, 0, 0, 1, 0) \
   X("VSP_SCYDKD",                nullptr,                    nullptr,                        200, 0, 0, 1, 0) \
   X("PowerUp",                   nullptr,                    nullptr,                         24, 0, 1, 1, 1) \
-  X("VideoInDayNight",           nullptr,                    nullptr,                         48, 1, 1, 1, 1) \
+  X("VideoInDayNight",           ParseVideoInDayNightRecord, PackVideoInDayNightRecord,       48, 1, 1, 1, 1) \
   X("AudioMixChannel",           nullptr,                    nullptr,                       2116, 0, 0, 1, 0) \
   X("AudioTouch",                nullptr,                    nullptr,                        264, 0, 0, 1, 0) \
   X("VideoMosaic",               nullptr,                    nullptr,                         76, 0, 1, 1, 1) \

@@ -4,6 +4,7 @@
 #include "kova/kova.h"
 
 #include "api/dispatch.h"
+#include "events/document_readers.h"
 #include "events/event_stream.h"
 
 extern "C" {

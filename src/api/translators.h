@@ -5,10 +5,12 @@
 #include "config/access/translators.h"
 #include "config/alarm/translators.h"
 #include "config/analyse/translators.h"
+#include "config/audio/translators.h"
 #include "config/media/translators.h"
 #include "config/network/translators.h"
 #include "config/ptz/translators.h"
 #include "config/storage/translators.h"
+#include "config/system/translators.h"
 #include "config/traffic/translators.h"
 
 #endif  // KOVA_API_TRANSLATORS_H_

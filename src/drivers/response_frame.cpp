@@ -61,6 +61,64 @@ void ClearOutput(const ResponseFrame& f, unsigned char* out, uint32_t outLen, ui
   }
 }
 
+int ParseObjectMembers(const ResponseFrame& f, const Json::Value& root, const Json::Value& table,
+                       unsigned char* out, uint32_t slots, uint32_t* retLen) {
+  uint32_t filled = 0;
+  if (table.isObject()) {
+    const Json::Value::Members names = table.getMemberNames();
+    for (const std::string& name : names) {
+      if (filled >= slots) break;
+      const Json::Value& element = Member(table, name.c_str());
+      if (!element.isObject()) continue;
+      const StepContext ctx{root, Member(root, "params"), filled, f.recordSize, name.c_str()};
+      unsigned char* record = out + static_cast<size_t>(filled) * f.recordSize;
+      if (!f.parse(element, ctx, record)) {
+        if (f.clearing != Clearing::kNone)
+          std::memset(out, 0, static_cast<size_t>(slots) * f.recordSize);
+        return 0;
+      }
+      ++filled;
+    }
+  }
+  ReportLength(f, retLen, static_cast<uint64_t>(filled) * f.recordSize);
+  return 1;
+}
+
+// Whether an array table holds one element per record. For records that
+// are arrays themselves, the first element that is not null decides (a
+// channel left empty, [], must not turn the answer into one record).
+bool ListsChannels(const ResponseFrame& f, const Json::Value& table) {
+  if (!table.isArray()) return false;
+  if (!f.arrayRecords) return true;
+  const uint32_t n = Count(table);
+  for (uint32_t i = 0; i < n; ++i) {
+    const Json::Value& e = Element(table, i);
+    if (!e.isNull()) return e.isArray();
+  }
+  return false;
+}
+
+// Whether a record is worked in a copy: a slot shorter than the record, or
+// not aligned for it (caller-sized strides are arbitrary).
+bool NeedsCopy(const ResponseFrame& f, const unsigned char* slot, uint32_t stride) {
+  return stride < f.recordSize || reinterpret_cast<uintptr_t>(slot) % f.recordAlign != 0;
+}
+
+// How many records a table that fills record 0 alone gives, by the frame's
+// rule for a table that is not an array.
+uint32_t SingleRecords(const ResponseFrame& f, const Json::Value& table) {
+  if (f.walk == RecordWalk::kOne) return 1;
+  switch (f.nonArray) {
+    case NonArrayTable::kOneRecord:
+      return 1;
+    case NonArrayTable::kObjectOnly:
+      return table.isObject() ? 1 : 0;
+    case NonArrayTable::kNoRecord:
+      return 0;
+  }
+  return 1;
+}
+
 }  // namespace
 
 uint32_t CallerRecordSize(const void* buf, uint32_t len) {
@@ -70,6 +128,11 @@ uint32_t CallerRecordSize(const void* buf, uint32_t len) {
   return (size < 1 || size > len) ? 0 : size;
 }
 
+void StartSizedRecord(unsigned char* record, uint32_t size) {
+  std::memset(record, 0, size);
+  if (size >= sizeof size) std::memcpy(record, &size, sizeof size);
+}
+
 int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule) {
   const std::string text = WriteJson(value);
   const bool copied = rule == CopyRule::kAtMost ? CopyTextAtMost(text, outJson, outLen)
@@ -77,57 +140,13 @@ int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRul
   return copied ? 1 : 0;
 }
 
-namespace {
-
-// Whether record i is worked in a copy: a slot shorter than the record, or
-// not aligned for it (caller-sized strides are arbitrary).
-bool NeedsCopy(const ResponseFrame& f, const unsigned char* slot, uint32_t stride) {
-  return stride < f.recordSize || reinterpret_cast<uintptr_t>(slot) % f.recordAlign != 0;
-}
-
-// How many records the table fills, and whether element i is table[i].
-struct Walk {
-  uint32_t records;
-  bool perElement;
-  bool refused;
-};
-
-Walk ChooseWalk(const ResponseFrame& f, const Json::Value& table, int32_t rootChannel,
-                uint32_t slots) {
-  bool perElement = false;
-  switch (f.walk) {
-    case RecordWalk::kOne:
-      return Walk{1, false, false};
-    case RecordWalk::kByRootChannel:
-      if (rootChannel >= 0) return Walk{1, false, false};
-      if (!table.isArray()) return Walk{0, false, true};
-      perElement = true;
-      break;
-    case RecordWalk::kPerChannel:
-    case RecordWalk::kCallerSized:
-      perElement = table.isArray();
-      break;
-  }
-  if (perElement) return Walk{std::min(Count(table), slots), true, false};
-  switch (f.nonArray) {
-    case NonArrayTable::kOneRecord:
-      return Walk{1, false, false};
-    case NonArrayTable::kObjectOnly:
-      return Walk{table.isObject() ? 1u : 0u, false, false};
-    case NonArrayTable::kNoRecord:
-      break;
-  }
-  return Walk{0, false, false};
-}
-
-}  // namespace
-
 int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, uint32_t outLen,
                    uint32_t* retLen) {
   try {
     if (jsonText == nullptr || outBuf == nullptr || f.parse == nullptr || f.recordSize == 0) {
       return 0;
     }
+    if (f.refuseEmptyText && *jsonText == '\0') return 0;
     unsigned char* out = static_cast<unsigned char*>(outBuf);
     uint32_t stride = f.recordSize;
     if (f.walk == RecordWalk::kCallerSized) {
@@ -141,10 +160,12 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     Json::Value root;
     if (!ReadJson(jsonText, &root)) return 0;
     if (f.result == ResultRule::kMustBeTrue && !ResultIsTrue(root)) return 0;
+    if (f.result == ResultRule::kFalseFails && !Member(root, "result").isNull() &&
+        !ResultIsTrue(root)) {
+      return 0;
+    }
     const Json::Value& table = TableOf(f, root);
-    const int32_t rootChannel =
-        f.walk == RecordWalk::kByRootChannel ? ToInt32(Member(root, "channel")) : 0;
-    if (table.isNull()) {
+    if (table.isNull() && f.nullTable != NullTable::kStep) {
       switch (f.nullTable) {
         case NullTable::kFail:
           return 0;
@@ -157,18 +178,27 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
           }
           ReportLength(f, retLen, stride);
           return 1;
-        case NullTable::kReadAsTable:
+        case NullTable::kStep:
           break;
       }
     }
 
-    const Walk walk = ChooseWalk(f, table, rootChannel, outLen / stride);
-    if (walk.refused) return 0;
-    const Json::Value& params = Member(root, "params");
+    const uint32_t slots = outLen / stride;
+    if (f.walk == RecordWalk::kObjectMembers) {
+      return ParseObjectMembers(f, root, table, out, slots, retLen);
+    }
+    bool perElement = f.walk != RecordWalk::kOne && ListsChannels(f, table);
+    uint32_t n = perElement ? std::min(Count(table), slots) : SingleRecords(f, table);
+    if (f.walk != RecordWalk::kOne && f.channelAtRoot) {
+      perElement = ToInt32(Member(root, "channel")) < 0;
+      if (perElement && !table.isArray()) return 0;
+      n = perElement ? std::min(Count(table), slots) : 1;
+    }
     std::vector<unsigned char> copy;  // only for caller-sized slots that need one
+    const StepContext ctxBase{root, Member(root, "params"), 0, f.recordSize, nullptr};
     uint32_t filled = 0;
-    for (uint32_t i = 0; i < walk.records; ++i) {
-      const Json::Value& element = walk.perElement ? Element(table, i) : table;
+    for (uint32_t i = 0; i < n; ++i) {
+      const Json::Value& element = perElement ? Element(table, i) : table;
       if (f.skipNullElements && element.isNull()) continue;
       unsigned char* slot = out + static_cast<size_t>(i) * stride;
       if (f.clearing == Clearing::kEachRecord) std::memset(slot, 0, stride);
@@ -178,10 +208,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
         std::memcpy(copy.data(), slot, std::min(stride, f.recordSize));
         record = copy.data();
       }
-      const int32_t channel = walk.perElement ? static_cast<int32_t>(i) : rootChannel;
-      const StepContext ctx{
-          root, params, i, f.recordSize,
-          f.walk == RecordWalk::kByRootChannel ? channel : static_cast<int32_t>(i)};
+      const StepContext ctx{ctxBase.root, ctxBase.params, i, f.recordSize, nullptr};
       if (!f.parse(element, ctx, record)) {
         if (f.clearing != Clearing::kNone) ClearOutput(f, out, outLen, stride);
         return 0;
@@ -201,28 +228,24 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
   try {
     if (outJson == nullptr || outLen == 0) return 0;
     std::memset(outJson, 0, outLen);
-    if (inBuf == nullptr || f.pack == nullptr || f.recordSize == 0 || inLen == 0) return 0;
+    if (inBuf == nullptr || f.pack == nullptr || f.recordSize == 0) return 0;
     const unsigned char* in = static_cast<const unsigned char*>(inBuf);
     uint32_t stride = f.recordSize;
     if (f.packWalk == PackWalk::kCallerSized) {
       stride = CallerRecordSize(inBuf, inLen);
       if (stride == 0) return 0;
     } else if (inLen < f.recordSize) {
-      // Nothing the input holds is read.
-      if (f.packWalk == PackWalk::kPerChannel && f.shortInputPacksNull) {
-        return CopyPacked(Json::Value(), outJson, outLen, f.copy);
-      }
-      return 0;
+      return f.shortInputAsNull ? CopyPacked(Json::Value(), outJson, outLen, f.copy) : 0;
     }
     const uint32_t n = f.packWalk == PackWalk::kOne ? 1 : inLen / stride;
-    if (f.minTextPerRecord != 0 && static_cast<uint64_t>(n) * f.minTextPerRecord > outLen) {
-      return 0;  // the text could not fit: give up before building it
-    }
-
+    if (static_cast<uint64_t>(n) * f.minTextPerRecord > outLen) return 0;
     Json::Value root;
-    const bool array = n > 1 || f.packArrayAlways ||
-                       (f.packArrayBeyondOne && f.packWalk != PackWalk::kOne && inLen > stride);
+    const bool members = f.packWalk == PackWalk::kObjectMembers;
+    const bool array =
+        !members && (n > 1 || f.packArrayAlways ||
+                     (f.arrayUnlessExactlyOne && f.packWalk != PackWalk::kOne && inLen != stride));
     if (array) root = Json::Value(Json::arrayValue);
+    if (members) root = Json::Value(Json::objectValue);
     std::vector<unsigned char> copy;  // only for caller-sized slots that need one
     for (uint32_t i = 0; i < n; ++i) {
       const unsigned char* record = in + static_cast<size_t>(i) * stride;
@@ -231,7 +254,7 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
         std::memcpy(copy.data(), record, std::min(stride, f.recordSize));
         record = copy.data();
       }
-      Json::Value& target = array ? SetElement(root, i) : root;
+      Json::Value& target = array ? SetElement(root, i) : root;  // members: the one object
       if (!f.pack(record, target)) {
         std::memset(outJson, 0, outLen);
         return 0;

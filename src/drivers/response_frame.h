@@ -8,10 +8,9 @@
 //
 // A configuration states its frame once:
 //
-//   constexpr ResponseFrame kFrame =
-//       ResponseFrame::For<NtpRecord>(ParseTableStep<kNtp>, PackTableStep<kNtp>)
-//           .Walk(RecordWalk::kPerChannel)
-//           .IgnoreResult();
+//   constexpr ResponseFrame kFrame = ResponseFrame::For<NtpRecord>(ParseNtp, PackNtp)
+//                                        .Walk(RecordWalk::kPerChannel)
+//                                        .IgnoreResult();
 //   int ParseNtpConfig(const char* t, void* o, uint32_t n, uint32_t* r) {
 //     return ParseWithFrame(kFrame, t, o, n, r);
 //   }
@@ -27,8 +26,6 @@
 
 #include <cstdint>
 
-#include "common/fields/field_table.h"
-
 namespace kova {
 
 // What the step sees besides its own element.
@@ -37,7 +34,7 @@ struct StepContext {
   const Json::Value& params;  // root "params" (null when missing)
   uint32_t index;             // record index in the walk
   uint32_t recordBytes;       // bytes of the record the step may touch
-  int32_t channel;            // RecordWalk::kByRootChannel: the record's channel; else `index`
+  const char* memberName;     // RecordWalk::kObjectMembers: the element's member name, else null
 };
 
 // One record from one JSON element. false fails the whole parse.
@@ -47,7 +44,11 @@ using ParseStep = bool (*)(const Json::Value& element, const StepContext& ctx,
 using PackStep = bool (*)(const unsigned char* record, Json::Value& out);
 
 // Whether "result" decides anything.
-enum class ResultRule : uint8_t { kMustBeTrue, kIgnored };
+enum class ResultRule : uint8_t {
+  kMustBeTrue,
+  kIgnored,
+  kFalseFails,  // only a "result" that is present, not null and false fails
+};
 // Where the records' JSON sits.
 enum class TableAt : uint8_t { kParamsTable, kParams, kRoot };
 // What a missing or null table does.
@@ -55,7 +56,7 @@ enum class NullTable : uint8_t {
   kSucceedEmpty,   // success, no record filled (returned length 0)
   kFail,           // failure
   kAllZeroRecord,  // success with one cleared record
-  kReadAsTable,    // the step reads the null table like any other (one record)
+  kStep,           // the step reads the null table like any other and fills record 0
 };
 // How the caller's buffer is cleared: before the text is read (the whole
 // buffer, or its whole records), not at all, or each record just before its
@@ -66,13 +67,13 @@ enum class RecordWalk : uint8_t {
   kOne,          // the table fills record 0
   kPerChannel,   // an array fills record i from element i (as many as fit); anything else record 0
   kCallerSized,  // as kPerChannel, stepping by the size word the caller wrote into record 0
-  // The root's "channel" (missing reads 0) chooses: negative asks for every
-  // channel ("table" must be an array, else the parse fails; element i fills
-  // record i with channel i), otherwise the table fills record 0 for that
-  // channel.
-  kByRootChannel,
+  // An object table: its members that are objects fill one record each, in
+  // the JSON library's member order (sorted by name); other members take no
+  // record. Anything but an object fills nothing.
+  kObjectMembers,
 };
-// What a per-channel or caller-sized walk does with a table that is not an array.
+// What a per-channel or caller-sized walk does with a table that is not an
+// array (the root's "channel" aside).
 enum class NonArrayTable : uint8_t {
   kOneRecord,   // it fills record 0, whatever it is
   kObjectOnly,  // an object fills record 0, anything else no record
@@ -80,9 +81,9 @@ enum class NonArrayTable : uint8_t {
 };
 // What `retLen` receives.
 enum class ReturnedLength : uint8_t {
-  kSetBytes,   // set to the bytes of the records filled
-  kAddBytes,   // increased by them
-  kSetRecord,  // set to one record's size whenever the parse succeeds
+  kSetBytes,    // set to the bytes of the records filled
+  kAddBytes,    // increased by them
+  kSetRecord,   // set to one record's size whenever the parse succeeds
 };
 // When packed text is copied: its length at most, or strictly less than, the output size.
 enum class CopyRule : uint8_t { kAtMost, kStrictlyLess };
@@ -91,6 +92,9 @@ enum class PackWalk : uint8_t {
   kOne,          // exactly one record (an input shorter than it is refused)
   kPerChannel,   // inLen / size records: one as the bare value, several as an array
   kCallerSized,  // as kPerChannel, stepping by the size word of the first record
+  // inLen / size records into one object: each step receives that object
+  // and adds its own member to it.
+  kObjectMembers,
 };
 
 struct ResponseFrame {
@@ -103,16 +107,31 @@ struct ResponseFrame {
   NullTable nullTable = NullTable::kSucceedEmpty;
   Clearing clearing = Clearing::kWholeBuffer;
   RecordWalk walk = RecordWalk::kOne;
-  bool skipNullElements =
-      false;  // per-channel: a null element leaves its record and is not counted
+  bool skipNullElements = false;  // per-channel: a null element leaves its record and is not counted
+  NonArrayTable nonArray = NonArrayTable::kOneRecord;
+  // A record's own JSON is an array (a channel's profiles): a per-channel
+  // table lists channels only when its first non-null element is an array;
+  // otherwise the table is one record.
+  bool arrayRecords = false;
   ReturnedLength returned = ReturnedLength::kSetBytes;
   CopyRule copy = CopyRule::kStrictlyLess;
   PackWalk packWalk = PackWalk::kOne;
   bool packArrayAlways = false;  // several-record pack: an array even for one record
-  NonArrayTable nonArray = NonArrayTable::kOneRecord;
-  bool shortInputPacksNull = false;  // per-channel pack of 1 byte up to one record: "null"
-  bool packArrayBeyondOne = false;   // per-channel pack: an array once inLen exceeds one record
-  uint32_t minTextPerRecord = 0;     // pack: refused early when outLen < records x this
+  // Per-element walks: the response's top-level "channel" decides the walk.
+  // Absent or not negative: the table is one record (record 0) whatever its
+  // type; negative: the table must be an array (anything else fails) and
+  // element i fills record i.
+  bool channelAtRoot = false;
+  // Pack: an input shorter than one record packs as null (the text "null"
+  // and a newline) instead of being refused.
+  bool shortInputAsNull = false;
+  // Several-record pack: a bare value only when the input is exactly one
+  // record; one record and a partial one are an array of one.
+  bool arrayUnlessExactlyOne = false;
+  // Pack: bytes of text every record needs at least; an input of more
+  // records than the output could hold is refused before any is packed.
+  uint32_t minTextPerRecord = 0;
+  bool refuseEmptyText = false;  // an empty text fails before anything is cleared
 
   template <typename Rec>
   static constexpr ResponseFrame For(ParseStep p, PackStep k) {
@@ -123,90 +142,36 @@ struct ResponseFrame {
     f.pack = k;
     return f;
   }
-  constexpr ResponseFrame IgnoreResult() const {
-    auto f = *this;
-    f.result = ResultRule::kIgnored;
-    return f;
-  }
-  constexpr ResponseFrame Result(ResultRule r) const {
-    auto f = *this;
-    f.result = r;
-    return f;
-  }
-  constexpr ResponseFrame Table(TableAt t) const {
-    auto f = *this;
-    f.tableAt = t;
-    return f;
-  }
-  constexpr ResponseFrame OnNullTable(NullTable n) const {
-    auto f = *this;
-    f.nullTable = n;
-    return f;
-  }
-  constexpr ResponseFrame Clear(Clearing c) const {
-    auto f = *this;
-    f.clearing = c;
-    return f;
-  }
+  constexpr ResponseFrame Result(ResultRule r) const { auto f = *this; f.result = r; return f; }
+  constexpr ResponseFrame IgnoreResult() const { auto f = *this; f.result = ResultRule::kIgnored; return f; }
+  constexpr ResponseFrame Table(TableAt t) const { auto f = *this; f.tableAt = t; return f; }
+  constexpr ResponseFrame OnNullTable(NullTable n) const { auto f = *this; f.nullTable = n; return f; }
+  constexpr ResponseFrame Clear(Clearing c) const { auto f = *this; f.clearing = c; return f; }
   constexpr ResponseFrame Walk(RecordWalk w) const {
     auto f = *this;
     f.walk = w;
-    f.packWalk = w == RecordWalk::kOne           ? PackWalk::kOne
-                 : w == RecordWalk::kCallerSized ? PackWalk::kCallerSized
-                                                 : PackWalk::kPerChannel;
+    f.packWalk = w == RecordWalk::kOne             ? PackWalk::kOne
+                 : w == RecordWalk::kPerChannel   ? PackWalk::kPerChannel
+                 : w == RecordWalk::kCallerSized  ? PackWalk::kCallerSized
+                                                  : PackWalk::kObjectMembers;
     return f;
   }
-  constexpr ResponseFrame NonArray(NonArrayTable n) const {
+  constexpr ResponseFrame SkipNullElements() const { auto f = *this; f.skipNullElements = true; return f; }
+  constexpr ResponseFrame NonArray(NonArrayTable n) const { auto f = *this; f.nonArray = n; return f; }
+  constexpr ResponseFrame ArrayRecords() const { auto f = *this; f.arrayRecords = true; return f; }
+  constexpr ResponseFrame Returned(ReturnedLength r) const { auto f = *this; f.returned = r; return f; }
+  constexpr ResponseFrame Copy(CopyRule c) const { auto f = *this; f.copy = c; return f; }
+  constexpr ResponseFrame Pack(PackWalk w) const { auto f = *this; f.packWalk = w; return f; }
+  constexpr ResponseFrame PackArrayAlways() const { auto f = *this; f.packArrayAlways = true; return f; }
+  constexpr ResponseFrame ChannelAtRoot() const { auto f = *this; f.channelAtRoot = true; return f; }
+  constexpr ResponseFrame ShortInputAsNull() const { auto f = *this; f.shortInputAsNull = true; return f; }
+  constexpr ResponseFrame ArrayUnlessExactlyOne() const {
     auto f = *this;
-    f.nonArray = n;
+    f.arrayUnlessExactlyOne = true;
     return f;
   }
-  constexpr ResponseFrame SkipNullElements() const {
-    auto f = *this;
-    f.skipNullElements = true;
-    return f;
-  }
-  constexpr ResponseFrame Returned(ReturnedLength r) const {
-    auto f = *this;
-    f.returned = r;
-    return f;
-  }
-  constexpr ResponseFrame Copy(CopyRule c) const {
-    auto f = *this;
-    f.copy = c;
-    return f;
-  }
-  constexpr ResponseFrame Pack(PackWalk w) const {
-    auto f = *this;
-    f.packWalk = w;
-    return f;
-  }
-  constexpr ResponseFrame PackArrayAlways() const {
-    auto f = *this;
-    f.packArrayAlways = true;
-    return f;
-  }
-  // An input of at least one byte but shorter than one record packs as the
-  // text "null" (no record is read); without this it is refused.
-  constexpr ResponseFrame ShortInputPacksNull() const {
-    auto f = *this;
-    f.shortInputPacksNull = true;
-    return f;
-  }
-  // An array whenever the input is longer than one record, even by a
-  // partial record (one record and a few bytes: an array of one).
-  constexpr ResponseFrame PackArrayBeyondOne() const {
-    auto f = *this;
-    f.packArrayBeyondOne = true;
-    return f;
-  }
-  // Every record packs into at least `n` bytes of text: a text buffer too
-  // short for all of them is refused before any record is read.
-  constexpr ResponseFrame MinTextPerRecord(uint32_t n) const {
-    auto f = *this;
-    f.minTextPerRecord = n;
-    return f;
-  }
+  constexpr ResponseFrame MinTextPerRecord(uint32_t n) const { auto f = *this; f.minTextPerRecord = n; return f; }
+  constexpr ResponseFrame RefuseEmptyText() const { auto f = *this; f.refuseEmptyText = true; return f; }
 };
 
 // 1 on success, 0 on failure. Never writes past `outLen`; on failure the
@@ -214,31 +179,33 @@ struct ResponseFrame {
 // cleared again).
 int ParseWithFrame(const ResponseFrame& frame, const char* jsonText, void* outBuf, uint32_t outLen,
                    uint32_t* retLen);
-// 1 on success, 0 on failure. Never reads past `inLen`; an empty input is
-// refused; `outJson` is cleared first and stays cleared on failure.
+// 1 on success, 0 on failure. Never reads past `inLen`; `outJson` is cleared
+// first and stays cleared on failure.
 int PackWithFrame(const ResponseFrame& frame, const void* inBuf, uint32_t inLen, char* outJson,
                   uint32_t outLen);
-
-// Steps of a record that is one field table: the element's members through
-// the walker, and back.
-template <const FieldTable& kTable>
-bool ParseTableStep(const Json::Value& element, const StepContext& /*ctx*/, unsigned char* record) {
-  ParseFields(element, record, kTable);
-  return true;
-}
-template <const FieldTable& kTable>
-bool PackTableStep(const unsigned char* record, Json::Value& out) {
-  PackFields(record, out, kTable);
-  return true;
-}
 
 // The caller's record size from the first record's leading uint32: 0 when
 // the buffer cannot hold the size word, or the size is 0 or above `len`.
 uint32_t CallerRecordSize(const void* buf, uint32_t len);
 
+// Starts a record that carries its own size, for a step of a frame that
+// does not clear the buffer: clears its `size` bytes and writes `size` into
+// its leading uint32.
+void StartSizedRecord(unsigned char* record, uint32_t size);
+
 // Writes `value` as single-line text into `outJson` under `rule`. 1 when copied.
 int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule);
 
 }  // namespace kova
+
+// Defines the entry points Parse<Name> and Pack<Name> of a configuration
+// served by `frame` alone (inside namespace kova).
+#define KOVA_FRAME_TRANSLATORS(Name, frame)                                                   \
+  int Parse##Name(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {    \
+    return ParseWithFrame(frame, jsonText, outBuf, outLen, retLen);                           \
+  }                                                                                           \
+  int Pack##Name(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {         \
+    return PackWithFrame(frame, inBuf, inLen, outJson, outLen);                               \
+  }
 
 #endif  // KOVA_DRIVERS_RESPONSE_FRAME_H_

@@ -6,6 +6,8 @@
 // keep within its buffers and refuse what the rules say it refuses.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -144,6 +146,88 @@ TEST_P(PackBadInput, KeepsWithinItsBuffersWhateverTheRecordHolds) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryName, PackBadInput,
+                         testing::Range(0, static_cast<int>(kova::kPackNameCount)),
+                         [](const testing::TestParamInfo<int>& info) {
+                           return TestLabel(kova::kPackNames[info.param].name);
+                         });
+
+// Caller-sized records: the same documents and records with the size word
+// laid as a caller sets it, at the full record size, at a shorter size (a
+// caller built with an older record) and at an odd one (records after the
+// first are then not aligned).
+std::vector<uint32_t> CallerStrides(uint32_t size) {
+  return {size, std::max<uint32_t>(4, size / 2 / 4 * 4), size + 3};
+}
+
+class CallerSizedParseBadInput : public testing::TestWithParam<int> {};
+
+TEST_P(CallerSizedParseBadInput, KeepsWithinTheCallersSize) {
+  const int i = GetParam();
+  const char* name = kova::kParseNames[i].name;
+  if (!CallerSized(name) || !kova::ParseBuilt(i)) return;
+  const std::vector<std::string> docs = RealisticDocuments(i, Samples());
+  for (uint32_t stride : CallerStrides(ParseSizeOrDefault(i))) {
+    auto check = [&](const std::string& what, const std::string& text, uint32_t outLen) {
+      ParseOptions o;
+      o.sizeWord = stride;
+      const ParseResult r = CallParse(name, text.c_str(), outLen, o);
+      EXPECT_EQ("", ParseViolation(i, text, outLen, r))
+          << what << " (stride " << stride << ", outLen " << outLen << ")";
+      if (r.ret != 0) {
+        EXPECT_EQ(0u, r.retLen % stride) << what;
+      }
+    };
+    for (size_t d = 0; d < docs.size(); ++d) {
+      check("realistic document " + std::to_string(d), docs[d], 2 * stride + 1);
+      check("realistic document " + std::to_string(d) + " in one record", docs[d], stride);
+    }
+    check("realistic document below the size", docs.front(), stride - 1);
+    for (size_t h = 0; h < HostileValues().size(); ++h) {
+      const std::string& v = HostileValues()[h];
+      check("hostile table " + std::to_string(h), Envelope(v), 2 * stride);
+      check("hostile element " + std::to_string(h), Envelope("[" + v + "," + v + "]"), 2 * stride);
+      if (docs.front().size() <= kSmallDocument) {
+        check("hostile value " + std::to_string(h) + " in every scalar",
+              ReplaceScalars(docs.front(), v), 2 * stride);
+      }
+    }
+    check("table of 100000 elements", HugeTable(), 2 * stride);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryName, CallerSizedParseBadInput,
+                         testing::Range(0, static_cast<int>(kova::kParseNameCount)),
+                         [](const testing::TestParamInfo<int>& info) {
+                           return TestLabel(kova::kParseNames[info.param].name);
+                         });
+
+class CallerSizedPackBadInput : public testing::TestWithParam<int> {};
+
+TEST_P(CallerSizedPackBadInput, ReadsNoFurtherThanTheCallersSize) {
+  const int k = GetParam();
+  const char* name = kova::kPackNames[k].name;
+  if (!CallerSized(name) || !kova::PackBuilt(k)) return;
+  const char* const kFillNames[] = {"zero", "0xFF", "0x7F", "0x7FFFFFFF counts", "random"};
+  for (uint32_t stride : CallerStrides(PackSizeOrDefault(k))) {
+    std::string record(2 * stride + 1, '\0');
+    for (int f = 0; f < static_cast<int>(Fill::kCount); ++f) {
+      FillRecord(reinterpret_cast<uint8_t*>(&record[0]), record.size(), static_cast<Fill>(f),
+                 static_cast<uint32_t>(k));
+      std::memcpy(&record[0], &stride, sizeof stride);
+      std::memcpy(&record[stride], &stride, sizeof stride);
+      for (uint32_t inLen : {stride - 1, stride, 2 * stride + 1}) {
+        for (uint32_t outLen : {1u, 64u << 10, 4u << 20}) {
+          const PackResult r = CallPack(name, record, inLen, outLen, record);
+          EXPECT_EQ("", PackViolation(k, record, inLen, outLen, r, record, false))
+              << kFillNames[f] << " record (stride " << stride << ", inLen " << inLen
+              << ", outLen " << outLen << ")";
+        }
+      }
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryName, CallerSizedPackBadInput,
                          testing::Range(0, static_cast<int>(kova::kPackNameCount)),
                          [](const testing::TestParamInfo<int>& info) {
                            return TestLabel(kova::kPackNames[info.param].name);

@@ -76,9 +76,12 @@ struct EventResult {
 
 // KOVA_ParseAnalyzerEventData (or, with `byCallback`, KOVA_ParseDataByCallback)
 // on a copy of `text` in a buffer of exactly its length plus the NUL. The
-// callback reads every byte of each record it is given. For analyzer events
-// it also holds the contract: at most 128 events, a null record exactly
-// when its size is 0, the reserved pointer null and its size 0.
+// callback reads every byte of each record it is given and of the entries
+// its lists point at (the digest takes their contents, not their
+// addresses), and checks that an event record has its code's size and no
+// list counts more entries than it holds. For analyzer events it also holds
+// the contract: at most 128 events, a null record exactly when its size is
+// 0, the reserved pointer null and its size 0.
 EventResult CallEvents(const std::string& text, uint32_t len, bool byCallback);
 // The same on the caller's own text, not a copy.
 EventResult CallEventsInPlace(const char* text, uint32_t len, bool byCallback);

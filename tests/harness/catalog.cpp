@@ -24,11 +24,39 @@ uint32_t PackSizeOrDefault(int k) {
   return n != 0 ? n : kUnknownRecordSize;
 }
 
-bool PackAcceptsShortInput(int k, uint32_t inLen) {
-  const kova::DriverBinding* b = kova::PackBinding(k);
-  if (b != nullptr) return b->packArray != 0;
-  return inLen > 0 && kPackNames[k].shortInputPacksNull;
+namespace {
+
+// Packers that write an input shorter than one record as null (besides the
+// table driver in array mode, found by its binding). One line per name.
+const char* const kShortInputAsNull[] = {
+    "Encode",
+    "Record",
+};
+
+// Configurations whose records begin with their caller-set size. One line per name.
+const char* const kCallerSizedNames[] = {
+    "TemperatureAlarm",
+    "FanSpeedAlarm",
+    "StorageGroup",
+    "Raid",
+};
+
+template <size_t N>
+bool Listed(const char* const (&names)[N], const char* name) {
+  for (const char* n : names) {
+    if (kova::NameEquals(n, name)) return true;
+  }
+  return false;
 }
+
+}  // namespace
+
+bool PackAcceptsShortInput(int k) {
+  const kova::DriverBinding* b = kova::PackBinding(k);
+  return (b != nullptr && b->packArray != 0) || Listed(kShortInputAsNull, kPackNames[k].name);
+}
+
+bool CallerSized(const char* name) { return Listed(kCallerSizedNames, name); }
 
 std::vector<int> BuiltParseNames() {
   std::vector<int> out;
@@ -148,6 +176,18 @@ void PointedBuffers::Attach(const char* name, uint8_t* records, size_t length, u
       }
       void* target = b.data();
       std::memcpy(record + rp->pointerOffset, &target, sizeof target);
+    }
+  }
+}
+
+void ClearPointerFields(const char* name, uint8_t* records, size_t length, uint32_t recordSize) {
+  if (recordSize == 0) return;
+  for (const RecordPointer* rp = kRecordPointers; rp->name != nullptr; ++rp) {
+    if (!kova::NameEquals(name, rp->name) || rp->pointerOffset + sizeof(void*) > recordSize) {
+      continue;
+    }
+    for (size_t at = 0; at + recordSize <= length; at += recordSize) {
+      std::memset(records + at + rp->pointerOffset, 0, sizeof(void*));
     }
   }
 }

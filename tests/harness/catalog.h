@@ -28,11 +28,17 @@ uint32_t PackSize(int k);
 uint32_t ParseSizeOrDefault(int i);
 uint32_t PackSizeOrDefault(int k);
 
-// Whether the packer of pack name `k` packs an input of `inLen` bytes,
-// shorter than one record, as "null" instead of refusing it: the table
-// driver in array mode (any length, none included) and the translators whose
-// list entry says so (at least one byte).
-bool PackAcceptsShortInput(int k, uint32_t inLen);
+// Whether the packer of pack name `k` packs an input shorter than one
+// record as "null" instead of refusing it: the table driver in array mode,
+// and the names listed in catalog.cpp.
+bool PackAcceptsShortInput(int k);
+
+// Whether `name` has caller-sized records (listed in catalog.cpp): each
+// begins with a uint32 size the caller sets, and the translator steps
+// through the buffer by it. The bad-input suite lays that word, at the full
+// record size and at a shorter one, so that such a translator is exercised
+// beyond its refusal of a missing size.
+bool CallerSized(const char* name);
 
 // Indices of the names whose translator is built, in list order.
 std::vector<int> BuiltParseNames();
@@ -82,6 +88,11 @@ struct RecordPointer {
   uint32_t unitSize;       // bytes per counted unit (1 for a length in bytes)
 };
 extern const RecordPointer kRecordPointers[];
+
+// Zeroes the pointer fields of configuration `name` in every whole record
+// of [records, records + length): what is left depends on the call alone,
+// not on where the pointed buffers happen to live.
+void ClearPointerFields(const char* name, uint8_t* records, size_t length, uint32_t recordSize);
 
 // The buffers that the pointer fields of some records were aimed at.
 class PointedBuffers {

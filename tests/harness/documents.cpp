@@ -4,6 +4,7 @@
 #include <json/writer.h>
 
 #include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -161,6 +162,7 @@ std::vector<std::string> PackedShapes(int k) {
   for (Fill fill : {Fill::kAll7F, Fill::kZero}) {
     GuardedBuffer record(size);
     FillRecord(record.data(), record.size(), fill, 0);
+    if (CallerSized(name) && size >= sizeof size) std::memcpy(record.data(), &size, sizeof size);
     PointedBuffers pointed;
     pointed.Attach(name, record.data(), record.size(), size, -1, std::string());
     for (uint32_t textSize : {1u << 20, kHugeBuffer}) {
@@ -312,8 +314,10 @@ std::vector<std::string> MalformedTexts(const std::string& realistic) {
 std::vector<std::string> EventDocuments(const std::vector<SampleDocument>& samples) {
   std::vector<std::string> out;
   for (const SampleDocument& d : samples) {
-    if (d.text.find("\"Event\"") != std::string::npos ||
-        d.text.find("\"EventList\"") != std::string::npos) {
+    if (d.path.find("/events/") != std::string::npos ||
+        d.text.find("\"Event\"") != std::string::npos ||
+        d.text.find("\"EventList\"") != std::string::npos ||
+        d.text.find("\"eventList\"") != std::string::npos) {
       out.push_back(d.text);
     }
   }

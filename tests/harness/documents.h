@@ -64,8 +64,9 @@ std::string ReplaceContainers(const std::string& doc, const std::string& value);
 // unbalanced, nested deeper than the reader allows.
 std::vector<std::string> MalformedTexts(const std::string& realistic);
 
-// Analyzer event documents: the samples whose text names an "Event" or
-// "EventList" member, and made ones with every kind of event (with and
+// Analyzer event documents: the samples under an "events" directory or
+// whose text names an "Event", "EventList" or "eventList" member, and made
+// ones with every kind of event (with and
 // without "Data", unknown codes, more than the 128 events one notification
 // may carry).
 std::vector<std::string> EventDocuments(const std::vector<SampleDocument>& samples);

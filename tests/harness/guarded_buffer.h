@@ -91,7 +91,7 @@ class GuardedBuffer {
   class BlockCache {
    public:
     ~BlockCache() {
-      for (const Block& b : blocks_) std::free(b.base);
+      for (const Block& b : blocks_) Free(b.base);
     }
     uint8_t* Take(size_t total) {
       for (size_t i = 0; i < blocks_.size(); ++i) {
@@ -100,23 +100,26 @@ class GuardedBuffer {
         blocks_.erase(blocks_.begin() + static_cast<std::ptrdiff_t>(i));
         return base;
       }
-      void* p = std::aligned_alloc(64, total);
-      if (p == nullptr) throw std::bad_alloc();
-      return static_cast<uint8_t*>(p);
+      return static_cast<uint8_t*>(::operator new(total, kAlignment));
     }
     void Give(uint8_t* base, size_t total) {
       if (total > (4u << 20)) {
-        std::free(base);
+        Free(base);
         return;
       }
       if (blocks_.size() == 8) {
-        std::free(blocks_.front().base);
+        Free(blocks_.front().base);
         blocks_.erase(blocks_.begin());
       }
       blocks_.push_back({base, total});
     }
 
    private:
+    // Aligned operator new rather than aligned_alloc, which the Windows C
+    // runtime lacks.
+    static constexpr std::align_val_t kAlignment{64};
+    static void Free(uint8_t* base) { ::operator delete(base, kAlignment); }
+
     struct Block {
       uint8_t* base;
       size_t total;

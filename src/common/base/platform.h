@@ -1,29 +1,37 @@
 // The one place where the library touches the operating system: code-page
 // conversion, a mutex, the local clock, the thread id and log files.
 //
-// Everything else in the library is portable C++ over these calls; a port to
-// another system replaces platform.cpp alone.
+// Everything else in the library is portable C++ over these calls.
+// platform.cpp is portable too; each system has its own part,
+// platform_posix.cpp or platform_windows.cpp, and a port to another system
+// adds one more.
 #ifndef KOVA_COMMON_PLATFORM_H_
 #define KOVA_COMMON_PLATFORM_H_
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <mutex>
 #include <string>
+#if !defined(_WIN32)
+#include <mutex>
+#endif
 
 namespace kova {
 namespace platform {
 
 // ---- Code pages ----------------------------------------------------------
 //
-// The local code page is the charset named by the environment variable
-// KOVA_CODEPAGE when it is set and not empty (any name the system converter
-// knows: "GBK", "CP936", "BIG5", "ISO-8859-1", "UTF-8", ...); otherwise the
-// codeset of the calling thread's current locale, where the plain C/POSIX
-// locale (ASCII) counts as UTF-8, so that a program that never sets a locale
-// gets its text unchanged. A name the converter does not know falls back to
-// UTF-8.
+// The local code page is the one named by the environment variable
+// KOVA_CODEPAGE when it is set and not empty; a name the system's converter
+// does not know falls back to UTF-8.
+// - POSIX: any iconv name ("GBK", "CP936", "BIG5", "ISO-8859-1", "UTF-8",
+//   ...); unset, the codeset of the calling thread's current locale, where
+//   the plain C/POSIX locale (ASCII) counts as UTF-8, so that a program that
+//   never sets a locale gets its text unchanged.
+// - Windows: a code page number ("936") or a name ("CP936", "windows-1252",
+//   "GBK", "BIG5", "ISO-8859-1", "UTF-8", ...); unset, the process's ANSI
+//   code page (CP_ACP). Converted by MultiByteToWideChar and
+//   WideCharToMultiByte, with the same replacement rules as below.
 //
 // Converters are opened once per thread and reopened only when the local
 // code page changes.
@@ -54,20 +62,41 @@ Conversion LocalToUtf8(const char* src, size_t n, char* dst, size_t cap);
 // The name of the local code page as the calling thread sees it now.
 std::string LocalCodePage();
 
+// While one lives on a thread, that thread's conversions use the local code
+// page as it was when the first one was made: one look at the environment
+// and the locale for a whole document instead of one per text field.
+class CodePagePin {
+ public:
+  CodePagePin();
+  ~CodePagePin();
+  CodePagePin(const CodePagePin&) = delete;
+  CodePagePin& operator=(const CodePagePin&) = delete;
+};
+
 // ---- Locks ---------------------------------------------------------------
 
 // A non-recursive mutex; constant-initialised, so a namespace-scope Mutex is
-// ready before any static constructor runs.
+// ready before any static constructor runs. On Windows a slim reader/writer
+// lock taken exclusively (SRWLOCK_INIT is all zero bits and needs no
+// cleanup), elsewhere the standard library's mutex.
 class Mutex {
  public:
   constexpr Mutex() = default;
   Mutex(const Mutex&) = delete;
   Mutex& operator=(const Mutex&) = delete;
+#if defined(_WIN32)
+  void Lock();
+  void Unlock();
+
+ private:
+  void* srwLock_ = nullptr;  // an SRWLOCK: one pointer-sized word
+#else
   void Lock() { m_.lock(); }
   void Unlock() { m_.unlock(); }
 
  private:
   std::mutex m_;
+#endif
 };
 
 // Holds a Mutex for the lifetime of the scope.

@@ -13,6 +13,7 @@
 
 #include <cstddef>
 
+#include "common/blocks/time_schedule.h"
 #include "common/fields/field_table.h"
 #include "kova/records/event_handler.h"
 #include "kova/records/schedule.h"
@@ -32,6 +33,13 @@ bool ParseEventHandler(const Json::Value& jsonEventHandler, EventHandlerRecord* 
 // ParseEventHandler. False only when `record` or `week` is null.
 bool ParseEventHandlerWithWeek(const Json::Value& jsonEventHandler, EventHandlerRecord* record,
                                WeekSchedule7x6* week);
+
+// ParseEventHandler for records that keep a grid of "TimeSection" of their
+// own beside the linkage block (the 7 x 10 grid of analysis rules): `grid`
+// is read as ParseTimeSectionGrid reads it (result ignored), each section
+// text scanned once for both schedules. False only when `record` is null.
+bool ParseEventHandlerWithGrid(const Json::Value& jsonEventHandler, EventHandlerRecord* record,
+                               const SectionGrid& grid);
 
 // Writes the flagged members of `record` into the object `jsonEventHandler`
 // (made an object if it is not one). Counts are honoured only as far as the

@@ -1,5 +1,6 @@
 #include "common/blocks/time_schedule.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -17,37 +18,29 @@ constexpr int kAnyWidth = 0;
 
 bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-// A section's text as the JSON value holds it, read up to its end or its
-// first NUL (the C string the device's text would be).
-struct Text {
-  const char* p;
-  const char* end;
-  char Peek() const { return p != end ? *p : '\0'; }
-};
-
 // Reads one "%d" (or "%<width>d") the way scanf does: leading whitespace
 // skipped, an optional sign, at least one digit, at most `width` characters
 // when width is set. Out-of-range numbers are clamped to 64 bits and then
 // cut to 32, as the C library does for "%d". Returns false on no digits.
-bool ScanInt(Text* t, int width, int32_t* out) {
-  Text c = *t;
-  while (IsSpace(c.Peek())) ++c.p;
+bool ScanInt(const char** cursor, int width, int32_t* out) {
+  const char* p = *cursor;
+  while (IsSpace(*p)) ++p;
   int left = width == kAnyWidth ? -1 : width;
   bool negative = false;
-  if ((c.Peek() == '+' || c.Peek() == '-') && left != 0) {
-    negative = c.Peek() == '-';
-    ++c.p;
+  if ((*p == '+' || *p == '-') && left != 0) {
+    negative = *p == '-';
+    ++p;
     if (left > 0) --left;
   }
   uint64_t magnitude = 0;
   bool digits = false;
-  while (c.Peek() >= '0' && c.Peek() <= '9' && left != 0) {
+  while (*p >= '0' && *p <= '9' && left != 0) {
     if (magnitude <= (UINT64_MAX - 9) / 10)
-      magnitude = magnitude * 10 + static_cast<uint64_t>(c.Peek() - '0');
+      magnitude = magnitude * 10 + static_cast<uint64_t>(*p - '0');
     else
       magnitude = UINT64_MAX;
     digits = true;
-    ++c.p;
+    ++p;
     if (left > 0) --left;
   }
   if (!digits) return false;
@@ -60,89 +53,63 @@ bool ScanInt(Text* t, int width, int32_t* out) {
         magnitude > static_cast<uint64_t>(INT64_MAX) ? INT64_MAX : static_cast<int64_t>(magnitude);
   }
   *out = static_cast<int32_t>(static_cast<uint32_t>(static_cast<uint64_t>(value)));
-  t->p = c.p;
+  *cursor = p;
   return true;
 }
 
 // Matches the literal that follows field i of "%d %d:%d:%d-%d:%d:%d":
 // the blank of the format accepts any run of whitespace (none included).
-bool ScanSeparator(Text* t, int i) {
+bool ScanSeparator(const char** cursor, int i) {
   static const char kSeparators[] = " ::-::";
   const char sep = kSeparators[i];
   if (sep == ' ') {
-    while (IsSpace(t->Peek())) ++t->p;
+    while (IsSpace(**cursor)) ++*cursor;
     return true;
   }
-  if (t->Peek() != sep) return false;
-  ++t->p;
+  if (**cursor != sep) return false;
+  ++*cursor;
   return true;
 }
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-// The form devices send, "1 08:00:00-17:30:00": an enable number of at most
-// nine digits right at the start, one blank, two digits per time field and
-// no digit after the last. Both read forms read it alike (the width of two
-// never cuts a field), so it is read directly; false sends anything else to
-// the general scan.
-bool ScanUsualForm(const Text& t, int32_t* fields[7]) {
-  const char* p = t.p;
-  const char* const end = t.end;
-  bool negative = false;
-  if (p != end && (*p == '-' || *p == '+')) negative = *p++ == '-';
-  int32_t enable = 0;
-  int digits = 0;
-  for (; p != end && IsDigit(*p) && digits < 9; ++p, ++digits) enable = enable * 10 + (*p - '0');
-  if (digits == 0 || (p != end && IsDigit(*p))) return false;
-  static const char kShape[] = " dd:dd:dd-dd:dd:dd";  // 'd': a digit
-  constexpr int kShapeLength = sizeof kShape - 1;
-  if (end - p < kShapeLength) return false;
-  for (int i = 0; i < kShapeLength; ++i) {
-    if (kShape[i] == 'd' ? !IsDigit(p[i]) : p[i] != kShape[i]) return false;
+// Scans the section text into the seven fields of `fields` in record order,
+// storing each number as it converts. `width` limits each time field (not
+// the leading enable number) to that many characters. Returns the count of
+// numbers converted.
+// The form every device writes, "1 08:00:00-18:00:00" (one-digit enable,
+// two-digit times, nothing numeric after), read at fixed places: the same
+// numbers the general reader takes from it, several times faster. False
+// (nothing stored) for any other text.
+bool ScanCanonicalSection(const char* text, int32_t* fields[7]) {
+  static const char kPattern[] = "d dd:dd:dd-dd:dd:dd";
+  for (size_t i = 0; i + 1 < sizeof kPattern; ++i) {
+    const bool digit = text[i] >= '0' && text[i] <= '9';
+    if (kPattern[i] == 'd' ? !digit : text[i] != kPattern[i]) return false;
   }
-  if (end - p > kShapeLength && IsDigit(p[kShapeLength])) return false;
-  *fields[0] = negative ? -enable : enable;
-  for (int i = 0; i < 6; ++i) *fields[i + 1] = (p[1 + 3 * i] - '0') * 10 + (p[2 + 3 * i] - '0');
+  if (text[sizeof kPattern - 1] >= '0' && text[sizeof kPattern - 1] <= '9') return false;
+  *fields[0] = text[0] - '0';
+  for (int f = 1; f < 7; ++f) {
+    const char* two = text + 2 + 3 * (f - 1);
+    *fields[f] = (two[0] - '0') * 10 + (two[1] - '0');
+  }
   return true;
 }
 
-// Scans the section text of `v` (no text when it is not a string) into the
-// seven fields of `fields` in record order, storing each number as it
-// converts. `width` limits each time field (not the leading enable number)
-// to that many characters. Returns the count of numbers converted.
-int ScanSection(const Json::Value& v, int width, int32_t* fields[7]) {
-  Text t{nullptr, nullptr};
-  if (!v.isString() || !v.getString(&t.p, &t.end)) t = Text{nullptr, nullptr};
-  if (ScanUsualForm(t, fields)) return 7;
+int ScanSection(const char* text, int width, int32_t* fields[7]) {
+  if (ScanCanonicalSection(text, fields)) return 7;
+  const char* p = text;
   for (int i = 0; i < 7; ++i) {
-    if (i > 0 && !ScanSeparator(&t, i - 1)) return i;
+    if (i > 0 && !ScanSeparator(&p, i - 1)) return i;
     int32_t value = 0;
-    if (!ScanInt(&t, i == 0 ? kAnyWidth : width, &value)) return i;
+    if (!ScanInt(&p, i == 0 ? kAnyWidth : width, &value)) return i;
     *fields[i] = value;
   }
   return 7;
 }
 
-// Whether `v` holds text that reads as a non-empty C string.
-bool HasText(const Json::Value& v) {
-  const char* begin = nullptr;
-  const char* end = nullptr;
-  return v.isString() && v.getString(&begin, &end) && begin != end && *begin != '\0';
-}
-
-int ScanRecord(const Json::Value& v, int width, TimeSectionRecord* r) {
+int ScanRecord(const char* text, int width, TimeSectionRecord* r) {
   int32_t* fields[7] = {&r->enable,  &r->beginHour, &r->beginMinute, &r->beginSecond,
                         &r->endHour, &r->endMinute, &r->endSecond};
-  return ScanSection(v, width, fields);
-}
-
-// A section text of the usual form, read into `r`; false for any other text.
-bool ScanUsual(const Json::Value& v, TimeSectionRecord* r) {
-  Text t{nullptr, nullptr};
-  if (!v.isString() || !v.getString(&t.p, &t.end)) return false;
-  int32_t* fields[7] = {&r->enable,  &r->beginHour, &r->beginMinute, &r->beginSecond,
-                        &r->endHour, &r->endMinute, &r->endSecond};
-  return ScanUsualForm(t, fields);
+  return ScanSection(text, width, fields);
 }
 
 void FormatSection(int32_t enable, int32_t bh, int32_t bm, int32_t bs, int32_t eh, int32_t em,
@@ -179,47 +146,100 @@ bool PackTimeSectionGrid(Json::Value& jsonOut, const TimeSectionRecord* sections
 
 namespace {
 
-// ParseTimeSectionGrid's walk; with `week`, every text of the first 7 days x
-// 6 sections is also read as ParseTimeSection reads it, whether the grid
-// has failed by then or not.
-bool ScanGrid(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxDays,
-              int32_t maxSectionsPerDay, int32_t* daysOut, WeekSchedule7x6* week) {
-  if (sections == nullptr || maxDays < 1 || maxSectionsPerDay < 1) return false;
-  if (!jsonIn.isArray() || Count(jsonIn) == 0) return false;
-  uint32_t days = Count(jsonIn);
-  if (days > static_cast<uint32_t>(maxDays)) days = static_cast<uint32_t>(maxDays);
-  if (daysOut != nullptr) *daysOut = static_cast<int32_t>(days);
-  bool scanned = true;
-  ForEachElement(jsonIn, days, [&](uint32_t d, const Json::Value& day) {
-    // A day that is not an array is skipped, not an error: the device
-    // sends null for days it has no schedule for.
-    if (!day.isArray()) return true;
-    const bool inWeek = week != nullptr && d < KOVA_WEEK_DAYS;
-    ForEachElement(
-        day, static_cast<uint32_t>(maxSectionsPerDay), [&](uint32_t s, const Json::Value& section) {
-          TimeSectionRecord& cell = sections[static_cast<size_t>(d) * maxSectionsPerDay + s];
-          TimeSectionRecord* weekCell =
-              inWeek && s < KOVA_SECTIONS_PER_DAY ? &week->sections[d][s] : nullptr;
-          TimeSectionRecord usual;
-          if (ScanUsual(section, &usual)) {
-            if (scanned) cell = usual;
-            if (weekCell != nullptr) *weekCell = usual;
-            return;
-          }
-          if (weekCell != nullptr) ParseTimeSection(section, weekCell);
-          // The first section that does not read ends the grid.
-          if (scanned) scanned = ScanRecord(section, kAnyWidth, &cell) == 7;
-        });
-    return scanned || week != nullptr;
+// One grid of a walk over a "TimeSection" array, and how its read went.
+struct GridRead {
+  SectionGrid grid;
+  bool reading;  // still taking sections
+  bool read;     // what ParseTimeSectionGrid returns for it
+};
+
+bool Covers(const GridRead& g, uint32_t d, uint32_t s) {
+  return g.reading && d < static_cast<uint32_t>(g.grid.maxDays) &&
+         s < static_cast<uint32_t>(g.grid.maxSectionsPerDay);
+}
+
+// Reads `jsonIn` into every grid of `grids` as ParseTimeSectionGrid reads
+// one, in one walk: a section text that several grids take is scanned once.
+// With `week`, each text of the first 7 days x 6 sections is also read into
+// it as ParseTimeSection reads one (a failure ends no walk there); a text of
+// the devices' fixed form is scanned once for all (the read forms agree on it).
+void ReadGrids(const Json::Value& jsonIn, GridRead* grids, uint32_t count,
+               WeekSchedule7x6* week = nullptr) {
+  uint32_t maxDays = 0, maxSections = 0;
+  for (uint32_t g = 0; g < count; ++g) {
+    GridRead& r = grids[g];
+    r.read = r.reading = r.grid.sections != nullptr && r.grid.maxDays >= 1 &&
+                         r.grid.maxSectionsPerDay >= 1 && jsonIn.isArray() && Count(jsonIn) > 0;
+    if (!r.reading) continue;
+    const uint32_t days = std::min(Count(jsonIn), static_cast<uint32_t>(r.grid.maxDays));
+    if (r.grid.daysOut != nullptr) *r.grid.daysOut = static_cast<int32_t>(days);
+    maxDays = std::max(maxDays, static_cast<uint32_t>(r.grid.maxDays));
+    maxSections = std::max(maxSections, static_cast<uint32_t>(r.grid.maxSectionsPerDay));
+  }
+  if (week != nullptr) {
+    maxDays = std::max<uint32_t>(maxDays, KOVA_WEEK_DAYS);
+    maxSections = std::max<uint32_t>(maxSections, KOVA_SECTIONS_PER_DAY);
+  }
+  auto anyReading = [&] {
+    for (uint32_t g = 0; g < count; ++g) {
+      if (grids[g].reading) return true;
+    }
+    return false;
+  };
+  auto inWeek = [week](uint32_t d, uint32_t s) {
+    return week != nullptr && d < KOVA_WEEK_DAYS && s < KOVA_SECTIONS_PER_DAY;
+  };
+  // A day that is not an array is skipped, not an error: the device sends
+  // null for days it has no schedule for.
+  ForEachElement(jsonIn, maxDays, [&](uint32_t d, const Json::Value& day) {
+    ForEachElement(day, maxSections, [&](uint32_t s, const Json::Value& text) {
+      bool taken = false;
+      for (uint32_t g = 0; g < count; ++g) taken = taken || Covers(grids[g], d, s);
+      const bool weekCell = inWeek(d, s);
+      if (!taken && !weekCell) return true;
+      TimeSectionRecord scanned = {};
+      const char* t = TextInPlace(text);
+      int32_t* fixed[7] = {&scanned.enable,      &scanned.beginHour, &scanned.beginMinute,
+                           &scanned.beginSecond, &scanned.endHour,   &scanned.endMinute,
+                           &scanned.endSecond};
+      const bool fixedForm = ScanCanonicalSection(t, fixed);
+      if (weekCell) {
+        if (fixedForm) {
+          week->sections[d][s] = scanned;
+        } else {
+          ParseTimeSection(text, &week->sections[d][s]);
+        }
+      }
+      if (!taken) return true;
+      const int fields = fixedForm ? 7 : ScanRecord(t, kAnyWidth, &scanned);
+      for (uint32_t g = 0; g < count; ++g) {
+        if (!Covers(grids[g], d, s)) continue;
+        // The numbers that converted, as a scan into the grid would store them.
+        const size_t at = static_cast<size_t>(d) * grids[g].grid.maxSectionsPerDay + s;
+        std::memcpy(&grids[g].grid.sections[at], &scanned, sizeof(int32_t) * fields);
+        if (fields != 7) grids[g].reading = grids[g].read = false;
+      }
+      return anyReading() || inWeek(d, s + 1);
+    });
+    return anyReading() || inWeek(d + 1, 0);
   });
-  return scanned;
+}
+
+// The holiday schedule's ending of ParseHolidaySchedule, after its grid read.
+bool FinishHoliday(bool read, int32_t days, HolidaySchedule* schedule) {
+  // A schedule must name at least the seven week days.
+  if (!read || days < kWeekDays) return false;
+  schedule->holidayEnabled = days == kHolidayDays ? 1 : 0;
+  return true;
 }
 
 }  // namespace
 
 bool ParseTimeSectionGrid(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxDays,
                           int32_t maxSectionsPerDay, int32_t* daysOut) {
-  return ScanGrid(jsonIn, sections, maxDays, maxSectionsPerDay, daysOut, nullptr);
+  GridRead r = {{sections, maxDays, maxSectionsPerDay, daysOut}, false, false};
+  ReadGrids(jsonIn, &r, 1);
+  return r.read;
 }
 
 bool PackTimeSection(Json::Value& jsonOut, const TimeSectionRecord& section) {
@@ -228,8 +248,10 @@ bool PackTimeSection(Json::Value& jsonOut, const TimeSectionRecord& section) {
 }
 
 bool ParseTimeSection(const Json::Value& jsonIn, TimeSectionRecord* section) {
-  if (section == nullptr || !HasText(jsonIn)) return false;
-  return ScanRecord(jsonIn, kSingleSectionWidth, section) == 7;
+  if (section == nullptr) return false;
+  const char* text = TextInPlace(jsonIn);
+  if (*text == '\0') return false;
+  return ScanRecord(text, kSingleSectionWidth, section) == 7;
 }
 
 bool PackSizedTimeSection(Json::Value& jsonOut, const SizedTimeSection& sized) {
@@ -240,11 +262,13 @@ bool PackSizedTimeSection(Json::Value& jsonOut, const SizedTimeSection& sized) {
 }
 
 bool ParseSizedTimeSection(const Json::Value& jsonIn, SizedTimeSection* sized) {
-  if (sized == nullptr || !HasText(jsonIn)) return false;
+  if (sized == nullptr) return false;
+  const std::string text = ToText(jsonIn);
+  if (text.empty()) return false;
   int32_t* fields[7] = {&sized->enable,      &sized->beginHour, &sized->beginMinute,
                         &sized->beginSecond, &sized->endHour,   &sized->endMinute,
                         &sized->endSecond};
-  return ScanSection(jsonIn, kSingleSectionWidth, fields) == 7;
+  return ScanSection(text.c_str(), kSingleSectionWidth, fields) == 7;
 }
 
 bool PackHolidaySchedule(Json::Value& jsonOut, const HolidaySchedule& schedule) {
@@ -253,7 +277,25 @@ bool PackHolidaySchedule(Json::Value& jsonOut, const HolidaySchedule& schedule) 
 }
 
 bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule) {
-  return ParseHolidayScheduleWithWeek(jsonIn, schedule, nullptr);
+  if (schedule == nullptr) return false;
+  std::memset(schedule, 0, sizeof *schedule);
+  int32_t days = 0;
+  const bool read = ParseTimeSectionGrid(jsonIn, &schedule->sections[0][0], kHolidayDays,
+                                         kHolidaySections, &days);
+  return FinishHoliday(read, days, schedule);
+}
+
+bool ParseHolidayScheduleAndGrid(const Json::Value& jsonIn, HolidaySchedule* schedule,
+                                 const SectionGrid& grid) {
+  if (schedule == nullptr) return false;
+  std::memset(schedule, 0, sizeof *schedule);
+  int32_t days = 0;
+  GridRead reads[2] = {
+      {{&schedule->sections[0][0], kHolidayDays, kHolidaySections, &days}, false, false},
+      {grid, false, false},
+  };
+  ReadGrids(jsonIn, reads, 2);
+  return FinishHoliday(reads[0].read, days, schedule);
 }
 
 bool ParseHolidayScheduleWithWeek(const Json::Value& jsonIn, HolidaySchedule* schedule,
@@ -261,23 +303,21 @@ bool ParseHolidayScheduleWithWeek(const Json::Value& jsonIn, HolidaySchedule* sc
   if (schedule == nullptr) return false;
   std::memset(schedule, 0, sizeof *schedule);
   int32_t days = 0;
-  if (!ScanGrid(jsonIn, &schedule->sections[0][0], kHolidayDays, kHolidaySections, &days, week)) {
-    return false;
-  }
-  // A schedule must name at least the seven week days.
-  if (days < kWeekDays) return false;
-  schedule->holidayEnabled = days == kHolidayDays ? 1 : 0;
-  return true;
+  GridRead read = {
+      {&schedule->sections[0][0], kHolidayDays, kHolidaySections, &days}, false, false};
+  ReadGrids(jsonIn, &read, 1, week);
+  return FinishHoliday(read.read, days, schedule);
 }
 
 bool ParseDaySections(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxSections) {
   if (sections == nullptr || maxSections < 1) return false;
-  // The converted count is deliberately not checked: a malformed string
-  // leaves a partly filled record and the day still reads as good.
-  ForEachElement(jsonIn, static_cast<uint32_t>(maxSections),
-                 [&](uint32_t i, const Json::Value& section) {
-                   ScanRecord(section, kAnyWidth, &sections[i]);
-                 });
+  uint32_t n = jsonIn.isArray() ? Count(jsonIn) : 0;
+  if (n > static_cast<uint32_t>(maxSections)) n = static_cast<uint32_t>(maxSections);
+  for (uint32_t i = 0; i < n; ++i) {
+    // The converted count is deliberately not checked: a malformed string
+    // leaves a partly filled record and the day still reads as good.
+    ScanRecord(TextInPlace(Element(jsonIn, i)), kAnyWidth, &sections[i]);
+  }
   return true;
 }
 

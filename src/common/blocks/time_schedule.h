@@ -36,6 +36,15 @@ bool PackTimeSectionGrid(Json::Value& jsonOut, const TimeSectionRecord* sections
 bool ParseTimeSectionGrid(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxDays,
                           int32_t maxSectionsPerDay, int32_t* daysOut);
 
+// A grid for ParseTimeSectionGrid's reading: `daysOut` (may be null)
+// receives the days taken.
+struct SectionGrid {
+  TimeSectionRecord* sections;
+  int32_t maxDays;
+  int32_t maxSectionsPerDay;
+  int32_t* daysOut;
+};
+
 // One section as one JSON string. Always true.
 bool PackTimeSection(Json::Value& jsonOut, const TimeSectionRecord& section);
 // One section from one JSON string with the two-digit read form. False when
@@ -61,6 +70,13 @@ bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule);
 // once for both: the two read forms agree on it.
 bool ParseHolidayScheduleWithWeek(const Json::Value& jsonIn, HolidaySchedule* schedule,
                                   WeekSchedule7x6* week);
+
+// ParseHolidaySchedule, and `grid` read from the same array as
+// ParseTimeSectionGrid reads it (that result is not returned), each
+// section text scanned once for both: for records that keep a grid of
+// their own beside a linkage block's schedule.
+bool ParseHolidayScheduleAndGrid(const Json::Value& jsonIn, HolidaySchedule* schedule,
+                                 const SectionGrid& grid);
 
 // One day's flat array of section strings into records 0..maxSections-1
 // (excess items ignored). Malformed text is deliberately not an error: it

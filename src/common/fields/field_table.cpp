@@ -1,8 +1,11 @@
 #include "common/fields/field_table.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdlib>
 #include <cstring>
 
+#include "common/base/log.h"
 #include "common/fields/fields.h"
 #include "common/json/json.h"
 
@@ -29,6 +32,8 @@ void WriteFlag(unsigned char* record, const Field& f, int64_t value) {
   if (f.presence != Presence::kFlag || f.flag.size == 0) return;
   StoreInt(record + f.flag.offset, f.flag.size, value);
 }
+
+void SetFlag(unsigned char* record, const Field& f) { WriteFlag(record, f, 1); }
 
 bool AnyByteSet(const unsigned char* p, uint32_t n) {
   for (uint32_t i = 0; i < n; ++i) {
@@ -147,8 +152,7 @@ bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
         return true;
       }
       Unnamed rule = f.unnamed;
-      if (rule == Unnamed::kTable)
-        rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
+      if (rule == Unnamed::kTable) rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
       const char* fallback = nullptr;
       switch (rule) {
         case Unnamed::kOmit:
@@ -176,33 +180,158 @@ bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
   return false;
 }
 
+// Entries of an allocated list sit behind a header that holds their
+// number, so that release and copies never depend on the count member
+// (a list that keeps slots may count fewer entries than it holds).
+constexpr size_t kEntriesHeader = alignof(std::max_align_t);
+
+unsigned char* AllocateEntries(uint32_t slots, uint32_t size) {
+  void* block = std::calloc(1, kEntriesHeader + static_cast<size_t>(slots) * size);
+  if (block == nullptr) return nullptr;
+  const uint64_t n = slots;
+  std::memcpy(block, &n, sizeof n);
+  return static_cast<unsigned char*>(block) + kEntriesHeader;
+}
+
+unsigned char* LoadPointer(const unsigned char* member) {
+  unsigned char* p;
+  std::memcpy(&p, member, sizeof p);
+  return p;
+}
+
+void StorePointer(unsigned char* member, const unsigned char* p) {
+  std::memcpy(member, &p, sizeof p);
+}
+
+void ReleaseValue(unsigned char* member, const Field& f);
+
+// Frees list `f` of `record` (f.offset and the count inside `record`).
+void ReleaseList(unsigned char* record, const Field& f) {
+  unsigned char* base = record + f.offset;
+  if (!f.allocated) {
+    if (f.element == nullptr) return;
+    if (f.element->shape != FieldShape::kNested && f.element->shape != FieldShape::kList) return;
+    for (uint32_t i = 0; i < f.capacity; ++i) {
+      ReleaseValue(base + static_cast<size_t>(i) * f.size + f.element->offset, *f.element);
+    }
+    return;
+  }
+  unsigned char* entries = LoadPointer(base);
+  if (entries == nullptr) return;
+  const uint32_t slots = AllocatedSlots(entries);
+  for (uint32_t i = 0; i < slots && f.element != nullptr; ++i) {
+    ReleaseValue(entries + static_cast<size_t>(i) * f.size + f.element->offset, *f.element);
+  }
+  std::free(entries - kEntriesHeader);
+  StorePointer(base, nullptr);
+  if (f.count.size != 0) StoreInt(record + f.count.offset, f.count.size, 0);
+}
+
+// Releases one value laid out as `f` describes, starting at `member`.
+void ReleaseValue(unsigned char* member, const Field& f) {
+  if (f.shape == FieldShape::kNested && f.table != nullptr) {
+    ReleaseFields(member, f.table->fields, f.table->count);
+  } else if (f.shape == FieldShape::kList) {
+    // `member` is the list itself; its offset and count sit in the slot around it.
+    ReleaseList(member - f.offset, f);
+  }
+}
+
+const Json::Value& Null() {
+  static const Json::Value kNull;
+  return kNull;
+}
+
+// The members of one object, for a table that looks them up: one walk over
+// the object into a small hash table, then each key found by plain
+// comparisons instead of a search of the JSON library's tree (several
+// times faster on the objects devices send). Members beyond what fits are
+// looked up directly.
+class MemberIndex {
+ public:
+  explicit MemberIndex(const Json::Value& obj) : obj_(obj) {
+    ForEachMemberInPlace(obj, [this](const char* name, size_t length, const Json::Value& value) {
+      if (n_ == kCapacity) {
+        complete_ = false;
+        return false;
+      }
+      uint32_t h = Hash(name, length);
+      while (slots_[h] != 0) h = (h + 1) & kSlotMask;
+      entries_[n_] = Entry{name, length, &value};
+      slots_[h] = static_cast<uint8_t>(++n_);
+      return true;
+    });
+  }
+
+  const Json::Value& Find(const char* key) const {
+    const size_t length = std::strlen(key);
+    for (uint32_t h = Hash(key, length); slots_[h] != 0; h = (h + 1) & kSlotMask) {
+      const Entry& e = entries_[slots_[h] - 1];
+      if (e.length == length && std::memcmp(e.name, key, length) == 0) return *e.value;
+    }
+    return complete_ ? Null() : Member(obj_, key);
+  }
+
+  const Json::Value& object() const { return obj_; }
+
+ private:
+  static constexpr uint32_t kCapacity = 48;
+  static constexpr uint32_t kSlotMask = 63;  // 64 slots: at most three quarters used
+
+  static uint32_t Hash(const char* name, size_t length) {
+    if (length == 0) return 0;
+    const uint32_t first = static_cast<unsigned char>(name[0]);
+    const uint32_t last = static_cast<unsigned char>(name[length - 1]);
+    return (static_cast<uint32_t>(length) * 37u + first * 7u + last) & kSlotMask;
+  }
+
+  struct Entry {
+    const char* name;
+    size_t length;
+    const Json::Value* value;
+  };
+  const Json::Value& obj_;
+  bool complete_ = true;
+  uint32_t n_ = 0;
+  uint8_t slots_[kSlotMask + 1] = {};
+  Entry entries_[kCapacity];
+};
+
 uint32_t LoadCount(const unsigned char* record, const Field& f) {
   if (f.count.size == 0) return f.capacity;
   return CutCount(LoadInt(record + f.count.offset, f.count.size, f.count.isSigned), f.capacity);
 }
 
 // A list: element i (or the i-th entry taken) into its slot; the count
-// member by the field's rule. `record` is where the field's offset and its
-// count's offset count from (a list entry's own slot for an entry that is
-// itself a list). A non-array leaves everything as it was, unless the field
-// reads any type (then it is an empty list).
+// member by the field's rule. A non-array leaves everything as it was,
+// unless the field reads any type (then it is an empty list).
 bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
   if (f.element == nullptr || (!v.isArray() && !ReadsAnyType(f))) return false;
   unsigned char* base = record + f.offset;
   const uint32_t n = v.isArray() ? Count(v) : 0;
+  uint32_t slots = f.capacity;
+  if (f.allocated) {
+    ReleaseList(record, f);
+    slots = std::min(n, f.capacity);
+    base = slots > 0 ? AllocateEntries(slots, f.size) : nullptr;
+    if (slots > 0 && base == nullptr) {
+      if (f.noMemoryReport != nullptr) KOVA_REPORT(kErrMalformedData, "%s", f.noMemoryReport);
+      return false;
+    }
+    StorePointer(record + f.offset, base);
+  }
   uint32_t looked = 0, taken = 0, nonNull = 0;
-  // Slots are filled in element order; the walk stops at the first element
-  // that has no slot left.
-  ForEachElement(v, n, [&](uint32_t i, const Json::Value& e) {
+  ForEachElement(v, [&](uint32_t i, const Json::Value& e) {
     const uint32_t slot = f.keepSlots ? i : taken;
-    if (slot >= f.capacity) return false;
+    if (slot >= slots) return false;
     ++looked;
     if (e.isNull()) {
       if (!f.element->alwaysRead) return true;
     } else {
       ++nonNull;
     }
-    if (ParseValue(e, base + static_cast<size_t>(slot) * f.size, *f.element)) ++taken;
+    unsigned char* entry = base + static_cast<size_t>(slot) * f.size + f.element->offset;
+    if (ParseValue(e, entry, *f.element)) ++taken;
     return true;
   });
   if (f.count.size != 0) {
@@ -225,18 +354,6 @@ bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
   return true;
 }
 
-void PackList(const unsigned char* record, const Field& f, Json::Value* out) {
-  const uint32_t n = LoadCount(record, f);
-  *out = Json::Value(Json::arrayValue);
-  if (f.element == nullptr) return;
-  for (uint32_t k = 0; k < n; ++k) {
-    Json::Value item;
-    if (PackValue(record + f.offset + static_cast<size_t>(k) * f.size, *f.element, &item)) {
-      out->append(item);
-    }
-  }
-}
-
 }  // namespace
 
 bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f) {
@@ -246,18 +363,22 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
     case FieldShape::kNested:
       if (f.table == nullptr || (!value.isObject() && !ReadsAnyType(f))) return false;
       // Member() of anything but an object is null: every member reads as missing.
-      ParseFields(value, member, *f.table);
+      ParseFields(value, member, f.table->fields, f.table->count);
       return true;
     case FieldShape::kTuple: {
       if (!value.isArray() || Count(value) < f.minItems) return false;
-      const uint32_t n = std::min(Count(value), f.capacity);
-      for (uint32_t i = 0; i < n; ++i) ParseScalar(Element(value, i), member + i * f.size, f);
+      ForEachElement(value, [&](uint32_t i, const Json::Value& item) {
+        if (i >= f.capacity) return false;
+        ParseScalar(item, member + i * f.size, f);
+        return true;
+      });
       return true;
     }
-    case FieldShape::kList:
-      // A list entry that is itself a list: `member` is the start of its
-      // slot, from which the field's offset and its count's offset count.
-      return ParseList(value, member, f);
+    case FieldShape::kList: {
+      // A list entry that is itself a list: member is the start of its slot.
+      // `member` is the list itself; its offset and count sit in the record around it.
+      return ParseList(value, member - f.offset, f);
+    }
     case FieldShape::kCustom:
       return false;
   }
@@ -283,14 +404,43 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
       }
       return true;
     }
-    case FieldShape::kList:
+    case FieldShape::kList: {
       if (f.element == nullptr) return false;
-      PackList(member, f, out);  // a list entry that is itself a list, as in ParseValue
+      const unsigned char* record = member - f.offset;
+      const uint32_t n = LoadCount(record, f);
+      *out = Json::Value(Json::arrayValue);
+      for (uint32_t i = 0; i < n; ++i) {
+        Json::Value item;
+        const unsigned char* entry = member + static_cast<size_t>(i) * f.size + f.element->offset;
+        if (PackValue(entry, *f.element, &item)) {
+          out->append(item);
+        }
+      }
       return true;
+    }
     case FieldShape::kCustom:
       return false;
   }
   return false;
+}
+
+
+uint32_t AllocatedSlots(const void* entries) {
+  uint64_t n;
+  std::memcpy(&n, static_cast<const unsigned char*>(entries) - kEntriesHeader, sizeof n);
+  return static_cast<uint32_t>(n);
+}
+
+void ReleaseFields(void* record, const Field* fields, size_t count) {
+  unsigned char* base = static_cast<unsigned char*>(record);
+  for (size_t i = 0; i < count; ++i) {
+    const Field& f = fields[i];
+    if (f.shape == FieldShape::kList) {
+      ReleaseList(base, f);
+    } else if (f.shape == FieldShape::kNested) {
+      ReleaseValue(base + f.offset, f);
+    }
+  }
 }
 
 int64_t LoadInt(const void* p, uint32_t size, bool isSigned) {
@@ -366,7 +516,7 @@ const char* EnumName(const EnumNames& e, int64_t value) {
   return e.names[i];
 }
 
-void MarkPresent(unsigned char* record, const Field& f) { WriteFlag(record, f, 1); }
+void MarkPresent(unsigned char* record, const Field& f) { SetFlag(record, f); }
 
 uint32_t CutCount(int64_t count, uint32_t capacity) {
   if (count <= 0) return 0;
@@ -375,8 +525,8 @@ uint32_t CutCount(int64_t count, uint32_t capacity) {
 
 namespace {
 
-// One field of a parse walk, given the member's value (null when missing).
-void ParseField(const Json::Value& obj, const Json::Value& v, unsigned char* base, const Field& f) {
+// One field of a table, given its member's value (null: absent or null).
+void ParseOne(const Json::Value& obj, unsigned char* base, const Field& f, const Json::Value& v) {
   if (f.direction == Direction::kPackOnly) return;
   if (f.shape == FieldShape::kCustom) {
     if (f.parse != nullptr) f.parse(obj, base, f);
@@ -395,58 +545,39 @@ void ParseField(const Json::Value& obj, const Json::Value& v, unsigned char* bas
   // nothing; a block or list of the wrong JSON type does not (unless it
   // reads any type).
   if (read || f.shape == FieldShape::kScalar || f.alwaysRead) {
-    WriteFlag(base, f, 1);
+    SetFlag(base, f);
   } else if (f.clearsFlag) {
     WriteFlag(base, f, 0);
   }
 }
 
-// Whether the key of object member `it` is `key` (<0: before it, >0: after).
-int MemberKeyCompare(const Json::Value::const_iterator& it, const char* key) {
-  const char* end = nullptr;
-  const char* name = it.memberName(&end);
-  if (name == nullptr) name = end = "";
-  const size_t n = static_cast<size_t>(end - name);
-  const size_t k = std::strlen(key);
-  const int c = std::memcmp(name, key, std::min(n, k));
-  if (c != 0) return c;
-  return n < k ? -1 : (n > k ? 1 : 0);
+void ParseIndexed(const MemberIndex& members, unsigned char* base, const Field* fields,
+                  size_t count) {
+  const Json::Value& obj = members.object();
+  for (size_t i = 0; i < count; ++i) {
+    const Field& f = fields[i];
+    if (f.key == nullptr && f.shape == FieldShape::kNested && f.table != nullptr &&
+        f.direction != Direction::kPackOnly) {
+      // A block whose members sit in this object: the same index serves it.
+      if (!obj.isObject()) continue;
+      ParseIndexed(members, base + f.offset, f.table->fields, f.table->count);
+      SetFlag(base, f);
+      continue;
+    }
+    ParseOne(obj, base, f, f.key != nullptr ? members.Find(f.key) : obj);
+  }
 }
 
 }  // namespace
 
 void ParseFields(const Json::Value& obj, void* record, const Field* fields, size_t count) {
   unsigned char* base = static_cast<unsigned char*>(record);
-  for (size_t i = 0; i < count; ++i) {
-    const Field& f = fields[i];
-    ParseField(obj, f.shape == FieldShape::kCustom ? Null() : Member(obj, f.key), base, f);
-  }
-}
-
-void ParseFields(const Json::Value& obj, void* record, const FieldTable& t) {
-  constexpr size_t kMaxJoined = 256;
-  if (t.byKey == nullptr || !obj.isObject() || t.count > kMaxJoined) {
-    ParseFields(obj, record, t.fields, t.count);
+  if (count == 1 && fields[0].key != nullptr) {
+    // One member to look up: no index is worth building.
+    ParseOne(obj, base, fields[0], Member(obj, fields[0].key));
     return;
   }
-  // The object's members and the table's keys, both in key order, walked
-  // side by side: each member value found without a lookup.
-  const Json::Value* values[kMaxJoined];
-  size_t k = 0;
-  const Json::Value::const_iterator end = obj.end();
-  for (Json::Value::const_iterator it = obj.begin(); it != end && k < t.count;) {
-    const Field& f = t.fields[t.byKey[k]];
-    const int c = MemberKeyCompare(it, f.key != nullptr ? f.key : "");
-    if (c < 0) {
-      ++it;
-      continue;
-    }
-    values[t.byKey[k]] = c == 0 ? &*it : &Null();
-    ++k;  // fields sharing a key each take the member: `it` stays
-  }
-  for (; k < t.count; ++k) values[t.byKey[k]] = &Null();
-  unsigned char* base = static_cast<unsigned char*>(record);
-  for (size_t i = 0; i < t.count; ++i) ParseField(obj, *values[i], base, t.fields[i]);
+  ParseIndexed(MemberIndex(obj), base, fields, count);
 }
 
 void PackFields(const void* record, Json::Value& obj, const Field* fields, size_t count) {
@@ -459,10 +590,28 @@ void PackFields(const void* record, Json::Value& obj, const Field* fields, size_
       if (f.pack != nullptr) f.pack(base, obj, f);
       continue;
     }
+    if (f.allocated) continue;
+    if (f.key == nullptr) {
+      if (f.shape == FieldShape::kNested && f.table != nullptr) {
+        PackFields(base + f.offset, obj, f.table->fields, f.table->count);
+      }
+      continue;
+    }
     Json::Value v;
-    bool written = true;
+    bool written;
     if (f.shape == FieldShape::kList) {
-      PackList(base, f, &v);  // the count member lives in the record, not in the list's slots
+      // The count member lives in the record, not in the list's slots.
+      const uint32_t n = LoadCount(base, f);
+      v = Json::Value(Json::arrayValue);
+      for (uint32_t k = 0; k < n && f.element != nullptr; ++k) {
+        Json::Value item;
+        const unsigned char* entry =
+            base + f.offset + static_cast<size_t>(k) * f.size + f.element->offset;
+        if (PackValue(entry, *f.element, &item)) {
+          v.append(item);
+        }
+      }
+      written = true;
     } else {
       written = PackValue(base + f.offset, f, &v);
     }

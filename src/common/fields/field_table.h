@@ -38,7 +38,8 @@
 //   PackFields(&fence, table, kFence);    // record -> JSON object
 //
 // A translator runs such a table inside its response frame
-// (drivers/response_frame.h): ParseTableStep<kFence> / PackTableStep<kFence>.
+// (drivers/response_frame.h) with the steps of drivers/described_record.h:
+// ParseTableStep<kFence> / PackTableStep<kFence>.
 //
 // Beside the shape, kind and names, a field takes independent attributes:
 //   presence  .Flag(slot) (KOVA_AT, KOVA_AT_ITEM for present[i]), .Sentinel(v),
@@ -50,17 +51,31 @@
 //   direction .ParseOnly(), .PackOnly()
 //   lists     .Count(slot, rule), .KeepSlots(); tuples .MinItems(n)
 // A JSON object whose members are fields of the record itself is a group:
-// KOVA_GROUP(Rec, "Sound", kSoundTable).
+// KOVA_GROUP("Sound", kSoundTable).
 //
 // Deliberate irregularities stay hand-written beside the table, either as a
 // custom step (KOVA_CUSTOM) that the walker calls in its turn, or as code
 // around the walker's call, each with a comment saying it is intended.
+//
+// Records the library builds for itself (event records handed to a
+// callback) may hold lists of any length as a pointer and a count:
+//
+//   struct Scene { Zone main; const Zone* zones; uint32_t zoneCount; };
+//   constexpr Field kZoneItem = KOVA_ITEM_NESTED(Zone);
+//   constexpr Field kSceneFields[] = {
+//       KOVA_INLINE(Scene, main),   // Zone's members sit in the scene object itself
+//       KOVA_ALLOCATED_LIST(Scene, zones, "Zones", kZoneItem, 64)
+//           .Count(KOVA_AT(Scene, zoneCount), CountRule::kTaken),
+//   };
+//
+// Parse allocates the entries; ReleaseFields frees them (and whatever their
+// own entries hold) and is the only way to. Pack does not write allocated
+// lists.
 #ifndef KOVA_COMMON_FIELD_TABLE_H_
 #define KOVA_COMMON_FIELD_TABLE_H_
 
 #include <json/value.h>
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
@@ -110,11 +125,11 @@ enum class PackAs : uint8_t {
 
 // What pack writes for an enumeration value without a name.
 enum class Unnamed : uint8_t {
-  kTable,        // as the EnumNames table says (omitUnnamed)
-  kEmptyText,    // ""
-  kOmit,         // nothing
-  kFirstName,    // the table's first name
-  kNull,         // null
+  kTable,      // as the EnumNames table says (omitUnnamed)
+  kEmptyText,  // ""
+  kOmit,       // nothing
+  kFirstName,  // the table's first name
+  kNull,       // null
   kUnknownName,  // the name of the value an unknown text reads as (EnumNames::UnknownAs)
 };
 
@@ -147,29 +162,17 @@ struct EnumNames {
     e.count = static_cast<uint32_t>(N);
     return e;
   }
-  constexpr EnumNames Exact() const {
-    EnumNames e = *this;
-    e.exact = true;
-    return e;
-  }
-  constexpr EnumNames FirstValue(int32_t v) const {
-    EnumNames e = *this;
-    e.first = v;
-    return e;
-  }
+  constexpr EnumNames Exact() const { EnumNames e = *this; e.exact = true; return e; }
+  constexpr EnumNames FirstValue(int32_t v) const { EnumNames e = *this; e.first = v; return e; }
   constexpr EnumNames UnknownAs(int32_t v) const {
     EnumNames e = *this;
     e.setOnUnknown = true;
     e.unknownValue = v;
     return e;
   }
-  constexpr EnumNames OmitUnnamed() const {
-    EnumNames e = *this;
-    e.omitUnnamed = true;
-    return e;
-  }
-  // Second texts, index for index with the names (same count); read after
-  // every name has been tried.
+  constexpr EnumNames OmitUnnamed() const { EnumNames e = *this; e.omitUnnamed = true; return e; }
+  // Second texts, index for index with the names (a list of the same
+  // length, else none); read after every name has been tried.
   template <size_t N>
   constexpr EnumNames Aliases(const char* const (&list)[N]) const {
     EnumNames e = *this;
@@ -184,10 +187,6 @@ struct Field;
 struct FieldTable {
   const Field* fields;
   size_t count;
-  // The field indices in the byte order of their keys (see KOVA_TABLE), so
-  // that parse finds an object's members in one pass instead of one lookup
-  // per field; null: looked up one by one.
-  const uint16_t* byKey = nullptr;
 };
 
 // Hand-written step: reads (or writes) its own member(s) of the object
@@ -211,17 +210,21 @@ struct Field {
   Direction direction = Direction::kBoth;
   PackAs packAs = PackAs::kNatural;
   Presence presence = Presence::kAlways;
-  Slot flag = {0, 0};                // Presence::kFlag
-  int64_t sentinel = 0;              // Presence::kSentinel
+  Slot flag = {0, 0};          // Presence::kFlag
+  int64_t sentinel = 0;        // Presence::kSentinel
   const EnumNames* names = nullptr;  // kEnum
   Unnamed unnamed = Unnamed::kTable;
   const FieldTable* table = nullptr;  // kNested: the member type's table
   const Field* element = nullptr;     // kList: one entry, at offset 0 of its slot
-  uint32_t capacity = 0;              // kList: slots; kTuple: items
-  uint32_t minItems = 0;  // kTuple: an array with fewer items leaves the member as it was
-  Slot count = {0, 0};    // kList: count member (size 0: none; pack then writes every slot)
+  uint32_t capacity = 0;   // kList: slots; kTuple: items
+  uint32_t minItems = 0;   // kTuple: an array with fewer items leaves the member as it was
+  Slot count = {0, 0};     // kList: count member (size 0: none; pack then writes every slot)
   CountRule countRule = CountRule::kAll;
   bool keepSlots = false;  // kList: element i goes to slot i, a skipped element leaves its slot
+  // kList: the member is a pointer to entries allocated on parse (at most
+  // `capacity`), freed by ReleaseFields; pack leaves such a list out.
+  bool allocated = false;
+  const char* noMemoryReport = nullptr;  // allocated kList: reported when its entries cannot be had
   CustomParse parse = nullptr;  // kCustom
   CustomPack pack = nullptr;    // kCustom
   // Parse rules for a member that is missing, null or of another JSON type
@@ -233,94 +236,46 @@ struct Field {
   int64_t missingValue = 0;
   bool nullWhenEmpty = false;  // kNested pack: null instead of an object with no members
 
-  constexpr Field Flag(Slot s) const {
-    Field f = *this;
-    f.presence = Presence::kFlag;
-    f.flag = s;
-    return f;
-  }
+  constexpr Field Flag(Slot s) const { Field f = *this; f.presence = Presence::kFlag; f.flag = s; return f; }
   constexpr Field Sentinel(int64_t v) const {
     Field f = *this;
     f.presence = Presence::kSentinel;
     f.sentinel = v;
     return f;
   }
-  constexpr Field NonNegative() const {
-    Field f = *this;
-    f.presence = Presence::kNonNegative;
-    return f;
-  }
-  constexpr Field ParseOnly() const {
-    Field f = *this;
-    f.direction = Direction::kParseOnly;
-    return f;
-  }
-  constexpr Field PackOnly() const {
-    Field f = *this;
-    f.direction = Direction::kPackOnly;
-    return f;
-  }
-  constexpr Field PackBoolEqualsOne() const {
-    Field f = *this;
-    f.packAs = PackAs::kBoolEqualsOne;
-    return f;
-  }
-  constexpr Field PackBool() const {
-    Field f = *this;
-    f.packAs = PackAs::kBoolNonZero;
-    return f;
-  }
-  constexpr Field UnnamedAs(Unnamed u) const {
-    Field f = *this;
-    f.unnamed = u;
-    return f;
-  }
+  constexpr Field NonNegative() const { Field f = *this; f.presence = Presence::kNonNegative; return f; }
+  constexpr Field ParseOnly() const { Field f = *this; f.direction = Direction::kParseOnly; return f; }
+  constexpr Field PackOnly() const { Field f = *this; f.direction = Direction::kPackOnly; return f; }
+  constexpr Field PackBoolEqualsOne() const { Field f = *this; f.packAs = PackAs::kBoolEqualsOne; return f; }
+  constexpr Field PackBool() const { Field f = *this; f.packAs = PackAs::kBoolNonZero; return f; }
+  constexpr Field UnnamedAs(Unnamed u) const { Field f = *this; f.unnamed = u; return f; }
   constexpr Field Count(Slot s, CountRule rule) const {
     Field f = *this;
     f.count = s;
     f.countRule = rule;
     return f;
   }
-  constexpr Field KeepSlots() const {
+  constexpr Field KeepSlots() const { Field f = *this; f.keepSlots = true; return f; }
+  constexpr Field MinItems(uint32_t n) const { Field f = *this; f.minItems = n; return f; }
+  constexpr Field NoMemoryReport(const char* text) const {
     Field f = *this;
-    f.keepSlots = true;
+    f.noMemoryReport = text;
     return f;
   }
-  constexpr Field MinItems(uint32_t n) const {
-    Field f = *this;
-    f.minItems = n;
-    return f;
-  }
-  constexpr Field Names(const EnumNames& e) const {
-    Field f = *this;
-    f.names = &e;
-    return f;
-  }
+  constexpr Field Names(const EnumNames& e) const { Field f = *this; f.names = &e; return f; }
 
   // Parse reads the member even when it is missing or null, as null (a
   // scalar stores its null conversion: 0, false, empty text, an enumeration's
   // unknown value; a nested block reads its table with every member
   // missing), and sets the flag. A nested block or list given with another
   // JSON type reads as empty. List entries: null elements are read too.
-  constexpr Field AlwaysRead() const {
-    Field f = *this;
-    f.alwaysRead = true;
-    return f;
-  }
+  constexpr Field AlwaysRead() const { Field f = *this; f.alwaysRead = true; return f; }
   // A nested block or list given (not null) with another JSON type counts
   // as present (its flag is set) and reads as empty: no member, no element.
-  constexpr Field AnyType() const {
-    Field f = *this;
-    f.anyType = true;
-    return f;
-  }
+  constexpr Field AnyType() const { Field f = *this; f.anyType = true; return f; }
   // Parse writes the flag both ways: 0 when the member is missing, null or
   // not read (for records that parse does not clear first).
-  constexpr Field ClearsFlag() const {
-    Field f = *this;
-    f.clearsFlag = true;
-    return f;
-  }
+  constexpr Field ClearsFlag() const { Field f = *this; f.clearsFlag = true; return f; }
   // Parse stores `v` when the member is missing or null (an integer member).
   constexpr Field MissingAs(int64_t v) const {
     Field f = *this;
@@ -329,11 +284,7 @@ struct Field {
     return f;
   }
   // Pack: a nested block none of whose members is written packs as null.
-  constexpr Field NullWhenEmpty() const {
-    Field f = *this;
-    f.nullWhenEmpty = true;
-    return f;
-  }
+  constexpr Field NullWhenEmpty() const { Field f = *this; f.nullWhenEmpty = true; return f; }
   // Pack: written when any byte of `s` is non-zero (the members' own flags,
   // see KOVA_FLAGS); parse leaves those bytes to the members.
   constexpr Field WhenAnySet(Slot s) const {
@@ -354,13 +305,18 @@ struct Description;
 
 // Parse: each field whose member is present and not null is read and its
 // presence flag set. Absent or null members leave the record as it was.
-// Writes only inside the members the table names.
+// Writes only inside the members the table names (and into the entries it
+// allocates for allocated lists: a list read into a record that already
+// holds entries releases them first). A nested field without a key
+// (KOVA_INLINE) reads its members from `obj` itself.
 void ParseFields(const Json::Value& obj, void* record, const Field* fields, size_t count);
 // Pack: each field that is present by its presence rule is written into `obj`.
 // Counts read from the record are cut to the list's capacity.
 void PackFields(const void* record, Json::Value& obj, const Field* fields, size_t count);
 
-void ParseFields(const Json::Value& obj, void* record, const FieldTable& t);
+inline void ParseFields(const Json::Value& obj, void* record, const FieldTable& t) {
+  ParseFields(obj, record, t.fields, t.count);
+}
 inline void PackFields(const void* record, Json::Value& obj, const FieldTable& t) {
   PackFields(record, obj, t.fields, t.count);
 }
@@ -372,6 +328,20 @@ template <size_t N>
 void PackFields(const void* record, Json::Value& obj, const Field (&fields)[N]) {
   PackFields(record, obj, fields, N);
 }
+
+// Frees the entries of every allocated list of `record` (of nested blocks
+// and of list entries too, depth first) and sets each such pointer and its
+// count to 0; a record that holds none is left as it was. Safe on a record
+// released before, and on one still all zeros.
+void ReleaseFields(void* record, const Field* fields, size_t count);
+inline void ReleaseFields(void* record, const FieldTable& t) {
+  ReleaseFields(record, t.fields, t.count);
+}
+
+// The number of entries allocated for an allocated list, given its
+// (non-null) pointer: at least its count member, and more when entries
+// were skipped. For code that copies or checks such a record.
+uint32_t AllocatedSlots(const void* entries);
 
 // One value read or written as `f` describes it, without a key: `value`
 // is the member's JSON value itself. ParseValue returns whether an entry
@@ -438,7 +408,7 @@ constexpr Slot MakeSlot(size_t offset) {
               std::is_signed<T>::value};
 }
 
-// The bytes from member `first` to the end of member `last`: a group of flags.
+// The bytes from offset `first` up to `end`: a group of one-byte flags.
 constexpr Slot MakeSpan(size_t first, size_t end) {
   return Slot{static_cast<uint32_t>(first), static_cast<uint32_t>(end - first)};
 }
@@ -466,28 +436,46 @@ constexpr Field MakeTuple(const char* key, size_t offset, uint32_t n) {
   return f;
 }
 
-template <typename T>
-constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
-  static_assert(std::is_array<T>::value, "a list member is an array");
+// A list of `capacity` slots of `slotSize` bytes each.
+constexpr Field MakeListOf(const char* key, size_t offset, const Field* element, uint32_t slotSize,
+                           uint32_t capacity) {
   Field f;
   f.key = key;
   f.offset = static_cast<uint32_t>(offset);
-  f.size = static_cast<uint32_t>(sizeof(std::remove_extent_t<T>));
+  f.size = slotSize;
   f.kind = FieldKind::kObject;
   f.shape = FieldShape::kList;
   f.element = element;
-  f.capacity = static_cast<uint32_t>(std::extent<T>::value);
+  f.capacity = capacity;
   return f;
 }
 
-// A JSON object whose members are fields of the enclosing record itself.
-constexpr Field MakeGroup(const char* key, uint32_t recordSize, const FieldTable* table) {
+template <typename T>
+constexpr Field MakeList(const char* key, size_t offset, const Field* element) {
+  static_assert(std::is_array<T>::value, "a list member is an array");
+  return MakeListOf(key, offset, element, static_cast<uint32_t>(sizeof(std::remove_extent_t<T>)),
+                    static_cast<uint32_t>(std::extent<T>::value));
+}
+
+template <typename T>
+constexpr Field MakeAllocatedList(const char* key, size_t offset, const Field* element,
+                                  uint32_t capacity) {
+  static_assert(std::is_pointer<T>::value, "an allocated list member is a pointer to its entries");
+  Field f = MakeListOf(key, offset, element,
+                       static_cast<uint32_t>(sizeof(std::remove_pointer_t<T>)), capacity);
+  f.allocated = true;
+  return f;
+}
+
+// A JSON object whose members are fields of the enclosing record itself
+// (a flat record read from "RTP": {"StartPort", "EndPort"}): `members`
+// gives offsets in the enclosing record.
+constexpr Field MakeGroup(const char* key, const FieldTable& members) {
   Field f;
   f.key = key;
-  f.size = recordSize;
   f.kind = FieldKind::kObject;
   f.shape = FieldShape::kNested;
-  f.table = table;
+  f.table = &members;
   return f;
 }
 
@@ -504,43 +492,11 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
   return f;
 }
 
-// Compares two keys in the order of the JSON library's object members (byte
-// by byte, a prefix first).
-constexpr int KeyCompare(const char* a, const char* b) {
-  if (a == nullptr) a = "";
-  if (b == nullptr) b = "";
-  while (*a != '\0' && *a == *b) {
-    ++a;
-    ++b;
-  }
-  return static_cast<int>(static_cast<unsigned char>(*a)) -
-         static_cast<int>(static_cast<unsigned char>(*b));
-}
-
-// The indices of a table's fields sorted by key, made at compile time.
-template <const Field* kFields, size_t N>
-struct KeyOrder {
-  static_assert(N < 0xFFFF, "a field table of at most 65534 fields");
-  static constexpr std::array<uint16_t, N> Make() {
-    std::array<uint16_t, N> order{};
-    for (size_t i = 0; i < N; ++i) {
-      size_t j = i;
-      for (; j > 0 && KeyCompare(kFields[order[j - 1]].key, kFields[i].key) > 0; --j) {
-        order[j] = order[j - 1];
-      }
-      order[j] = static_cast<uint16_t>(i);
-    }
-    return order;
-  }
-  static constexpr std::array<uint16_t, N> value = Make();
-};
-
 }  // namespace kova
 
 #define KOVA_MEMBER_TYPE(Rec, member) decltype(static_cast<Rec*>(nullptr)->member)
 #define KOVA_MEMBER_T(Rec, member) std::remove_reference_t<KOVA_MEMBER_TYPE(Rec, member)>
-#define KOVA_MEMBER_SIZE(Rec, member) \
-  static_cast<uint32_t>(sizeof(static_cast<Rec*>(nullptr)->member))
+#define KOVA_MEMBER_SIZE(Rec, member) static_cast<uint32_t>(sizeof(static_cast<Rec*>(nullptr)->member))
 
 // A scalar member: KOVA_F(Rec, member, "Key", kInt).
 #define KOVA_F(Rec, member, key, KIND) \
@@ -550,36 +506,38 @@ struct KeyOrder {
 // A flag or count member, for .Flag() and .Count().
 #define KOVA_AT(Rec, member) ::kova::MakeSlot<KOVA_MEMBER_T(Rec, member)>(offsetof(Rec, member))
 // Element `i` of an integer array member used as flags (present[i]).
-#define KOVA_AT_ITEM(Rec, member, i)                                  \
-  ::kova::MakeSlot<std::remove_extent_t<KOVA_MEMBER_T(Rec, member)>>( \
+#define KOVA_AT_ITEM(Rec, member, i)                                               \
+  ::kova::MakeSlot<std::remove_extent_t<KOVA_MEMBER_T(Rec, member)>>(              \
       offsetof(Rec, member) + (i) * sizeof(std::remove_extent_t<KOVA_MEMBER_T(Rec, member)>))
 // The bytes from `first` through `last` (several one-byte flags), for .WhenAnySet().
 #define KOVA_FLAGS(Rec, first, last) \
   ::kova::MakeSpan(offsetof(Rec, first), offsetof(Rec, last) + KOVA_MEMBER_SIZE(Rec, last))
-// A JSON object "key" whose members are fields of Rec itself (a FieldTable,
-// see KOVA_TABLE): KOVA_GROUP(Rec, "Sound", kSoundTable).
-#define KOVA_GROUP(Rec, key, fieldTable) \
-  ::kova::MakeGroup(key, static_cast<uint32_t>(sizeof(Rec)), &(fieldTable))
-// A FieldTable over a constexpr Field array (with static storage).
-#define KOVA_TABLE(fields)                                                           \
-  ::kova::FieldTable {                                                               \
-    fields, sizeof(fields) / sizeof((fields)[0]),                                    \
-        ::kova::KeyOrder<fields, sizeof(fields) / sizeof((fields)[0])>::value.data() \
-  }
+// A FieldTable over a constexpr Field array.
+#define KOVA_TABLE(fields) ::kova::FieldTable{fields, sizeof(fields) / sizeof((fields)[0])}
 // A nested object read with its type's own table (see KOVA_DESCRIBE).
 #define KOVA_NESTED(Rec, member, key) \
   ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
+// A nested block whose members sit in the enclosing object itself (no key of its own).
+#define KOVA_INLINE(Rec, member) \
+  ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(nullptr, offsetof(Rec, member))
+// A nested JSON object over members of the same record: KOVA_GROUP("RTP", kRtpTable),
+// kRtpTable a constexpr FieldTable of the record's own fields.
+#define KOVA_GROUP(key, members) ::kova::MakeGroup(key, members)
 // A tuple of n items of type Item ([x, y]: KOVA_TUPLE(Rec, pt, "Point", int32_t, 2)); by
 // default all n items are required, .MinItems(k) lowers that.
-#define KOVA_TUPLE(Rec, member, key, Item, n)                                   \
-  ::kova::MakeTuple<Item, ::kova::FieldKind::kInt, KOVA_MEMBER_T(Rec, member)>( \
-      key, offsetof(Rec, member), n)
-#define KOVA_TUPLE_OF(Rec, member, key, Item, KIND, n)                          \
-  ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, KOVA_MEMBER_T(Rec, member)>( \
+#define KOVA_TUPLE(Rec, member, key, Item, n)                                                    \
+  ::kova::MakeTuple<Item, ::kova::FieldKind::kInt, KOVA_MEMBER_T(Rec, member)>(key,              \
+                                                                              offsetof(Rec, member), n)
+#define KOVA_TUPLE_OF(Rec, member, key, Item, KIND, n)                                           \
+  ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, KOVA_MEMBER_T(Rec, member)>(                  \
       key, offsetof(Rec, member), n)
 // A fixed list: `elementField` (a constexpr Field, see KOVA_ITEM*) describes one entry.
 #define KOVA_LIST(Rec, member, key, elementField) \
   ::kova::MakeList<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member), &(elementField))
+// A list of at most `cap` entries allocated on parse: `member` points at them,
+// .Count(...) names the count member. Freed by ReleaseFields.
+#define KOVA_ALLOCATED_LIST(Rec, member, key, elementField, cap) \
+  ::kova::MakeAllocatedList<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member), &(elementField), cap)
 // A hand-written step over a member (or over the whole record: offset 0, size 0).
 #define KOVA_CUSTOM(Rec, member, key, parseFn, packFn) \
   ::kova::MakeCustom(key, offsetof(Rec, member), KOVA_MEMBER_SIZE(Rec, member), parseFn, packFn)
@@ -587,18 +545,17 @@ struct KeyOrder {
 // List entries: a scalar, nested or tuple entry of type Type at offset 0 of its slot.
 #define KOVA_ITEM(Type, KIND) ::kova::MakeField<::kova::FieldKind::KIND, Type>(nullptr, 0)
 #define KOVA_ITEM_NESTED(Type) ::kova::MakeNested<Type>(nullptr, 0)
-#define KOVA_ITEM_TUPLE(Type, Item, KIND, n) \
-  ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, Type>(nullptr, 0, n)
+#define KOVA_ITEM_TUPLE(Type, Item, KIND, n) ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, Type>(nullptr, 0, n)
 
 // Registers `fields` (a constexpr Field array) as the description of Type,
 // for KOVA_NESTED and KOVA_ITEM_NESTED. Use at global scope. A description
 // shared between files lives in a header as an `inline constexpr` array.
-#define KOVA_DESCRIBE(Type, fields)                         \
-  namespace kova {                                          \
-  template <>                                               \
-  struct Description<Type> {                                \
-    static constexpr FieldTable table = KOVA_TABLE(fields); \
-  };                                                        \
+#define KOVA_DESCRIBE(Type, fields)                                                    \
+  namespace kova {                                                                     \
+  template <>                                                                          \
+  struct Description<Type> {                                                           \
+    static constexpr FieldTable table{fields, sizeof(fields) / sizeof((fields)[0])};   \
+  };                                                                                   \
   }
 
 #endif  // KOVA_COMMON_FIELD_TABLE_H_

@@ -68,6 +68,17 @@ int ParseDateTimePacked(const char* text, int32_t len, uint32_t* out) {
   return 0;
 }
 
+char* FormatDateTimePacked(uint32_t packed, char* dst) {
+  if (dst == nullptr) return dst;
+  const uint32_t yearBits = packed >> 26;
+  const int year = 2000 + static_cast<int>((yearBits - 2000u) & 0x3F);
+  std::snprintf(dst, 20, "%04d-%02d-%02d %02d:%02d:%02d", year,
+                static_cast<int>((packed >> 22) & 0xF), static_cast<int>((packed >> 17) & 0x1F),
+                static_cast<int>((packed >> 12) & 0x1F), static_cast<int>((packed >> 6) & 0x3F),
+                static_cast<int>(packed & 0x3F));
+  return dst;
+}
+
 int ParseTimeRange(const char* text, int32_t len, TimeRange* range) {
   if (text == nullptr || range == nullptr || len < 1) return -1;
   int v[6];

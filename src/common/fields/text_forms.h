@@ -22,6 +22,11 @@ uint32_t TextToIp(const char* text);
 // "%d-%d-%d %d:%d:%d" into the packed date-time. 0 on success, -1 on failure.
 int ParseDateTimePacked(const char* text, int32_t len, uint32_t* out);
 
+// The packed date-time as "%04d-%02d-%02d %02d:%02d:%02d" into `dst` (at
+// least 20 bytes). Only the year's lowest six bits are stored: the year
+// written is the one in 2000..2063 that has them. Returns `dst`.
+char* FormatDateTimePacked(uint32_t packed, char* dst);
+
 // "%d:%d:%d-%d:%d:%d" into the six time fields of `range` (the leading
 // byte is left alone). 0 on success, -1 on failure.
 int ParseTimeRange(const char* text, int32_t len, TimeRange* range);

@@ -10,6 +10,11 @@ namespace kova {
 
 namespace {
 
+const Json::Value& NullValue() {
+  static const Json::Value kNull;
+  return kNull;
+}
+
 // One reader per thread, made on first use: setting a reader up costs more
 // than reading a short device response. The reader starts afresh at every
 // parse, also after one that threw (nesting beyond its limit).
@@ -24,11 +29,6 @@ Json::CharReader& ThreadReader() {
 
 }  // namespace
 
-const Json::Value& Null() {
-  static const Json::Value kNull;
-  return kNull;
-}
-
 bool ReadJson(const char* text, Json::Value* root) {
   if (text == nullptr || root == nullptr) return false;
   try {
@@ -39,9 +39,9 @@ bool ReadJson(const char* text, Json::Value* root) {
 }
 
 const Json::Value& Member(const Json::Value& v, const char* key) {
-  if (!v.isObject()) return Null();
+  if (!v.isObject()) return NullValue();
   const Json::Value* found = v.find(key, key + std::strlen(key));
-  return found != nullptr ? *found : Null();
+  return found != nullptr ? *found : NullValue();
 }
 
 bool HasMember(const Json::Value& v, const char* key) {
@@ -49,11 +49,13 @@ bool HasMember(const Json::Value& v, const char* key) {
 }
 
 const Json::Value& Element(const Json::Value& v, uint64_t i) {
-  if (!v.isArray() || i >= v.size()) return Null();
+  if (!v.isArray() || i >= v.size()) return NullValue();
   return v[static_cast<Json::ArrayIndex>(i)];
 }
 
-uint32_t Count(const Json::Value& v) { return (v.isArray() || v.isObject()) ? v.size() : 0; }
+uint32_t Count(const Json::Value& v) {
+  return (v.isArray() || v.isObject()) ? v.size() : 0;
+}
 
 int32_t ToInt32(const Json::Value& v) {
   switch (v.type()) {
@@ -83,7 +85,7 @@ uint32_t ToUInt32(const Json::Value& v) {
     case Json::intValue: {
       const Json::LargestInt n = v.asLargestInt();
       return (n >= 0 && n <= static_cast<Json::LargestInt>(UINT32_MAX)) ? static_cast<uint32_t>(n)
-                                                                        : 0;
+                                                                         : 0;
     }
     case Json::uintValue: {
       const Json::LargestUInt n = v.asLargestUInt();
@@ -143,6 +145,12 @@ std::string ToText(const Json::Value& v) {
   const char* end = nullptr;
   if (!v.isString() || !v.getString(&begin, &end)) return std::string();
   return std::string(begin, end);
+}
+
+const char* TextInPlace(const Json::Value& v) {
+  if (!v.isString()) return "";
+  const char* text = v.asCString();  // a string value is stored NUL-terminated
+  return text != nullptr ? text : "";
 }
 
 Json::Value& SetMember(Json::Value& obj, const char* key) {

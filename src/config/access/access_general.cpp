@@ -5,6 +5,7 @@
 
 #include "common/fields/field_table.h"
 #include "config/access/translators.h"
+#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/access.h"
 
@@ -45,7 +46,7 @@ constexpr FieldTable kABLock = KOVA_TABLE(kABLockFields);
 // The record is not cleared: members the device leaves out keep the
 // caller's values, except the presence flags, written both ways.
 constexpr Field kFields[] = {
-    KOVA_GROUP(R, "Sound", kSound),
+    KOVA_GROUP("Sound", kSound),
     KOVA_F(R, unlockReloadInterval, "UnlockReloadInterval", kInt),
     KOVA_F(R, unlockHoldInterval, "UnlockHoldInterval", kInt),
     KOVA_F(R, projectPassword, "ProjectPassword", kText)
@@ -56,7 +57,7 @@ constexpr Field kFields[] = {
         .ClearsFlag()
         .MissingAs(0),
     // Given with any type, it counts as given.
-    KOVA_GROUP(R, "ABLock", kABLock).Flag(KOVA_AT(R, abLockPresent)).ClearsFlag().AnyType(),
+    KOVA_GROUP("ABLock", kABLock).Flag(KOVA_AT(R, abLockPresent)).ClearsFlag().AnyType(),
 };
 constexpr FieldTable kTable = KOVA_TABLE(kFields);
 

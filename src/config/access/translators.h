@@ -15,6 +15,10 @@ int ParseAccessControlGeneral(const char* jsonText, void* outBuf, uint32_t outLe
                               uint32_t* retLen);
 int PackAccessControlGeneral(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen);
 
+// "AccessControl": the settings of each door (AccessControlConfig per door).
+int ParseAccessControl(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen);
+int PackAccessControl(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen);
+
 }  // namespace kova
 
 #endif  // KOVA_CONFIG_ACCESS_TRANSLATORS_H_

@@ -11,6 +11,7 @@
 
 #include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
+#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 
 namespace kova {
@@ -19,7 +20,7 @@ template <typename Rec>
 constexpr ResponseFrame AlarmSourceFrame(ParseStep parse, PackStep pack) {
   return ResponseFrame::For<Rec>(parse, pack)
       .IgnoreResult()
-      .OnNullTable(NullTable::kReadAsTable)
+      .OnNullTable(NullTable::kStep)
       .Returned(ReturnedLength::kSetRecord)
       .Copy(CopyRule::kAtMost);
 }

@@ -5,6 +5,7 @@
 #include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
 #include "config/alarm/translators.h"
+#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 
 namespace kova {

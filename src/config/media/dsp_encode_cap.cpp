@@ -7,6 +7,7 @@
 #include "common/json/json.h"
 #include "config/media/encode_tables.h"
 #include "config/media/translators.h"
+#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
 
@@ -61,7 +62,7 @@ constexpr FieldTable kCap = KOVA_TABLE(kCapFields);
 #undef KOVA_DSP_LIST
 
 // The capability lives under "DspEncodeCap".
-constexpr Field kTableFields[] = {KOVA_GROUP(D, "DspEncodeCap", kCap)};
+constexpr Field kTableFields[] = {KOVA_GROUP("DspEncodeCap", kCap)};
 constexpr FieldTable kTable = KOVA_TABLE(kTableFields);
 
 bool ParseCap(const Json::Value& table, const StepContext& ctx, unsigned char* record) {

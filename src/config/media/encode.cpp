@@ -9,8 +9,10 @@
 #include <cstdint>
 
 #include "common/fields/field_table.h"
+#include "common/json/json.h"
 #include "config/media/encode_tables.h"
 #include "config/media/translators.h"
+#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
 
@@ -102,20 +104,24 @@ constexpr Field kChannelFields[] = {
 constexpr FieldTable kChannel = KOVA_TABLE(kChannelFields);
 
 bool ParseChannel(const Json::Value& table, const StepContext& ctx, unsigned char* record) {
-  // Written by every parse; neither is packed.
+  // Written by every parse; neither is packed. A negative root "channel"
+  // asks for every channel: record i is channel i.
+  const int32_t asked = ToInt32(Member(ctx.root, "channel"));
   StoreInt(record + offsetof(C, layoutVersion), sizeof(int32_t), kLayoutVersion);
-  StoreInt(record + offsetof(C, channel), sizeof(int32_t), ctx.channel);
+  StoreInt(record + offsetof(C, channel), sizeof(int32_t),
+           asked < 0 ? static_cast<int32_t>(ctx.index) : asked);
   return ParseTableStep<kChannel>(table, ctx, record);
 }
 
 // Pack: exactly one record is an object, anything longer an array (one
-// record and a partial one included), a shorter input "null"; the text may
-// fill the buffer exactly, without a terminator.
+// record and a partial one included), a shorter input (none included)
+// "null"; the text may fill the buffer exactly, without a terminator.
 constexpr ResponseFrame kFrame = ResponseFrame::For<C>(ParseChannel, PackTableStep<kChannel>)
-                                     .Walk(RecordWalk::kByRootChannel)
+                                     .Walk(RecordWalk::kPerChannel)
+                                     .ChannelAtRoot()
                                      .Clear(Clearing::kNone)
-                                     .ShortInputPacksNull()
-                                     .PackArrayBeyondOne()
+                                     .ShortInputAsNull()
+                                     .ArrayUnlessExactlyOne()
                                      .Copy(CopyRule::kAtMost);
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "common/fields/field_table.h"
 #include "config/media/encode_tables.h"
 #include "config/media/translators.h"
+#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
 

@@ -6,7 +6,13 @@
 
 #include <cstdint>
 
+#include "kova/records/ptz.h"
+
 namespace kova {
+
+// "Ptz": one PtzConfig.
+int ParsePtz(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen);
+int PackPtz(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen);
 
 }  // namespace kova
 

@@ -1,12 +1,13 @@
 #include "common/base/log.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <regex>
 #include <set>
 #include <string>
@@ -31,22 +32,25 @@ std::string ReadAll(const std::string& path) {
 class LogTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    char tmpl[] = "/tmp/kova_log_XXXXXX";
-    ASSERT_NE(nullptr, mkdtemp(tmpl));
-    dir_ = tmpl;
-    char cwd[4096];
-    ASSERT_NE(nullptr, getcwd(cwd, sizeof cwd));
-    oldCwd_ = cwd;
-    ASSERT_EQ(0, chdir(dir_.c_str()));
+    namespace fs = std::filesystem;
+    std::random_device random;
+    fs::path dir;
+    do {
+      dir = fs::temp_directory_path() / ("kova_log_" + std::to_string(random()));
+    } while (!fs::create_directory(dir));
+    dir_ = dir.string();
+    oldCwd_ = fs::current_path();
+    fs::current_path(dir);
   }
   void TearDown() override {
     CloseLogger();
-    EXPECT_EQ(0, chdir(oldCwd_.c_str()));
-    EXPECT_EQ(0, std::system(("rm -rf " + dir_).c_str()));
+    std::error_code error;
+    std::filesystem::current_path(oldCwd_, error);
+    EXPECT_FALSE(error) << error.message();
+    std::filesystem::remove_all(dir_, error);
+    EXPECT_FALSE(error) << error.message();
   }
-  bool Exists(const std::string& rel) const {
-    return access((dir_ + "/" + rel).c_str(), F_OK) == 0;
-  }
+  bool Exists(const std::string& rel) const { return std::filesystem::exists(dir_ + "/" + rel); }
   std::string OpenAt(const std::string& name, uint32_t sizeLimit = 0, uint32_t kept = 0) {
     LogSettings s = {};
     const std::string path = dir_ + "/" + name;
@@ -58,7 +62,7 @@ class LogTest : public ::testing::Test {
   }
 
   std::string dir_;
-  std::string oldCwd_;
+  std::filesystem::path oldCwd_;
 };
 
 const std::regex kLine(
@@ -128,8 +132,11 @@ TEST_F(LogTest, RightItemMessagesKeepTheirWording) {
   ParseRightItem(id.c_str(), static_cast<int32_t>(id.size()), &item);
   CloseLogger();
   const std::string text = ReadAll(path);
-  EXPECT_NE(std::string::npos, text.find("code[0x80000007] ParseRightItem: invaild parameter, "
-                                         "input buf = (nil), rItem = 0x"));
+  char nullText[32];  // "%p" of null as this C library writes it
+  std::snprintf(nullText, sizeof nullText, "%p", static_cast<void*>(nullptr));
+  EXPECT_NE(std::string::npos, text.find(std::string("code[0x80000007] ParseRightItem: invaild "
+                                                     "parameter, input buf = ") +
+                                         nullText + ", rItem = "));
   EXPECT_NE(std::string::npos, text.find("code[0x80000015] ParseRightItem: parse data error!\r\n"));
   EXPECT_NE(std::string::npos, text.find("ParseRightItem: unkonw item index 2\r\n"));
   EXPECT_NE(std::string::npos, text.find("ParseRightItem: memo's length is max then 32!\r\n"));

@@ -179,3 +179,72 @@ TEST(DaySections, MalformedTextIsNotAnError) {
 }
 
 }  // namespace
+
+namespace {
+
+// The devices' fixed form is read at fixed places; any departure from it
+// goes through the general reader, which must give the same numbers.
+TEST(TimeSectionGrid, FixedFormAndItsNeighbours) {
+  struct Case {
+    const char* text;
+    bool read;
+    int fields[7];
+  } cases[] = {
+      {"1 08:00:00-18:30:59", true, {1, 8, 0, 0, 18, 30, 59}},
+      {"12 08:00:00-18:30:59", true, {12, 8, 0, 0, 18, 30, 59}},
+      {"1 08:00:00-18:30:591", true, {1, 8, 0, 0, 18, 30, 591}},  // the grid form takes any width
+      {"1 08:00:00-18:30:5x", true, {1, 8, 0, 0, 18, 30, 5}},
+      {" 1 8:0:0-9:0:0", true, {1, 8, 0, 0, 9, 0, 0}},
+      {"1 08:00:00-18:30", false, {1, 8, 0, 0, 18, 30, 0}},
+      {"1 08:00:00 18:30:59", false, {1, 8, 0, 0, 0, 0, 0}},
+  };
+  for (const Case& c : cases) {
+    TimeSectionRecord r;
+    std::memset(&r, 0, sizeof r);
+    const std::string doc = std::string("[[\"") + c.text + "\"]]";
+    EXPECT_EQ(c.read, kova::ParseTimeSectionGrid(Doc(doc.c_str()), &r, 1, 1, nullptr)) << c.text;
+    EXPECT_TRUE(SameSection(r, c.fields[0], c.fields[1], c.fields[2], c.fields[3], c.fields[4],
+                            c.fields[5], c.fields[6]))
+        << c.text;
+  }
+  TimeSectionRecord r;
+  std::memset(&r, 0, sizeof r);
+  const Json::Value text = Doc(R"(["1 08:00:00-18:30:591"])");
+  EXPECT_TRUE(kova::ParseTimeSection(kova::Element(text, 0), &r));  // two digits at most
+  EXPECT_EQ(59, r.endSecond);
+}
+
+// A linkage block's schedule and a rule's 7 x 10 grid read in one walk end
+// exactly as the two readers leave them one after the other, failures and
+// partly read sections included.
+TEST(HolidaySchedule, ReadWithAGridAsTwoSeparateReads) {
+  const char* docs[] = {
+      R"([["1 08:00:00-18:00:00","0 00:00:00-24:00:00"],["1 01:02:03-04:05:06"]])",
+      R"([[],null,["1 00:00:00-24:00:00"],[],[],[],["2 10:00:00-11:00:00"],["3 1:2:3-4:5:6"]])",
+      R"([["1 00:00:00-24:00:00","1 00:00:00-24:00:00","1 00:00:00-24:00:00",
+          "1 00:00:00-24:00:00","1 00:00:00-24:00:00","1 00:00:00-24:00:00",
+          "1 07:00:00-08:00:00","1 00:00:00"],[],[],[],[],[],[],[],["9 00:00:00-01:00:00"]])",
+      R"([["1 00:00:00-24:00:00","1 00:00:00"],["1 00:00:00-24:00:00"]])",
+      R"([[],[],[],[],[],[],[],["1 00:00"]])",
+      R"({"not":"an array"})",
+      R"([])",
+  };
+  for (const char* text : docs) {
+    const Json::Value json = Doc(text);
+    HolidaySchedule h1, h2;
+    WeekSchedule7x10 g1, g2;
+    std::memset(&g1, 0x5A, sizeof g1);
+    std::memset(&g2, 0x5A, sizeof g2);
+    int32_t days1 = -1, days2 = -1;
+    const kova::SectionGrid grid = {&g1.sections[0][0], 7, 10, &days1};
+    const bool r1 = kova::ParseHolidayScheduleAndGrid(json, &h1, grid);
+    const bool r2 = kova::ParseHolidaySchedule(json, &h2);
+    kova::ParseTimeSectionGrid(json, &g2.sections[0][0], 7, 10, &days2);
+    EXPECT_EQ(r2, r1) << text;
+    EXPECT_EQ(0, std::memcmp(&h1, &h2, sizeof h1)) << text;
+    EXPECT_EQ(0, std::memcmp(&g1, &g2, sizeof g1)) << text;
+    EXPECT_EQ(days2, days1) << text;
+  }
+}
+
+}  // namespace

@@ -38,6 +38,26 @@ TEST(DateTimePacked, FieldsAndTheUnmaskedYear) {
   EXPECT_EQ(-1, ParseDateTimePacked("2024-5-6 7:8:9", 12, &packed));
 }
 
+TEST(DateTimePacked, WrittenWithTheYearInItsCentury) {
+  struct Case {
+    const char* text;
+    const char* written;
+  };
+  const Case cases[] = {
+      {"2024-5-6 7:8:9", "2024-05-06 07:08:09"},
+      {"2000-1-1 0:0:0", "2000-01-01 00:00:00"},
+      {"2063-12-31 23:59:59", "2063-12-31 23:59:59"},
+      {"2064-1-1 0:0:0", "2000-01-01 00:00:00"},  // six bits of year only
+      {"1999-1-1 0:0:0", "2063-01-01 00:00:00"},
+  };
+  for (const Case& c : cases) {
+    uint32_t packed = 0;
+    ASSERT_EQ(0, ParseDateTimePacked(c.text, static_cast<int32_t>(std::strlen(c.text)), &packed));
+    char out[20];
+    EXPECT_STREQ(c.written, FormatDateTimePacked(packed, out)) << c.text;
+  }
+}
+
 TEST(TimeRange, SixFieldsCutToBytesLeadUntouched) {
   TimeRange r;
   std::memset(&r, 0xEE, sizeof r);

@@ -157,3 +157,30 @@ TEST(JsonRead, EachCallStartsAfresh) {
 }
 
 }  // namespace
+
+namespace kova {
+namespace {
+
+TEST(JsonAccess, TextInPlaceAndElementWalk) {
+  Json::Value v;
+  ASSERT_TRUE(ReadJson(R"(["a\u0000b", 5, null, "last"])", &v));
+  EXPECT_STREQ("a", TextInPlace(Element(v, 0)));  // up to the first NUL
+  EXPECT_STREQ("", TextInPlace(Element(v, 1)));
+  EXPECT_STREQ("", TextInPlace(Element(v, 9)));
+  std::string seen;
+  ForEachElement(v, 3, [&](uint32_t i, const Json::Value& e) {
+    seen += std::to_string(i) + (e.isNull() ? "n" : "v");
+    return true;
+  });
+  EXPECT_EQ("0v1v2n", seen);
+  seen.clear();
+  ForEachElement(v, 10, [&](uint32_t i, const Json::Value&) {
+    seen += std::to_string(i);
+    return i < 1;
+  });
+  EXPECT_EQ("01", seen);
+  ForEachElement(Member(v, "x"), 10, [&](uint32_t, const Json::Value&) { return false; });
+}
+
+}  // namespace
+}  // namespace kova

@@ -1,0 +1,223 @@
+// "VideoAnalyseGlobal": the scene set-up of a channel: day/night periods,
+// the scene with its depth of field, calibration areas and the multi-scene
+// list. Several members come numbered ("TimePeriod1", "CalibrateArea2",
+// "Scene3"): one slot per number.
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+#include "common/blocks/analyse_blocks.h"
+#include "common/fields/field_table.h"
+#include "common/fields/json_text.h"
+#include "common/json/json.h"
+#include "config/analyse/analyse_frame.h"
+#include "config/analyse/translators.h"
+
+namespace kova {
+
+namespace {
+
+using G = VideoAnalyseGlobalConfig;
+
+// "Day" / "Night": ["hh:mm:ss", "hh:mm:ss"]. A time that does not give all
+// three numbers is left as it was.
+void ParseClockRange(const Json::Value& obj, unsigned char* record, const Field& f) {
+  const Json::Value& v = Member(obj, f.key);
+  ClockTime times[2];
+  std::memcpy(times, record + f.offset, sizeof times);
+  for (uint32_t i = 0; i < 2; ++i) {
+    const std::string text = ToText(Element(v, i));
+    ClockTime t;
+    if (std::sscanf(text.c_str(), "%d:%d:%d", &t.hour, &t.minute, &t.second) == 3) times[i] = t;
+  }
+  std::memcpy(record + f.offset, times, sizeof times);
+}
+
+void PackClockRange(const unsigned char* record, Json::Value& obj, const Field& f) {
+  ClockTime times[2];
+  std::memcpy(times, record + f.offset, sizeof times);
+  Json::Value& v = SetMember(obj, f.key);
+  v = Json::Value(Json::arrayValue);
+  for (const ClockTime& t : times) {
+    char text[48];
+    std::snprintf(text, sizeof text, "%02d:%02d:%02d", t.hour, t.minute, t.second);
+    v.append(text);
+  }
+}
+
+#define KOVA_CLOCK_RANGE(member, key) \
+  KOVA_CUSTOM(DayNightPeriod, member, key, ParseClockRange, PackClockRange)
+
+inline constexpr const char* kSwitchModeNames[] = {"ByColor", "ByBrightness"};
+inline constexpr EnumNames kSwitchModes =
+    EnumNames::Of(kSwitchModeNames).FirstValue(1).OmitUnnamed();
+
+inline constexpr Field kPeriodFields[] = {
+    KOVA_CLOCK_RANGE(day, "Day"),
+    KOVA_CLOCK_RANGE(night, "Night"),
+    KOVA_ENUM(DayNightPeriod, switchMode, "SwitchMode", kSwitchModes),
+};
+
+#undef KOVA_CLOCK_RANGE
+
+inline constexpr const char* kDepthNames[] = {"Normal", "Far", "Middle", "Near"};
+inline constexpr EnumNames kDepths = EnumNames::Of(kDepthNames);
+inline constexpr Field kSceneTypeItem = KOVA_ITEM(char[16], kText);
+
+inline constexpr Field kSceneFields[] = {
+    KOVA_F(AnalyseScene, type, "Type", kText),
+    KOVA_LIST(AnalyseScene, typeList, "TypeList", kSceneTypeItem)
+        .Count(KOVA_AT(AnalyseScene, typeListCount), CountRule::kAll)
+        .KeepSlots(),
+    KOVA_F(AnalyseScene, ptzPresetId, "PtzPresetId", kInt),
+    KOVA_F(AnalyseScene, jitter, "Jitter", kInt).Flag(KOVA_AT(AnalyseScene, jitterPresent)),
+    KOVA_F(AnalyseScene, dejitter, "Dejitter", kBool).Flag(KOVA_AT(AnalyseScene, dejitterPresent)),
+    KOVA_ENUM(AnalyseScene, depth, "Depth", kDepths),
+    KOVA_F(AnalyseScene, customData, "CustomData", kTextRaw)
+        .Flag(KOVA_AT(AnalyseScene, customDataPresent)),
+    KOVA_JSON_TEXT(AnalyseScene, detail, "Detail").Flag(KOVA_AT(AnalyseScene, detailPresent)),
+};
+
+inline constexpr Field kStaffFields[] = {
+    KOVA_TUPLE(CalibrateStaff, start, "Start", int32_t, 2),
+    KOVA_TUPLE(CalibrateStaff, end, "End", int32_t, 2),
+    KOVA_F(CalibrateStaff, length, "Length", kReal),
+};
+
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(DayNightPeriod, kova::kPeriodFields)
+KOVA_DESCRIBE(AnalyseScene, kova::kSceneFields)
+KOVA_DESCRIBE(CalibrateStaff, kova::kStaffFields)
+
+namespace kova {
+
+namespace {
+
+inline constexpr Field kStaffItem = KOVA_ITEM_NESTED(CalibrateStaff);
+
+inline constexpr Field kCalibrateAreaFields[] = {
+    KOVA_LIST(CalibrateArea, staffs, "Staffs", kStaffItem)
+        .Count(KOVA_AT(CalibrateArea, staffCount), CountRule::kAll)
+        .KeepSlots(),
+};
+
+constexpr Field kGlobalFields[] = {
+    KOVA_NESTED(G, timePeriod, "TimePeriod").Flag(KOVA_AT(G, timePeriodPresent)),
+    KOVA_NESTED(G, scene, "Scene").Flag(KOVA_AT(G, scenePresent)),
+};
+
+// Objects under numbered keys, one slot each: slot i is `base` followed by
+// first + i, except that number 0 is the bare `base`.
+struct NumberedSlots {
+  const char* base;
+  uint32_t first;
+  uint32_t slots;
+  size_t at;  // offset of slot 0 in the record
+  size_t slotSize;
+  size_t flagsAt;    // offset of the uint8 flag of slot 0
+  FieldTable table;  // of one slot
+};
+
+std::string NumberedKey(const char* base, uint32_t number) {
+  return number == 0 ? std::string(base) : std::string(base) + std::to_string(number);
+}
+
+const NumberedSlots kNumbered[] = {
+    {"CalibrateArea", 0, KOVA_GLOBAL_MAX_CALIBRATE_AREAS, offsetof(G, calibrateAreas),
+     sizeof(CalibrateArea), offsetof(G, calibrateAreaPresent),
+     FieldTable{kCalibrateAreaFields,
+                sizeof kCalibrateAreaFields / sizeof kCalibrateAreaFields[0]}},
+    {"Scene", 1, KOVA_GLOBAL_MAX_SCENES, offsetof(G, scenes), sizeof(AnalyseScene),
+     offsetof(G, scenesPresent), Description<AnalyseScene>::table},
+};
+
+void ParseNumbered(const Json::Value& table, unsigned char* record) {
+  for (const NumberedSlots& n : kNumbered) {
+    for (uint32_t i = 0; i < n.slots; ++i) {
+      const Json::Value& v = Member(table, NumberedKey(n.base, n.first + i).c_str());
+      if (!v.isObject()) continue;
+      record[n.flagsAt + i] = 1;
+      ParseFields(v, record + n.at + i * n.slotSize, n.table);
+    }
+  }
+}
+
+void PackNumbered(const unsigned char* record, Json::Value& table) {
+  for (const NumberedSlots& n : kNumbered) {
+    for (uint32_t i = 0; i < n.slots; ++i) {
+      if (record[n.flagsAt + i] == 0) continue;
+      Json::Value& v = SetMember(table, NumberedKey(n.base, n.first + i).c_str());
+      v = Json::Value(Json::objectValue);
+      PackFields(record + n.at + i * n.slotSize, v, n.table);
+    }
+  }
+}
+
+// "TimePeriod1", "TimePeriod2", ... into the caller's array, while the
+// numbers run on and the array has room.
+void ParsePeriods(const Json::Value& table, G* g) {
+  const uint32_t room =
+      g->periods == nullptr ? 0 : std::min<uint32_t>(g->periodCount, KOVA_GLOBAL_MAX_PERIODS);
+  uint32_t found = 0;
+  while (found < room) {
+    const Json::Value& v = Member(table, NumberedKey("TimePeriod", found + 1).c_str());
+    if (v.isNull()) break;  // the first missing number ends the list
+    DayNightPeriod p;
+    std::memset(&p, 0, sizeof p);
+    ParseFields(v, &p, kPeriodFields);
+    std::memcpy(reinterpret_cast<unsigned char*>(g->periods) + found * sizeof p, &p, sizeof p);
+    ++found;
+  }
+  g->periodCount = found;
+}
+
+void PackPeriods(const G& g, Json::Value& table) {
+  if (g.periods == nullptr) return;
+  const uint32_t n = std::min<uint32_t>(g.periodCount, KOVA_GLOBAL_MAX_PERIODS);
+  for (uint32_t i = 0; i < n; ++i) {
+    DayNightPeriod p;
+    std::memcpy(&p, reinterpret_cast<const unsigned char*>(g.periods) + i * sizeof p, sizeof p);
+    Json::Value& v = SetMember(table, NumberedKey("TimePeriod", i + 1).c_str());
+    v = Json::Value(Json::objectValue);
+    PackFields(&p, v, kPeriodFields);
+  }
+}
+
+bool ParseGlobal(const Json::Value& table, const StepContext& /*ctx*/, unsigned char* record) {
+  G g;
+  std::memcpy(&g, record, sizeof g);
+  // The caller's announcement of room for numbered periods survives the clearing.
+  DayNightPeriod* periods = g.periods;
+  const uint32_t room = g.periodCount;
+  std::memset(&g, 0, sizeof g);
+  g.periods = periods;
+  g.periodCount = room;
+  ParseFields(table, &g, kGlobalFields);
+  ParseNumbered(table, reinterpret_cast<unsigned char*>(&g));
+  ParsePeriods(table, &g);
+  std::memcpy(record, &g, sizeof g);
+  return true;
+}
+
+bool PackGlobal(const unsigned char* record, Json::Value& out) {
+  G g;
+  std::memcpy(&g, record, sizeof g);
+  out = Json::Value(Json::objectValue);
+  PackFields(&g, out, kGlobalFields);
+  PackNumbered(reinterpret_cast<const unsigned char*>(&g), out);
+  PackPeriods(g, out);
+  return true;
+}
+
+// Only a "result" given and false fails.
+constexpr ResponseFrame kGlobalFrame =
+    AnalyseFrame<G>(ParseGlobal, PackGlobal).Result(ResultRule::kFalseFails);
+
+}  // namespace
+
+KOVA_FRAME_TRANSLATORS(VideoAnalyseGlobal, kGlobalFrame)
+
+}  // namespace kova

@@ -1,0 +1,181 @@
+// "VideoAnalyseRule" and "AudioAnalyseRule": the analysis rules of a
+// channel, as entries {RuleEntryHeader, rule record} back to back in the
+// caller's rule buffer (VideoAnalyseRuleList, kova/records/analyse.h).
+//
+// Parse runs in two passes. The first decides everything that can fail
+// before a byte is written: every rule's type and body size, and the room
+// for all entries. The rule buffer is then cleared once and each rule
+// record is written in place, its cleared bytes serving as the record's
+// zeroed start. Rule records run to 342 KB each, so no scratch copy is
+// made unless the caller's buffer puts a record at an address that is not
+// 4-aligned.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <string>
+
+#include "common/base/log.h"
+#include "common/json/json.h"
+#include "config/analyse/analyse_frame.h"
+#include "config/analyse/rule_config.h"
+#include "config/analyse/rule_types.h"
+#include "config/analyse/translators.h"
+
+namespace kova {
+
+namespace {
+
+using List = VideoAnalyseRuleList;
+
+constexpr uint32_t kHeaderSize = KOVA_RULE_ENTRY_HEADER_SIZE;
+constexpr uint32_t kMaxRules = KOVA_RULE_LIST_MAX_RULES;
+
+// What the first pass learns of one rule.
+struct RulePlan {
+  uint32_t code;
+  uint32_t bodySize;
+  uint32_t sceneClass;
+};
+
+// The code of the rule's "Type"; 0 for a type that is not a string or
+// names nothing.
+uint32_t TypeCode(const Json::Value& type) {
+  const std::string text = ToText(type);
+  if (text.find('\0') != std::string::npos) return 0;
+  return RuleTypeFromName(text.c_str());
+}
+
+uint32_t SceneClass(const Json::Value& cls) {
+  if (cls.isNull()) {
+    KOVA_REPORT(kErrMalformedData, "This class type is not exist!");
+    return 0;
+  }
+  const std::string text = ToText(cls);
+  const uint32_t c = text.find('\0') == std::string::npos ? SceneClassFromName(text.c_str()) : 0;
+  // The devices' own words, misspelling included.
+  if (c == 0) KOVA_REPORT(kErrMalformedData, "This calss type is unknown!");
+  return c;
+}
+
+// First pass over rule `rule`: false when its type is one the list does not
+// carry. A rule without "Type" passes here with code 0 and fails when its
+// entry is written.
+bool PlanRule(const Json::Value& rule, RulePlan* plan) {
+  plan->code = 0;
+  plan->bodySize = 0;
+  const Json::Value& type = Member(rule, "Type");
+  if (!type.isNull()) {
+    plan->code = TypeCode(type);
+    const int32_t size = RuleBodySize(plan->code);
+    if (size <= 0) return false;
+    plan->bodySize = static_cast<uint32_t>(size);
+  }
+  plan->sceneClass = SceneClass(Member(rule, "Class"));
+  return true;
+}
+
+// True when a record at `p` may be worked on in place.
+bool Aligned(const void* p) { return reinterpret_cast<uintptr_t>(p) % alignof(RuleLinkage) == 0; }
+
+// Writes one entry at `at`, which has room for it and is cleared.
+bool WriteEntry(const Json::Value& rule, const RulePlan& plan, unsigned char* at) {
+  const RuleType* type = FindRuleType(plan.code);
+  if (type == nullptr || type->recordSize != plan.bodySize) return false;
+  const RuleEntryHeader header = {plan.code, plan.bodySize, plan.sceneClass};
+  std::memcpy(at, &header, sizeof header);
+  unsigned char* body = at + kHeaderSize;
+  if (Aligned(body)) {
+    ParseRuleBody(rule, body, *type);
+    return true;
+  }
+  // A caller's buffer that puts the record out of line: built aside.
+  std::unique_ptr<unsigned char[]> scratch(new (std::nothrow) unsigned char[plan.bodySize]());
+  if (!scratch) return false;
+  ParseRuleBody(rule, scratch.get(), *type);
+  std::memcpy(body, scratch.get(), plan.bodySize);
+  return true;
+}
+
+bool ParseRuleList(const Json::Value& table, const StepContext& /*ctx*/, unsigned char* record) {
+  List list;
+  std::memcpy(&list, record, sizeof list);
+  // A missing or non-array table reads as no rules.
+  const uint32_t n = table.isArray() ? std::min(Count(table), kMaxRules) : 0;
+  list.ruleCount = n;
+  std::memcpy(record + offsetof(List, ruleCount), &list.ruleCount, sizeof list.ruleCount);
+
+  RulePlan plans[kMaxRules];
+  uint64_t total = 0;
+  for (uint32_t i = 0; i < n; ++i) {
+    if (!PlanRule(Element(table, i), &plans[i])) return false;
+    total += kHeaderSize + static_cast<uint64_t>(plans[i].bodySize);
+  }
+  if (total > list.ruleBufferLength) return false;
+  if (n == 0) return true;
+  if (list.ruleBuffer == nullptr) return false;
+
+  std::memset(list.ruleBuffer, 0, list.ruleBufferLength);
+  size_t at = 0;
+  for (uint32_t i = 0; i < n; ++i) {
+    if (!WriteEntry(Element(table, i), plans[i], list.ruleBuffer + at)) return false;
+    at += kHeaderSize + plans[i].bodySize;
+  }
+  return true;
+}
+
+// One entry at `at` with `left` bytes to the end of the buffer, written as
+// a rule object into `rules`; `*used` receives its length. False when the
+// entry is not one the library can read.
+bool PackEntry(const unsigned char* at, size_t left, Json::Value& rules, size_t* used) {
+  RuleEntryHeader header;
+  if (left < sizeof header) return false;
+  std::memcpy(&header, at, sizeof header);
+  const int32_t expected = RuleBodySize(header.ruleType);
+  if (expected <= 0 || header.bodySize != static_cast<uint32_t>(expected)) return false;
+  if (left - sizeof header < header.bodySize) return false;
+  const RuleType* type = FindRuleType(header.ruleType);
+  if (type == nullptr || type->recordSize != header.bodySize) return false;
+
+  const unsigned char* body = at + kHeaderSize;
+  std::unique_ptr<unsigned char[]> scratch;
+  if (!Aligned(body)) {
+    // A caller's buffer that puts the record out of line: read from a copy.
+    scratch.reset(new (std::nothrow) unsigned char[header.bodySize]);
+    if (!scratch) return false;
+    std::memcpy(scratch.get(), body, header.bodySize);
+    body = scratch.get();
+  }
+  Json::Value& rule = Append(rules, Json::Value(Json::objectValue));
+  PackRuleBody(body, *type, rule);
+  SetMember(rule, "Type") = RuleTypeName(header.ruleType);
+  SetMember(rule, "Class") = SceneClassPackName(header.sceneClass);
+  *used = kHeaderSize + header.bodySize;
+  return true;
+}
+
+bool PackRuleList(const unsigned char* record, Json::Value& out) {
+  List list;
+  std::memcpy(&list, record, sizeof list);
+  out = Json::Value(Json::arrayValue);
+  if (list.ruleCount > 0 && list.ruleBuffer == nullptr) return false;
+  size_t at = 0;
+  for (uint32_t i = 0; i < list.ruleCount; ++i) {
+    size_t used = 0;
+    if (!PackEntry(list.ruleBuffer + at, list.ruleBufferLength - at, out, &used)) return false;
+    at += used;
+  }
+  return true;
+}
+
+// "result" is not looked at.
+constexpr ResponseFrame kRuleListFrame =
+    AnalyseFrame<List>(ParseRuleList, PackRuleList).IgnoreResult();
+
+}  // namespace
+
+KOVA_FRAME_TRANSLATORS(VideoAnalyseRule, kRuleListFrame)
+
+}  // namespace kova

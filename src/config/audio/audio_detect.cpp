@@ -1,0 +1,81 @@
+// "AudioDetect": sound alarms of each channel (unusual sound, sudden change,
+// level above a gate) with their linkage block and a warning light flashed
+// with the alarm.
+#include <cstddef>
+
+#include "common/blocks/event_handler.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
+#include "config/audio/translators.h"
+#include "drivers/described_record.h"
+#include "kova/records/audio.h"
+
+namespace {
+
+using kova::Field;
+
+constexpr Field kLightingLinkFields[] = {
+    KOVA_F(AudioLightingLink, enable, "Enable", kBool),
+    KOVA_F(AudioLightingLink, filckerIntevalTime, "FilckerIntevalTime", kInt),
+    KOVA_F(AudioLightingLink, filckerLightType, "FilckerLightType", kText),
+    KOVA_F(AudioLightingLink, filckerTimes, "FilckerTimes", kInt),
+};
+
+}  // namespace
+
+KOVA_DESCRIBE(AudioLightingLink, kLightingLinkFields)
+
+namespace {
+
+using kova::Field;
+
+// The light sits inside "EventHandler" on the device, beside the members the
+// linkage block reads; the record keeps it apart so the block's layout stays
+// the one every alarm shares.
+constexpr Field kInsideHandler[] = {
+    KOVA_NESTED(AudioDetectConfig, lightingLink, "LightingLink")
+        .Flag(KOVA_AT(AudioDetectConfig, lightingLinkPresent)),
+};
+
+static_assert(offsetof(AudioDetectConfig, week) ==
+                  offsetof(AudioDetectConfig, eventHandler) + sizeof(EventHandlerRecord),
+              "the week grid follows the linkage block directly");
+
+// The linkage block with its week grid (the record was cleared before the
+// walk), and the light inside it.
+void ParseLinkage(const Json::Value& obj, unsigned char* record, const Field& f) {
+  kova::ParseEventHandlerWithWeekStep(obj, record, f);
+  kova::ParseFields(kova::Member(obj, "EventHandler"), record, kInsideHandler);
+}
+
+void PackLinkage(const unsigned char* record, Json::Value& obj, const Field& f) {
+  kova::PackEventHandlerWithWeekStep(record, obj, f);
+  kova::PackFields(record, kova::SetMember(obj, "EventHandler"), kInsideHandler);
+}
+
+constexpr Field kAudioDetectFields[] = {
+    KOVA_F(AudioDetectConfig, enable, "Enable", kBool),
+    KOVA_F(AudioDetectConfig, anomalyDetect, "AnomalyDetect", kBool),
+    KOVA_F(AudioDetectConfig, anomalySensitive, "AnomalySensitive", kInt),
+    KOVA_F(AudioDetectConfig, mutationDetect, "MutationDetect", kBool),
+    KOVA_F(AudioDetectConfig, mutationThreold, "MutationThreold", kInt),
+    KOVA_F(AudioDetectConfig, intensityDetect, "IntensityDetect", kBool),
+    KOVA_F(AudioDetectConfig, intensityDecibelGate, "IntensityDecibelGate", kInt),
+    KOVA_F(AudioDetectConfig, minVolume, "MinVolume", kInt),
+    KOVA_F(AudioDetectConfig, maxVolume, "MaxVolume", kInt),
+    KOVA_CUSTOM(AudioDetectConfig, eventHandler, "EventHandler", ParseLinkage, PackLinkage),
+};
+
+}  // namespace
+
+KOVA_DESCRIBE(AudioDetectConfig, kAudioDetectFields)
+
+namespace kova {
+
+namespace {
+constexpr ResponseFrame kAudioDetect = DescribedObject<AudioDetectConfig>::kFrame;
+}  // namespace
+
+KOVA_FRAME_TRANSLATORS(AudioDetect, kAudioDetect)
+
+}  // namespace kova

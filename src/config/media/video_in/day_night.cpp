@@ -1,0 +1,56 @@
+// "VideoInDayNight": how each of a channel's three profiles switches between
+// colour and black-and-white. A fixed 48-byte record served by the table
+// drivers; these are its per-record routines.
+#include <cstring>
+
+#include "common/fields/field_table.h"
+#include "config/media/translators.h"
+#include "kova/records/video_in.h"
+
+namespace kova {
+
+constexpr const char* kDayNightModeNames[] = {"Color", "Brightness", "BlackWhite", "Photoresistor",
+                                             "Gain"};
+constexpr const char* kDayNightTypeNames[] = {"Mechanism", "Electron"};
+// No room for text in the record: an unknown name is -1, left out on pack.
+constexpr EnumNames kDayNightModes = EnumNames::Of(kDayNightModeNames).UnknownAs(-1).OmitUnnamed();
+constexpr EnumNames kDayNightTypes = EnumNames::Of(kDayNightTypeNames).UnknownAs(-1).OmitUnnamed();
+
+constexpr Field kDayNightProfileFields[] = {
+    KOVA_ENUM(VideoInDayNightProfile, mode, "Mode", kDayNightModes),
+    KOVA_ENUM(VideoInDayNightProfile, type, "Type", kDayNightTypes),
+    KOVA_F(VideoInDayNightProfile, sensitivity, "Sensitivity", kInt),
+    KOVA_F(VideoInDayNightProfile, delay, "Delay", kInt),
+};
+
+}  // namespace kova
+
+KOVA_DESCRIBE(VideoInDayNightProfile, kova::kDayNightProfileFields)
+
+namespace kova {
+
+namespace {
+
+constexpr Field kProfile = KOVA_ITEM_NESTED(VideoInDayNightProfile);
+// The record is the channel's array: profile i in slot i, always three.
+constexpr Field kProfiles = KOVA_LIST(VideoInDayNightConfig, profiles, nullptr, kProfile).KeepSlots();
+
+}  // namespace
+
+int ParseVideoInDayNightRecord(const Json::Value& element, void* record) {
+  VideoInDayNightConfig r{};
+  // A profile without "Mode" or "Type" reads as an unknown one (-1), so that
+  // pack does not invent a value for it: intended.
+  for (VideoInDayNightProfile& p : r.profiles) p.mode = p.type = -1;
+  ParseValue(element, reinterpret_cast<unsigned char*>(&r), kProfiles);
+  std::memcpy(record, &r, sizeof r);
+  return 1;
+}
+
+int PackVideoInDayNightRecord(const void* record, Json::Value& target) {
+  VideoInDayNightConfig r;
+  std::memcpy(&r, record, sizeof r);
+  return PackValue(reinterpret_cast<const unsigned char*>(&r), kProfiles, &target) ? 1 : 0;
+}
+
+}  // namespace kova

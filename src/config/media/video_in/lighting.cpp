@@ -1,0 +1,46 @@
+// "Lighting": the infrared and white-light illuminators of each of a
+// channel's profiles, with the lamp groups of the near, middle and far
+// beams.
+#include "common/fields/field_table.h"
+#include "config/media/translators.h"
+#include "config/media/video_in/profiles.h"
+#include "kova/records/video_in.h"
+
+namespace kova {
+
+constexpr Field kLightFields[] = {
+    KOVA_F(LightingLight, angle, "Angle", kInt),
+    KOVA_F(LightingLight, light, "Light", kInt),
+};
+
+}  // namespace kova
+
+KOVA_DESCRIBE(LightingLight, kova::kLightFields)
+
+namespace kova {
+
+constexpr Field kLight = KOVA_ITEM_NESTED(LightingLight);
+
+constexpr Field kLightingProfileFields[] = {
+    KOVA_F(LightingProfile, mode, "Mode", kText),
+    KOVA_F(LightingProfile, correction, "Correction", kInt),
+    KOVA_F(LightingProfile, sensitive, "Sensitive", kInt),
+    KOVA_LIST(LightingProfile, nearLight, "NearLight", kLight)
+        .Count(KOVA_AT(LightingProfile, nearLightCount), CountRule::kTaken)
+        .Flag(KOVA_AT(LightingProfile, nearLightPresent)),
+    KOVA_LIST(LightingProfile, middleLight, "MiddleLight", kLight)
+        .Count(KOVA_AT(LightingProfile, middleLightCount), CountRule::kTaken),
+    KOVA_LIST(LightingProfile, farLight, "FarLight", kLight)
+        .Count(KOVA_AT(LightingProfile, farLightCount), CountRule::kTaken)
+        .Flag(KOVA_AT(LightingProfile, farLightPresent)),
+};
+
+}  // namespace kova
+
+KOVA_DESCRIBE(LightingProfile, kova::kLightingProfileFields)
+
+namespace kova {
+
+KOVA_FRAME_TRANSLATORS(Lighting, ProfileRecord<LightingConfig>::kFrame)
+
+}  // namespace kova

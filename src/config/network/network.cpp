@@ -1,0 +1,101 @@
+// "Network": host name, domain, default interface and the per-interface
+// addresses, DNS servers, link mode and interface type of a device.
+#include "kova/records/network.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "common/fields/field_table.h"
+#include "common/fields/fields.h"
+#include "common/json/json.h"
+#include "config/network/translators.h"
+#include "drivers/described_record.h"
+#include "drivers/response_frame.h"
+
+namespace kova {
+
+namespace {
+
+// Index 0 has no name in either table on purpose: "adapt" (and "" for the
+// type) reads as 0 like any unknown text, and 0 packs as "".
+constexpr const char* kLinkModeNames[] = {nullptr, "half10M", "full10M", "half100M", "full100M"};
+constexpr EnumNames kLinkModes = EnumNames::Of(kLinkModeNames).Exact().UnknownAs(0);
+constexpr const char* kTypeNames[] = {nullptr, "Standard", "Manager", "Extend"};
+constexpr EnumNames kTypes = EnumNames::Of(kTypeNames).Exact().UnknownAs(0);
+
+constexpr Field kDnsServer = KOVA_ITEM(char[256], kText);
+
+constexpr Field kInterfaceFields[] = {
+    KOVA_F(NetworkInterface, ipAddress, "IPAddress", kText),
+    KOVA_F(NetworkInterface, subnetMask, "SubnetMask", kText),
+    KOVA_F(NetworkInterface, defaultGateway, "DefaultGateway", kText),
+    KOVA_F(NetworkInterface, dhcpEnable, "DhcpEnable", kBool),
+    KOVA_F(NetworkInterface, dnsAutoGet, "DnsAutoGet", kBool),
+    // Entry i to slot i (a null entry leaves its slot empty); pack writes both slots.
+    KOVA_LIST(NetworkInterface, dnsServers, "DnsServers", kDnsServer).KeepSlots(),
+    KOVA_F(NetworkInterface, mtu, "MTU", kInt),
+    KOVA_F(NetworkInterface, physicalAddress, "PhysicalAddress", kText),
+    KOVA_F(NetworkInterface, enable, "Enable", kInt),
+    KOVA_F(NetworkInterface, enableDhcpReservedIp, "EnableDhcpReservedIP", kInt),
+    KOVA_ENUM(NetworkInterface, netMode, "NetMode", kLinkModes),
+    KOVA_ENUM(NetworkInterface, type, "Type", kTypes),
+};
+
+// Interfaces are the table's members that hold a non-empty object, named by
+// the member; the three text members and anything else take no slot.
+void ParseInterfaces(const Json::Value& table, unsigned char* record, const Field&) {
+  NetworkConfig* config = reinterpret_cast<NetworkConfig*>(record);
+  int32_t n = 0;
+  ForEachMember(table, [config, &n](const std::string& name, const Json::Value& value) {
+    if (!value.isObject() || Count(value) == 0) return true;
+    NetworkInterface& nif = config->interfaces[n++];
+    GetJsonString(Json::Value(name), nif.name, sizeof nif.name, 1);
+    ParseFields(value, &nif, kInterfaceFields);
+    return n < KOVA_NETWORK_MAX_INTERFACES;
+  });
+  config->interfaceCount = n;
+}
+
+void PackInterfaces(const unsigned char* record, Json::Value& table, const Field&) {
+  const NetworkConfig* config = reinterpret_cast<const NetworkConfig*>(record);
+  const int32_t count = config->interfaceCount;
+  const int32_t n =
+      count < 0 ? 0 : (count > KOVA_NETWORK_MAX_INTERFACES ? KOVA_NETWORK_MAX_INTERFACES : count);
+  for (int32_t i = 0; i < n; ++i) {
+    const NetworkInterface& nif = config->interfaces[i];
+    Json::Value name;
+    SetJsonStringBounded(name, nif.name, sizeof nif.name, 1);
+    Json::Value& obj = SetMember(table, ToText(name).c_str());
+    obj = Json::Value(Json::objectValue);
+    PackFields(&nif, obj, kInterfaceFields);
+  }
+}
+
+constexpr Field kNetworkFields[] = {
+    KOVA_F(NetworkConfig, hostName, "Hostname", kText),
+    KOVA_F(NetworkConfig, domain, "Domain", kText),
+    KOVA_F(NetworkConfig, defaultInterface, "DefaultInterface", kText),
+    KOVA_CUSTOM(NetworkConfig, interfaces, nullptr, ParseInterfaces, PackInterfaces),
+};
+
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(NetworkConfig, kNetworkFields)
+
+namespace kova {
+namespace {
+
+constexpr const Field& kWhole = DescribedObject<NetworkConfig>::kWhole;
+constexpr ResponseFrame kFrame =
+    ResponseFrame::For<NetworkConfig>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
+        .RefuseEmptyText()
+        .OnNullTable(NullTable::kAllZeroRecord)
+        .Returned(ReturnedLength::kSetRecord);
+
+}  // namespace
+
+KOVA_FRAME_TRANSLATORS(Network, kFrame)
+
+}  // namespace kova

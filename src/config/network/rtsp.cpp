@@ -1,0 +1,58 @@
+// "RTSP": the RTSP service, its RTP port range and RTSP over HTTP.
+//
+// This configuration has always been read without looking at "result", and
+// the caller's buffer is written only once the text has parsed.
+#include <iterator>
+
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
+#include "config/network/translators.h"
+#include "drivers/described_record.h"
+#include "drivers/response_frame.h"
+#include "kova/records/network.h"
+
+namespace kova {
+
+namespace {
+
+constexpr Field kRtpFields[] = {
+    KOVA_F(RtspConfig, rtpStartPort, "StartPort", kInt),
+    KOVA_F(RtspConfig, rtpEndPort, "EndPort", kInt),
+};
+constexpr FieldTable kRtp{kRtpFields, std::size(kRtpFields)};
+
+constexpr Field kTunnelFields[] = {
+    KOVA_F(RtspConfig, httpTunnelEnable, "Enable", kBool),
+    KOVA_F(RtspConfig, httpTunnelPort, "Port", kInt),
+};
+constexpr FieldTable kTunnel{kTunnelFields, std::size(kTunnelFields)};
+
+constexpr Field kRtspFields[] = {
+    KOVA_F(RtspConfig, enable, "Enable", kBool),
+    KOVA_F(RtspConfig, port, "Port", kInt),
+    KOVA_GROUP("RTP", kRtp),
+    KOVA_GROUP("RtspOverHttp", kTunnel),
+};
+
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(RtspConfig, kRtspFields)
+
+namespace kova {
+namespace {
+
+// The record starts from zero with its own size, also for a missing table.
+constexpr const Field& kWhole = DescribedObject<RtspConfig>::kWhole;
+constexpr ResponseFrame kFrame =
+    ResponseFrame::For<RtspConfig>(ParseDescribedSized<RtspConfig, kWhole>, PackDescribed<kWhole>)
+        .IgnoreResult()
+        .Clear(Clearing::kNone)
+        .OnNullTable(NullTable::kStep)
+        .Returned(ReturnedLength::kSetRecord);
+
+}  // namespace
+
+KOVA_FRAME_TRANSLATORS(Rtsp, kFrame)
+
+}  // namespace kova

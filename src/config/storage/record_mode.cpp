@@ -1,0 +1,30 @@
+// "RecordMode": the recording mode of each channel, for the main and the
+// first extra stream.
+#include "common/fields/field_table.h"
+#include "config/storage/translators.h"
+#include "drivers/described_record.h"
+#include "kova/records/storage.h"
+
+namespace kova {
+namespace {
+
+constexpr Field kModeFields[] = {
+    KOVA_F(RecordModeConfig, mode, "Mode", kInt),
+    KOVA_F(RecordModeConfig, modeExtra1, "ModeExtra1", kInt),
+};
+
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(RecordModeConfig, kModeFields)
+
+namespace kova {
+namespace {
+
+constexpr ResponseFrame kFrame = DescribedObject<RecordModeConfig>::kFrame;
+
+}  // namespace
+
+KOVA_FRAME_TRANSLATORS(RecordMode, kFrame)
+
+}  // namespace kova

@@ -1,0 +1,59 @@
+// "StorageGroup": named storage groups, each with its file rules and its
+// channels, in caller-sized records.
+#include "common/fields/field_table.h"
+#include "config/storage/translators.h"
+#include "drivers/described_record.h"
+#include "kova/records/storage.h"
+
+namespace kova {
+namespace {
+
+constexpr Field kChannelFields[] = {
+    KOVA_F(StorageGroupChannel, maxPictures, "MaxPictures", kInt),
+    KOVA_F(StorageGroupChannel, path, "Path", kText),
+};
+
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(StorageGroupChannel, kChannelFields)
+
+namespace kova {
+namespace {
+
+constexpr Field kChannelItem = KOVA_ITEM_NESTED(StorageGroupChannel);
+
+constexpr Field kGroupFields[] = {
+    KOVA_F(StorageGroupRecord, name, "Name", kText),
+    KOVA_F(StorageGroupRecord, memo, "Memo", kText),
+    KOVA_F(StorageGroupRecord, fileHoldTime, "FileHoldTime", kInt),
+    KOVA_F(StorageGroupRecord, overWrite, "OverWrite", kBool),
+    KOVA_F(StorageGroupRecord, recordPathRule, "RecordPathRule", kText),
+    KOVA_F(StorageGroupRecord, picturePathRule, "PicturePathRule", kText),
+    KOVA_LIST(StorageGroupRecord, channels, "Channels", kChannelItem)
+        .Count(KOVA_AT(StorageGroupRecord, channelCount), CountRule::kAll)
+        .KeepSlots(),
+};
+
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(StorageGroupRecord, kGroupFields)
+
+namespace kova {
+namespace {
+
+// An empty group packs as { "Channels" : [  ], "FileHoldTime" : 0, ... }:
+// well over this many bytes.
+constexpr uint32_t kMinGroupText = 120;
+
+constexpr ResponseFrame kFrame = DescribedObject<StorageGroupRecord>::kFrame
+                                     .Walk(RecordWalk::kCallerSized)
+                                     .PackArrayAlways()
+                                     .MinTextPerRecord(kMinGroupText);
+
+}  // namespace
+
+KOVA_FRAME_TRANSLATORS(StorageGroup, kFrame)
+
+}  // namespace kova

@@ -1,0 +1,30 @@
+// "AlarmOut": the alarm output ports (relays) of a device, one record each.
+#include "common/fields/field_table.h"
+#include "config/system/translators.h"
+#include "drivers/described_record.h"
+#include "kova/records/system.h"
+
+namespace {
+
+using kova::Field;
+
+constexpr Field kAlarmOutFields[] = {
+    KOVA_F(AlarmOutConfig, mode, "Mode", kInt),
+    KOVA_F(AlarmOutConfig, name, "Name", kText),
+    KOVA_F(AlarmOutConfig, outputType, "OutputType", kInt).Flag(KOVA_AT(AlarmOutConfig, outputTypePresent)),
+    KOVA_F(AlarmOutConfig, pulseDelay, "PulseDelay", kInt).Flag(KOVA_AT(AlarmOutConfig, pulseDelayPresent)),
+};
+
+}  // namespace
+
+KOVA_DESCRIBE(AlarmOutConfig, kAlarmOutFields)
+
+namespace kova {
+
+namespace {
+constexpr ResponseFrame kAlarmOut = DescribedObject<AlarmOutConfig>::kFrame;
+}  // namespace
+
+KOVA_FRAME_TRANSLATORS(AlarmOut, kAlarmOut)
+
+}  // namespace kova

@@ -1,0 +1,56 @@
+// "NTP" (clock synchronisation) and "Locales" (time format, daylight saving).
+#include "common/fields/field_table.h"
+#include "config/system/translators.h"
+#include "drivers/described_record.h"
+#include "kova/records/system.h"
+
+namespace {
+
+using kova::Field;
+
+constexpr Field kNtpFields[] = {
+    KOVA_F(NtpConfig, address, "Address", kText),
+    KOVA_F(NtpConfig, enable, "Enable", kBool),
+    KOVA_F(NtpConfig, port, "Port", kInt),
+    KOVA_F(NtpConfig, timeZone, "TimeZone", kInt),
+    KOVA_F(NtpConfig, timeZoneDesc, "TimeZoneDesc", kText),
+    KOVA_F(NtpConfig, updatePeriod, "UpdatePeriod", kInt),
+};
+
+constexpr Field kDstPointFields[] = {
+    KOVA_F(DstPoint, year, "Year", kInt),     KOVA_F(DstPoint, month, "Month", kInt),
+    KOVA_F(DstPoint, week, "Week", kInt),     KOVA_F(DstPoint, day, "Day", kInt),
+    KOVA_F(DstPoint, hour, "Hour", kInt),     KOVA_F(DstPoint, minute, "Minute", kInt),
+};
+
+}  // namespace
+
+KOVA_DESCRIBE(NtpConfig, kNtpFields)
+KOVA_DESCRIBE(DstPoint, kDstPointFields)
+
+namespace {
+
+using kova::Field;
+
+constexpr Field kLocalesFields[] = {
+    KOVA_F(LocalesConfig, dstEnable, "DSTEnable", kBool),
+    KOVA_NESTED(LocalesConfig, dstEnd, "DSTEnd"),
+    KOVA_NESTED(LocalesConfig, dstStart, "DSTStart"),
+    KOVA_F(LocalesConfig, timeFormat, "TimeFormat", kText),
+};
+
+}  // namespace
+
+KOVA_DESCRIBE(LocalesConfig, kLocalesFields)
+
+namespace kova {
+
+namespace {
+constexpr ResponseFrame kNtp = DescribedObject<NtpConfig>::kFrame.Walk(RecordWalk::kOne);
+constexpr ResponseFrame kLocales = DescribedObject<LocalesConfig>::kFrame.Walk(RecordWalk::kOne);
+}  // namespace
+
+KOVA_FRAME_TRANSLATORS(Ntp, kNtp)
+KOVA_FRAME_TRANSLATORS(Locales, kLocales)
+
+}  // namespace kova

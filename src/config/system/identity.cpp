@@ -1,0 +1,43 @@
+// "General" (the device's name and login policy) and "Language".
+#include "common/fields/field_table.h"
+#include "config/system/translators.h"
+#include "drivers/described_record.h"
+#include "kova/records/system.h"
+
+namespace {
+
+using kova::Field;
+
+constexpr Field kGeneralFields[] = {
+    KOVA_F(GeneralConfig, machineName, "MachineName", kText),
+    KOVA_F(GeneralConfig, localNo, "LocalNo", kInt),
+    KOVA_F(GeneralConfig, lockLoginEnable, "LockLoginEnable", kBool),
+    KOVA_F(GeneralConfig, lockLoginTimes, "LockLoginTimes", kInt),
+    KOVA_F(GeneralConfig, loginFailLockTime, "LoginFailLockTime", kInt),
+    KOVA_F(GeneralConfig, maxOnlineTime, "MaxOnlineTime", kInt),
+    KOVA_F(GeneralConfig, machineID, "MachineID", kText).Flag(KOVA_AT(GeneralConfig, machineIDPresent)),
+    KOVA_F(GeneralConfig, activationTime, "ActivationTime", kText)
+        .Flag(KOVA_AT(GeneralConfig, activationTimePresent)),
+    KOVA_F(GeneralConfig, checkDuration, "CheckDuration", kInt)
+        .Flag(KOVA_AT(GeneralConfig, checkDurationPresent)),
+};
+
+// "table" is the language's name itself.
+constexpr Field kLanguageText = KOVA_F(LanguageConfig, language, nullptr, kText);
+
+}  // namespace
+
+KOVA_DESCRIBE(GeneralConfig, kGeneralFields)
+
+namespace kova {
+
+namespace {
+constexpr ResponseFrame kGeneral = DescribedObject<GeneralConfig>::kFrame.Walk(RecordWalk::kOne);
+constexpr ResponseFrame kLanguage = ResponseFrame::For<LanguageConfig>(
+    ParseDescribed<kLanguageText>, PackDescribed<kLanguageText>);
+}  // namespace
+
+KOVA_FRAME_TRANSLATORS(General, kGeneral)
+KOVA_FRAME_TRANSLATORS(Language, kLanguage)
+
+}  // namespace kova

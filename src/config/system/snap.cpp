@@ -1,0 +1,45 @@
+// "Snap": the timed snapshot schedule of each channel.
+#include "common/blocks/time_schedule.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
+#include "config/system/translators.h"
+#include "drivers/described_record.h"
+#include "kova/records/system.h"
+
+namespace {
+
+using kova::Field;
+
+// The grid keeps the number of days the device sent, so a week-only answer
+// is written back as a week.
+void ParseSections(const Json::Value& obj, unsigned char* record, const Field&) {
+  SnapConfig* r = reinterpret_cast<SnapConfig*>(record);
+  int32_t days = 0;
+  kova::ParseTimeSectionGrid(kova::Member(obj, "TimeSection"), &r->sections[0][0], 8, 6, &days);
+  r->dayCount = days;
+}
+
+void PackSections(const unsigned char* record, Json::Value& obj, const Field&) {
+  const SnapConfig* r = reinterpret_cast<const SnapConfig*>(record);
+  const int32_t days = (r->dayCount < 1 || r->dayCount > 8) ? 8 : r->dayCount;
+  kova::PackTimeSectionGrid(kova::SetMember(obj, "TimeSection"), &r->sections[0][0], days, 6);
+}
+
+constexpr Field kSnapFields[] = {
+    KOVA_F(SnapConfig, holidayEnable, "HolidayEnable", kBool),
+    KOVA_CUSTOM(SnapConfig, sections, "TimeSection", ParseSections, PackSections),
+};
+
+}  // namespace
+
+KOVA_DESCRIBE(SnapConfig, kSnapFields)
+
+namespace kova {
+
+namespace {
+constexpr ResponseFrame kSnap = DescribedObject<SnapConfig>::kFrame;
+}  // namespace
+
+KOVA_FRAME_TRANSLATORS(Snap, kSnap)
+
+}  // namespace kova

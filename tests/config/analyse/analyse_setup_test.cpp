@@ -1,0 +1,283 @@
+// "VideoAnalyseModule" and "VideoAnalyseGlobal" through the exported
+// functions: the samples field by field, their packed text and fixed point,
+// the envelope rules, limits, and the caller's room for numbered periods.
+#include "kova/records/analyse_setup.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "config/alarm/alarm_test_util.h"
+#include "kova/kova.h"
+
+namespace {
+
+using kova_test::Doc;
+using kova_test::NewRecord;
+using kova_test::Pack;
+
+template <typename Rec>
+std::unique_ptr<Rec> Filled(uint8_t b) {
+  std::unique_ptr<Rec> r(new Rec);
+  std::memset(r.get(), b, sizeof(Rec));
+  return r;
+}
+
+template <typename Rec>
+bool AllBytes(const Rec& r, uint8_t b) {
+  const uint8_t* p = reinterpret_cast<const uint8_t*>(&r);
+  for (size_t i = 0; i < sizeof r; ++i) {
+    if (p[i] != b) return false;
+  }
+  return true;
+}
+
+TEST(VideoAnalyseModule, SampleFillsTheModules) {
+  int rc = 0;
+  uint32_t ret = 0;
+  auto m = kova_test::ParseAs<VideoAnalyseModuleConfig>(
+      "VideoAnalyseModule", kova_test::Sample("VideoAnalyseModule"), &rc, &ret);
+  ASSERT_EQ(1, rc);
+  EXPECT_EQ(sizeof(VideoAnalyseModuleConfig), ret);
+  EXPECT_EQ(2u, m->moduleCount);
+  const AnalyseModule& human = m->modules[0];
+  EXPECT_STREQ("Human", human.objectType);
+  EXPECT_EQ(0, human.snapShot);
+  EXPECT_EQ(5, human.sensitivity);
+  EXPECT_EQ(4u, human.detectRegion.pointCount);
+  EXPECT_EQ(8191, human.detectRegion.points[2].y);
+  EXPECT_EQ(1u, human.excludeRegionCount);
+  EXPECT_EQ(4u, human.excludeRegions[0].pointCount);
+  EXPECT_EQ(900, human.excludeRegions[0].points[1].x);
+  EXPECT_EQ(1, human.sizeFilterPresent);
+  EXPECT_FLOAT_EQ(16.0f, human.sizeFilter.minSize[0]);
+  EXPECT_EQ(1, human.antiDisturbancePresent);
+  EXPECT_EQ(1, human.antiDisturbance);
+  EXPECT_EQ(1, human.backlightPresent);
+  EXPECT_EQ(0, human.backlight);
+  EXPECT_EQ(3, human.accuracy);
+  EXPECT_DOUBLE_EQ(1.5, human.scalingFactor);
+  EXPECT_STREQ("Normal", human.type);
+  EXPECT_EQ(0, human.trackRegionPresent);
+  EXPECT_EQ(0, human.specialDetectRegionPresent);
+  const AnalyseModule& vehicle = m->modules[1];
+  EXPECT_EQ(1, vehicle.trackRegionPresent);
+  EXPECT_EQ(4u, vehicle.trackRegion.pointCount);
+  EXPECT_EQ(0u, vehicle.excludeRegionCount);
+  EXPECT_EQ(1u, vehicle.specialDetectRegionCount);
+  EXPECT_EQ(3u, vehicle.specialDetectRegions[0].region.pointCount);
+  EXPECT_STREQ(R"({ "Attributes" : [ "Reflective" ], "Category" : "Water" })",
+               vehicle.specialDetectRegions[0].property);
+}
+
+TEST(VideoAnalyseModule, SamplePacksToTheExpectedTextAndReachesAFixedPoint) {
+  int rc = 0;
+  auto first = kova_test::ParseAs<VideoAnalyseModuleConfig>(
+      "VideoAnalyseModule", kova_test::Sample("VideoAnalyseModule"), &rc);
+  const std::string text = Pack("VideoAnalyseModule", *first);
+  EXPECT_EQ(kova_test::PackedText("VideoAnalyseModule"), text);
+  auto second = kova_test::ParseAs<VideoAnalyseModuleConfig>("VideoAnalyseModule", Doc(text), &rc);
+  ASSERT_EQ(1, rc);
+  EXPECT_EQ(0, std::memcmp(first.get(), second.get(), sizeof *first));
+}
+
+// The record is written only by a parse that succeeds: "result" given and
+// false, or text that is not JSON, leave it as it was.
+TEST(VideoAnalyseModule, EnvelopeRules) {
+  const std::string modules = R"([{"ObjectType":"Human"}])";
+  struct Case {
+    std::string json;
+    int rc;
+    uint32_t modules;
+  } cases[] = {
+      {R"({"result":false,"params":{"table":)" + modules + "}}", 0, 0},
+      {R"({"result":0,"params":{"table":)" + modules + "}}", 0, 0},
+      {R"({"params":{"table":)" + modules + "}}", 1, 1},
+      {R"({"result":null,"params":{"table":)" + modules + "}}", 1, 1},
+      {R"({"result":true,"params":{"table":)", 0, 0},
+      {R"({"result":true,"params":{}})", 1, 0},
+      {Doc(R"({"ObjectType":"Human"})"), 1, 0},
+  };
+  for (const Case& c : cases) {
+    auto r = Filled<VideoAnalyseModuleConfig>(0xAB);
+    uint32_t ret = 0;
+    EXPECT_EQ(c.rc, KOVA_ParseData("VideoAnalyseModule", c.json.c_str(), r.get(), sizeof *r, &ret))
+        << c.json;
+    if (c.rc == 0) {
+      EXPECT_TRUE(AllBytes(*r, 0xAB)) << c.json;
+    } else {
+      EXPECT_EQ(c.modules, r->moduleCount) << c.json;
+    }
+  }
+}
+
+TEST(VideoAnalyseModule, Limits) {
+  std::string modules = "[null";
+  for (int i = 1; i < 17; ++i) modules += R"(,{"ObjectType":"M)" + std::to_string(i) + "\"}";
+  std::string regions = "[";
+  for (int i = 0; i < 11; ++i)
+    regions += std::string(i ? "," : "") + "[[" + std::to_string(i) + ",1]]";
+  regions += "]";
+  const std::string longFilter = R"({"Names":[")" + std::string(300, 'x') + R"("]})";
+  modules += R"(,{"ObjectType":"Last"}])";
+  std::string first = R"([{"ExcludeRegion":)" + regions +
+                      R"(,"DetectRegion":[[1,2],[5],[3,4]],)"
+                      R"("ObjectFilter":)" +
+                      longFilter + R"(,"Sensitivity":300}])";
+  int rc = 0;
+  auto a = kova_test::ParseAs<VideoAnalyseModuleConfig>("VideoAnalyseModule", Doc(modules), &rc);
+  ASSERT_EQ(1, rc);
+  EXPECT_EQ(16u, a->moduleCount);
+  EXPECT_TRUE(AllBytes(a->modules[0], 0));  // a null module keeps its slot zero
+  EXPECT_STREQ("M15", a->modules[15].objectType);
+  auto b = kova_test::ParseAs<VideoAnalyseModuleConfig>("VideoAnalyseModule", Doc(first), &rc);
+  ASSERT_EQ(1, rc);
+  const AnalyseModule& m = b->modules[0];
+  EXPECT_EQ(10u, m.excludeRegionCount);
+  EXPECT_EQ(9, m.excludeRegions[9].points[0].x);
+  EXPECT_EQ(2u, m.detectRegion.pointCount);
+  EXPECT_EQ(3, m.detectRegion.points[2].x);
+  EXPECT_EQ(44, m.sensitivity);  // cut to 8 bits
+  // JSON text that does not fit is not kept (a cut text would not be JSON).
+  EXPECT_EQ(0, m.objectFilterPresent);
+  EXPECT_EQ('\0', m.objectFilter[0]);
+}
+
+TEST(VideoAnalyseGlobal, SampleFillsTheSceneAndThePeriodsTheCallerMadeRoomFor) {
+  std::vector<DayNightPeriod> periods(4);
+  auto g = NewRecord<VideoAnalyseGlobalConfig>();
+  g->periods = periods.data();
+  g->periodCount = 4;
+  uint32_t ret = 0;
+  const std::string doc = kova_test::Sample("VideoAnalyseGlobal");
+  ASSERT_EQ(1, KOVA_ParseData("VideoAnalyseGlobal", doc.c_str(), g.get(), sizeof *g, &ret));
+  EXPECT_EQ(sizeof(VideoAnalyseGlobalConfig), ret);
+  EXPECT_EQ(periods.data(), g->periods);
+  EXPECT_EQ(2u, g->periodCount);
+  EXPECT_EQ(19, periods[0].day.end.hour);
+  EXPECT_EQ(KOVA_SWITCH_BY_COLOR, periods[0].switchMode);
+  EXPECT_EQ(30, periods[1].day.start.minute);
+  EXPECT_EQ(1, g->timePeriodPresent);
+  EXPECT_EQ(6, g->timePeriod.day.start.hour);
+  EXPECT_EQ(30, g->timePeriod.night.start.minute);
+  EXPECT_EQ(KOVA_SWITCH_BY_BRIGHTNESS, g->timePeriod.switchMode);
+
+  EXPECT_EQ(1, g->scenePresent);
+  EXPECT_STREQ("Normal", g->scene.type);
+  EXPECT_EQ(2u, g->scene.typeListCount);
+  EXPECT_STREQ("Traffic", g->scene.typeList[1]);
+  EXPECT_EQ(1, g->scene.ptzPresetId);
+  EXPECT_EQ(KOVA_DEPTH_MIDDLE, g->scene.depth);
+  EXPECT_EQ(1, g->scene.jitterPresent);
+  EXPECT_EQ(2, g->scene.jitter);
+  EXPECT_EQ(1, g->scene.dejitterPresent);
+  EXPECT_EQ(1, g->scene.dejitter);
+  EXPECT_EQ(1, g->scene.detailPresent);
+  EXPECT_STREQ(R"({ "CameraAngle" : 30, "CameraHeight" : 6.500000000000000 })", g->scene.detail);
+  EXPECT_EQ(0, g->scene.customDataPresent);
+
+  EXPECT_EQ(1, g->calibrateAreaPresent[0]);
+  EXPECT_EQ(0, g->calibrateAreaPresent[1]);
+  EXPECT_EQ(2u, g->calibrateAreas[0].staffCount);
+  EXPECT_EQ(4500, g->calibrateAreas[0].staffs[1].end.y);
+  EXPECT_DOUBLE_EQ(1.8, g->calibrateAreas[0].staffs[1].length);
+  EXPECT_EQ(1, g->scenesPresent[0]);
+  EXPECT_EQ(KOVA_DEPTH_FAR, g->scenes[0].depth);
+  EXPECT_STREQ("Traffic", g->scenes[0].type);
+}
+
+TEST(VideoAnalyseGlobal, SamplePacksToTheExpectedTextAndReachesAFixedPoint) {
+  int rc = 0;
+  auto first = kova_test::ParseAs<VideoAnalyseGlobalConfig>(
+      "VideoAnalyseGlobal", kova_test::Sample("VideoAnalyseGlobal"), &rc);
+  ASSERT_EQ(1, rc);
+  const std::string text = Pack("VideoAnalyseGlobal", *first);
+  EXPECT_EQ(kova_test::PackedText("VideoAnalyseGlobal"), text);
+  auto second = kova_test::ParseAs<VideoAnalyseGlobalConfig>("VideoAnalyseGlobal", Doc(text), &rc);
+  ASSERT_EQ(1, rc);
+  EXPECT_EQ(0, std::memcmp(first.get(), second.get(), sizeof *first));
+}
+
+TEST(VideoAnalyseGlobal, NumberedPeriods) {
+  const std::string period = R"({"Day":["08:00:00","17:00:00"],"SwitchMode":"ByColor"})";
+  struct Case {
+    std::string table;
+    uint32_t room;
+    bool pointer;
+    uint32_t found;
+  } cases[] = {
+      {R"({"TimePeriod1":)" + period + R"(,"TimePeriod2":)" + period + "}", 1, true, 1},
+      {R"({"TimePeriod1":)" + period + R"(,"TimePeriod3":)" + period + "}", 4, true, 1},
+      {R"({"TimePeriod2":)" + period + "}", 4, true, 0},
+      {R"({"TimePeriod1":)" + period + "}", 4, false, 0},
+      {R"({"TimePeriod1":)" + period + "}", 0, true, 0},
+  };
+  for (const Case& c : cases) {
+    std::vector<DayNightPeriod> periods(4);
+    std::memset(periods.data(), 0xAB, periods.size() * sizeof periods[0]);
+    auto g = NewRecord<VideoAnalyseGlobalConfig>();
+    g->periods = c.pointer ? periods.data() : nullptr;
+    g->periodCount = c.room;
+    ASSERT_EQ(
+        1, KOVA_ParseData("VideoAnalyseGlobal", Doc(c.table).c_str(), g.get(), sizeof *g, nullptr));
+    EXPECT_EQ(c.found, g->periodCount) << c.table;
+    if (c.found > 0) {
+      EXPECT_EQ(8, periods[0].day.start.hour);
+      EXPECT_EQ(0, periods[0].night.end.hour);  // a period read starts from zero
+    }
+    EXPECT_EQ(0xABABABABu, static_cast<uint32_t>(periods[c.found].switchMode)) << c.table;
+  }
+
+  // Pack writes "TimePeriod1" .. "TimePeriodN" from the caller's array.
+  std::vector<DayNightPeriod> periods(2);
+  std::memset(periods.data(), 0, periods.size() * sizeof periods[0]);
+  periods[1].day.end.hour = 18;
+  periods[1].switchMode = 7;  // no name: not written
+  auto g = NewRecord<VideoAnalyseGlobalConfig>();
+  g->periods = periods.data();
+  g->periodCount = 2;
+  EXPECT_EQ(R"({ "TimePeriod1" : { "Day" : [ "00:00:00", "00:00:00" ], )"
+            R"("Night" : [ "00:00:00", "00:00:00" ] }, )"
+            R"("TimePeriod2" : { "Day" : [ "00:00:00", "18:00:00" ], )"
+            R"("Night" : [ "00:00:00", "00:00:00" ] } })"
+            "\n",
+            Pack("VideoAnalyseGlobal", *g));
+}
+
+TEST(VideoAnalyseGlobal, NumberedSlotsEnvelopeAndRawText) {
+  const std::string table =
+      R"({"CalibrateArea31":{"Staffs":[{"Length":2}]},"CalibrateArea32":{"Staffs":[]},)"
+      R"("Scene8":{"Type":"Last","Depth":"near"},"Scene9":{"Type":"Beyond"},"Scene0":{},)"
+      R"("TimePeriod":{"Day":["6:0:0","x"],"SwitchMode":"Never"},)"
+      R"("Scene":{"CustomData":"\u00e9\u0001z","Depth":"Deep"}})";
+  int rc = 0;
+  auto g = kova_test::ParseAs<VideoAnalyseGlobalConfig>("VideoAnalyseGlobal", Doc(table), &rc);
+  ASSERT_EQ(1, rc);
+  EXPECT_EQ(1, g->calibrateAreaPresent[31]);
+  EXPECT_DOUBLE_EQ(2.0, g->calibrateAreas[31].staffs[0].length);
+  int present = 0;
+  for (uint8_t p : g->calibrateAreaPresent) present += p;
+  for (uint8_t p : g->scenesPresent) present += p;
+  EXPECT_EQ(2, present);
+  EXPECT_STREQ("Last", g->scenes[7].type);
+  EXPECT_EQ(KOVA_DEPTH_NEAR, g->scenes[7].depth);
+  EXPECT_EQ(6, g->timePeriod.day.start.hour);
+  EXPECT_EQ(0, g->timePeriod.day.end.hour);  // a time that does not read stays zero
+  EXPECT_EQ(0, g->timePeriod.switchMode);
+  EXPECT_EQ(KOVA_DEPTH_NORMAL, g->scene.depth);
+  EXPECT_EQ(1, g->scene.customDataPresent);
+  EXPECT_STREQ("\xc3\xa9\x01z", g->scene.customData);  // the bytes, unconverted
+
+  auto kept = Filled<VideoAnalyseGlobalConfig>(0xAB);
+  const std::string refused = R"({"result":false,"params":{"table":)" + table + "}}";
+  EXPECT_EQ(
+      0, KOVA_ParseData("VideoAnalyseGlobal", refused.c_str(), kept.get(), sizeof *kept, nullptr));
+  EXPECT_TRUE(AllBytes(*kept, 0xAB));
+  EXPECT_EQ(0, KOVA_ParseData("VideoAnalyseGlobal", Doc(table).c_str(), kept.get(),
+                              sizeof *kept - 1, nullptr));
+}
+
+}  // namespace

@@ -1,0 +1,420 @@
+// "VideoAnalyseRule" / "AudioAnalyseRule" through the exported functions:
+// entry headers and rule records byte for byte, the packed text, parse ->
+// pack -> parse, what a failure leaves, and the pack refusals.
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "config/alarm/alarm_test_util.h"
+#include "kova/kova.h"
+#include "kova/records/analyse.h"
+
+namespace {
+
+using kova_test::Doc;
+
+constexpr uint32_t kLine = sizeof(CrossLineRule);
+constexpr uint32_t kRegion = sizeof(CrossRegionRule);
+constexpr uint32_t kHeader = sizeof(RuleEntryHeader);
+
+// A rule list record with a rule buffer of its own.
+struct Rules {
+  explicit Rules(size_t bytes, uint8_t fill = 0) : buffer(bytes + 1, fill) {
+    list = {0xDEADu, buffer.data(), static_cast<uint32_t>(bytes)};
+  }
+  int Parse(const std::string& json, const char* name = "VideoAnalyseRule") {
+    retLen = 0;
+    return KOVA_ParseData(name, json.c_str(), &list, sizeof list, &retLen);
+  }
+  // Offset of entry i, walking the headers.
+  size_t At(uint32_t i) const {
+    size_t at = 0;
+    for (uint32_t k = 0; k < i; ++k) at += kHeader + Header(at).bodySize;
+    return at;
+  }
+  RuleEntryHeader Header(size_t at) const {
+    RuleEntryHeader h;
+    std::memcpy(&h, list.ruleBuffer + at, sizeof h);
+    return h;
+  }
+  // The body of entry i copied into an aligned record.
+  template <typename Rec>
+  std::unique_ptr<Rec> Body(uint32_t i) const {
+    std::unique_ptr<Rec> r(new Rec);
+    std::memcpy(r.get(), list.ruleBuffer + At(i) + kHeader, sizeof(Rec));
+    return r;
+  }
+  std::string Pack(uint32_t outLen = 1u << 20) const {
+    return kova_test::PackBytes("VideoAnalyseRule", &list, sizeof list, outLen);
+  }
+  bool AllBytes(size_t from, uint8_t b) const {
+    for (size_t i = from; i < list.ruleBufferLength; ++i) {
+      if (list.ruleBuffer[i] != b) return false;
+    }
+    return true;
+  }
+
+  std::vector<uint8_t> buffer;  // one spare byte, never to be written
+  VideoAnalyseRuleList list;
+  uint32_t retLen = 0;
+};
+
+std::string Rule(const char* type, const std::string& config, const std::string& more = "") {
+  return std::string(R"({"Name":"R","Class":"Normal","Type":")") + type + R"(",)" + more +
+         R"("Config":)" + config + "}";
+}
+std::string LineRule(const std::string& config, const std::string& more = "") {
+  return Rule("CrossLineDetection", config, more);
+}
+std::string RegionRule(const std::string& config, const std::string& more = "") {
+  return Rule("CrossRegionDetection", config, more);
+}
+
+TEST(RuleList, SampleFillsHeadersAndRecords) {
+  Rules r(3 * (kHeader + kRegion) + 100, 0xAB);
+  ASSERT_EQ(1, r.Parse(kova_test::Sample("VideoAnalyseRule")));
+  EXPECT_EQ(sizeof(VideoAnalyseRuleList), r.retLen);
+  EXPECT_EQ(3u, r.list.ruleCount);
+  EXPECT_EQ(r.buffer.data(), r.list.ruleBuffer);
+  EXPECT_EQ(r.buffer.size() - 1, r.list.ruleBufferLength);
+
+  const RuleEntryHeader expected[] = {{2, kLine, 1}, {3, kRegion, 1}, {2, kLine, 1}};
+  for (uint32_t i = 0; i < 3; ++i) {
+    const RuleEntryHeader h = r.Header(r.At(i));
+    EXPECT_EQ(expected[i].ruleType, h.ruleType) << i;
+    EXPECT_EQ(expected[i].bodySize, h.bodySize) << i;
+    EXPECT_EQ(expected[i].sceneClass, h.sceneClass) << i;
+  }
+  EXPECT_TRUE(r.AllBytes(r.At(3), 0));  // the rest of the buffer cleared
+  EXPECT_EQ(0xAB, r.buffer.back());
+
+  auto line = r.Body<CrossLineRule>(0);
+  EXPECT_STREQ("Gate line", line->head.name);
+  EXPECT_EQ(1, line->head.enable);
+  EXPECT_EQ(1, line->head.trackEnable);
+  EXPECT_EQ(2u, line->head.objectTypeCount);
+  EXPECT_STREQ("Vehicle", line->head.objectTypes[1]);
+  EXPECT_EQ(KOVA_LINE_LEFT_TO_RIGHT, line->direction);
+  EXPECT_EQ(3u, line->detectLine.pointCount);
+  EXPECT_EQ(4096, line->detectLine.points[1].x);
+  EXPECT_EQ(4800, line->detectLine.points[1].y);
+  EXPECT_EQ(1, line->linkage.eventHandler.recordEnable);
+  EXPECT_EQ(1u, line->linkage.eventHandler.recordChannels[0]);
+  const TimeSectionRecord& monday = line->linkage.timeSection.sections[0][0];
+  EXPECT_EQ(1, monday.enable);
+  EXPECT_EQ(7, monday.beginHour);
+  EXPECT_EQ(30, monday.beginMinute);
+  EXPECT_EQ(19, monday.endHour);
+  EXPECT_EQ(24, line->linkage.timeSection.sections[0][1].endHour);
+  EXPECT_EQ(0, line->linkage.timeSection.sections[0][6].endHour);  // a 6-section day
+  EXPECT_EQ(19, line->linkage.eventHandler.schedule.sections[0][0].endHour);
+  EXPECT_EQ(1u, line->sizeFilterPresent);
+  EXPECT_EQ(1, line->sizeFilter.bySizePresent);
+  EXPECT_EQ(1, line->sizeFilter.bySize);
+  EXPECT_FLOAT_EQ(8191.0f, line->sizeFilter.maxSize[1]);
+  EXPECT_DOUBLE_EQ(1000.0, line->sizeFilter.maxRatio);
+  EXPECT_EQ(1u, line->sizeFilter.calibrateBoxCount);
+  EXPECT_EQ(4096, line->sizeFilter.calibrateBoxs[0].centerPoint.y);
+  EXPECT_EQ(0, line->sizeFilter.areaCalibrateBoxsPresent);
+  EXPECT_EQ(1u, line->triggerPositions.count);
+  EXPECT_EQ(KOVA_TRIGGER_BOTTOM_CENTER, line->triggerPositions.positions[0]);
+  EXPECT_EQ(10, line->trackDuration);
+
+  auto region = r.Body<CrossRegionRule>(1);
+  EXPECT_STREQ("Warehouse door", region->head.name);
+  EXPECT_EQ(0, region->head.trackEnable);
+  EXPECT_EQ(KOVA_REGION_BOTH, region->direction);
+  EXPECT_EQ(4u, region->detectRegion.pointCount);
+  EXPECT_EQ(2, region->linkage.ptzPresetId);
+  EXPECT_EQ(24, region->linkage.timeSection.sections[6][9].endHour);  // a 10-section day
+  EXPECT_EQ(0u, region->sizeFilterPresent);
+  EXPECT_EQ(3u, region->actionCount);
+  EXPECT_EQ(KOVA_ACTION_INSIDE, region->actions[2]);
+  EXPECT_EQ(1, region->minTargets);
+  EXPECT_EQ(20, region->maxTargets);
+  EXPECT_EQ(2, region->minDuration);
+  EXPECT_EQ(30, region->reportInterval);
+  EXPECT_EQ(15, region->trackDuration);
+}
+
+// Device text -> entries -> text (as expected) -> entries -> ...: the second
+// parse is a fixed point (the first pack drops an empty "ExAlarmOutChannels"
+// as null, on purpose).
+TEST(RuleList, SamplePacksToTheExpectedTextAndReachesAFixedPoint) {
+  const size_t bytes = 3 * (kHeader + kRegion);
+  Rules first(bytes), second(bytes), third(bytes);
+  ASSERT_EQ(1, first.Parse(kova_test::Sample("VideoAnalyseRule")));
+  const std::string text1 = first.Pack();
+  EXPECT_EQ(kova_test::PackedText("VideoAnalyseRule"), text1);
+  ASSERT_EQ(1, second.Parse(Doc(text1)));
+  const std::string text2 = second.Pack();
+  ASSERT_EQ(1, third.Parse(Doc(text2)));
+  EXPECT_TRUE(second.buffer == third.buffer);
+  EXPECT_EQ(text2, third.Pack());
+}
+
+TEST(RuleList, PackedTextOfEachType) {
+  const std::string doc =
+      Doc("[" +
+          LineRule(R"({"Direction":"Both","DetectLine":[[0,1],[2,3]],"TriggerPosition":["Center"],)"
+                   R"("TrackDuration":4})",
+                   R"("Enable":true,"ObjectTypes":["Human"],"PtzPresetId":3,)") +
+          "," +
+          RegionRule(R"({"Direction":"Leave","DetectRegion":[[1,1],[9,9]],"Action":["Cross"],)"
+                     R"("MinTargets":1,"MaxTargets":5,"MinDuration":6,"ReportInterval":7,)"
+                     R"("TrackDuration":8,"SizeFilter":{"MeasureMode":"metric","MinSize":[1,2],)"
+                     R"("AreaCalibrateBoxs":[{"CenterPoint":[10,20],"Ratio":0.5}]}})",
+                     R"("TrackEnable":true,)") +
+          "]");
+  Rules r(2 * (kHeader + kRegion));
+  ASSERT_EQ(1, r.Parse(doc));
+  std::string off;
+  for (int s = 0; s < 10; ++s) off += std::string(s ? ", " : "") + "\"0 00:00:00-00:00:00\"";
+  std::string week = "[ ";
+  for (int d = 0; d < 7; ++d) week += std::string(d ? ", " : "") + "[ " + off + " ]";
+  week += " ]";
+  const std::string handler = R"("EventHandler" : { "AlarmOutEnable" : false, )"
+                              R"("RecordEnable" : false, "TimeSection" : )" +
+                              week + " }, ";
+  EXPECT_EQ(
+      R"([ { "Class" : "Normal", "Config" : { "DetectLine" : [ [ 0, 1 ], [ 2, 3 ] ], )"
+      R"("Direction" : "Both", "TrackDuration" : 4, "TriggerPosition" : [ "Center" ] }, )"
+      R"("Enable" : true, )" +
+          handler +
+          R"("Name" : "R", "ObjectTypes" : [ "Human" ], "PtzPresetId" : 3, "TrackEnable" : false, )"
+          R"("Type" : "CrossLineDetection" }, )"
+          R"({ "Class" : "Normal", "Config" : { "Action" : [ "Cross" ], )"
+          R"("DetectRegion" : [ [ 1, 1 ], [ 9, 9 ] ], "Direction" : "Leave", "MaxTargets" : 5, )"
+          R"("MinDuration" : 6, "MinTargets" : 1, "ReportInterval" : 7, "SizeFilter" : { )"
+          R"("AreaCalibrateBoxs" : [ { "CenterPoint" : [ 10, 20 ], "Ratio" : 0.5000000000000000 } ], )"
+          R"("MeasureMode" : "Metric", "MinSize" : [ 1.000000000000000, 2.000000000000000 ] }, )"
+          R"("TrackDuration" : 8 }, "Enable" : false, )" +
+          handler +
+          R"("Name" : "R", "ObjectTypes" : [  ], "PtzPresetId" : 0, "TrackEnable" : true, )"
+          R"("Type" : "CrossRegionDetection" } ])"
+          "\n",
+      r.Pack());
+}
+
+TEST(RuleList, BothNamesAndEnvelopeRules) {
+  const std::string one = "[" + LineRule("{}") + "]";
+  struct Case {
+    const char* name;
+    std::string json;
+    uint32_t rules;
+  } cases[] = {
+      {"AudioAnalyseRule", Doc(one), 1},
+      {"videoanalyserule", Doc(one), 1},
+      // "result" is not looked at.
+      {"VideoAnalyseRule", R"({"result":false,"params":{"table":)" + one + "}}", 1},
+      // No table, or one that is not an array: no rules.
+      {"VideoAnalyseRule", R"({"result":true,"params":{}})", 0},
+      {"VideoAnalyseRule", R"({"result":true})", 0},
+      {"VideoAnalyseRule", "null", 0},
+      {"VideoAnalyseRule", Doc(LineRule("{}")), 0},
+  };
+  for (const Case& c : cases) {
+    Rules r(kHeader + kLine, 0xAB);
+    EXPECT_EQ(1, r.Parse(c.json, c.name)) << c.json;
+    EXPECT_EQ(c.rules, r.list.ruleCount) << c.json;
+    EXPECT_EQ(c.rules == 0, r.AllBytes(0, 0xAB)) << c.json;
+  }
+}
+
+TEST(RuleList, NoRulesLeavesTheBufferUntouched) {
+  Rules r(64, 0xAB);
+  ASSERT_EQ(1, r.Parse(Doc("[]")));
+  EXPECT_EQ(0u, r.list.ruleCount);
+  EXPECT_TRUE(r.AllBytes(0, 0xAB));
+  VideoAnalyseRuleList none = {7, nullptr, 0};
+  EXPECT_EQ(1, KOVA_ParseData("VideoAnalyseRule", Doc("[]").c_str(), &none, sizeof none, nullptr));
+  EXPECT_EQ(0u, none.ruleCount);
+}
+
+// What each failure leaves: ruleCount is always the number of rules; the
+// buffer is untouched when the failure is found before writing, and
+// cleared with the earlier entries in place when found while writing.
+TEST(RuleList, FailuresAndWhatTheyLeave) {
+  const std::string line = LineRule(R"({"TrackDuration":9})");
+  const std::string noType = R"({"Name":"X","Config":{}})";
+  struct Case {
+    std::string rules;
+    uint32_t count;
+    bool cleared;  // false: untouched
+    uint32_t entriesKept;
+  } cases[] = {
+      {line + "," + Rule("All", "{}"), 2, false, 0},
+      {line + "," + Rule("VideoMotion", "{}"), 2, false, 0},
+      {line + "," + Rule("NoSuchDetection", "{}"), 2, false, 0},
+      {line + R"(,{"Name":"X","Type":7,"Config":{}})", 2, false, 0},
+      {line + "," + noType, 2, true, 1},
+      {noType + "," + line, 2, true, 0},
+  };
+  for (const Case& c : cases) {
+    Rules r(3 * (kHeader + kRegion), 0xAB);
+    EXPECT_EQ(0, r.Parse(Doc("[" + c.rules + "]"))) << c.rules;
+    EXPECT_EQ(c.count, r.list.ruleCount) << c.rules;
+    EXPECT_EQ(0u, r.retLen);
+    if (!c.cleared) {
+      EXPECT_TRUE(r.AllBytes(0, 0xAB)) << c.rules;
+      continue;
+    }
+    const size_t kept = c.entriesKept * (kHeader + kLine);
+    EXPECT_TRUE(r.AllBytes(kept, 0)) << c.rules;
+    if (c.entriesKept > 0) {
+      EXPECT_EQ(9, r.Body<CrossLineRule>(0)->trackDuration) << c.rules;
+    }
+  }
+}
+
+TEST(RuleList, RoomIsCheckedBeforeAnythingIsWritten) {
+  const std::string doc = Doc("[" + LineRule("{}") + "," + RegionRule("{}") + "]");
+  const size_t need = 2 * kHeader + kLine + kRegion;
+  Rules shortByOne(need - 1, 0xAB);
+  EXPECT_EQ(0, shortByOne.Parse(doc));
+  EXPECT_EQ(2u, shortByOne.list.ruleCount);
+  EXPECT_TRUE(shortByOne.AllBytes(0, 0xAB));
+  Rules exact(need, 0xAB);
+  EXPECT_EQ(1, exact.Parse(doc));
+  EXPECT_EQ(0xAB, exact.buffer.back());
+  VideoAnalyseRuleList nullBuffer = {0, nullptr, static_cast<uint32_t>(need)};
+  EXPECT_EQ(
+      0, KOVA_ParseData("VideoAnalyseRule", doc.c_str(), &nullBuffer, sizeof nullBuffer, nullptr));
+  Rules tooSmallRecord(need);
+  EXPECT_EQ(0, KOVA_ParseData("VideoAnalyseRule", doc.c_str(), &tooSmallRecord.list,
+                              sizeof(VideoAnalyseRuleList) - 1, nullptr));
+}
+
+TEST(RuleList, AtMost32Rules) {
+  std::string rules;
+  for (int i = 0; i < 33; ++i) rules += (i ? "," : "") + LineRule("{}");
+  Rules r(33 * (kHeader + kLine));
+  ASSERT_EQ(1, r.Parse(Doc("[" + rules + "]")));
+  EXPECT_EQ(32u, r.list.ruleCount);
+  EXPECT_TRUE(r.AllBytes(32 * (kHeader + kLine), 0));
+}
+
+// The scene class table, and its pack table one entry short.
+TEST(RuleList, SceneClasses) {
+  struct Case {
+    const char* cls;  // JSON text
+    uint32_t parsed;
+    const char* packed;
+  } cases[] = {
+      {R"("Normal")", 1, "Normal"},
+      {R"("trafficpatrol")", 3, "TrafficPatrol"},
+      {R"("Vehicle")", 14, "Vehicle"},
+      {R"("StandUpDetection")", 15, ""},
+      {R"("Nowhere")", 0, ""},
+      {R"("")", 0, ""},
+      {"null", 0, ""},
+      {"5", 0, ""},
+  };
+  for (const Case& c : cases) {
+    const std::string rule = std::string(R"({"Type":"CrossLineDetection","Class":)") + c.cls + "}";
+    Rules r(kHeader + kLine);
+    ASSERT_EQ(1, r.Parse(Doc("[" + rule + "]"))) << c.cls;
+    EXPECT_EQ(c.parsed, r.Header(0).sceneClass) << c.cls;
+    EXPECT_NE(std::string::npos, r.Pack().find(std::string("\"Class\" : \"") + c.packed + "\""))
+        << c.cls;
+  }
+}
+
+// The device's edge cases of the common head and the two types' own keys.
+TEST(RuleList, RuleFieldRules) {
+  std::string types;
+  for (int i = 0; i < 20; ++i)
+    types += std::string(i ? "," : "") + "\"T" + std::to_string(i) + "\"";
+  const std::string doc = Doc(
+      "[" +
+      LineRule(R"({"Direction":"righttoleft","DetectLine":[[1,2],[5],null,[7,8,9]],)"
+               R"("TriggerPosition":["Center",null,"Up","BottomCenter","Center"]})",
+               R"("ObjectTypes":[)" + types + "],") +
+      "," + LineRule(R"({"Direction":"Sideways","TriggerPosition":[0,1,2,3,4,5,6,7,8,9]})") + "," +
+      RegionRule(
+          R"({"Direction":"ENTER","Action":["Cross",null,"Nope","Appear","Inside","Cross"]})") +
+      "]");
+  Rules r(3 * (kHeader + kRegion));
+  ASSERT_EQ(1, r.Parse(doc));
+  auto first = r.Body<CrossLineRule>(0);
+  EXPECT_EQ(16u, first->head.objectTypeCount);
+  EXPECT_STREQ("T15", first->head.objectTypes[15]);
+  EXPECT_EQ(KOVA_LINE_RIGHT_TO_LEFT, first->direction);
+  // [5] and null are skipped but keep their slots; the count is of points taken.
+  EXPECT_EQ(2u, first->detectLine.pointCount);
+  EXPECT_EQ(0, first->detectLine.points[1].x);
+  EXPECT_EQ(7, first->detectLine.points[3].x);
+  EXPECT_EQ(8, first->detectLine.points[3].y);
+  // Non-null entries are counted, an unknown name too; null keeps its slot.
+  EXPECT_EQ(4u, first->triggerPositions.count);
+  const uint8_t positions[] = {0, 0, 0, 4, 0};
+  EXPECT_EQ(0, std::memcmp(positions, first->triggerPositions.positions, sizeof positions));
+
+  auto second = r.Body<CrossLineRule>(1);
+  EXPECT_EQ(0, second->direction);
+  EXPECT_EQ(8u, second->triggerPositions.count);  // at most 8 looked at
+
+  auto region = r.Body<CrossRegionRule>(2);
+  EXPECT_EQ(KOVA_REGION_ENTER, region->direction);
+  EXPECT_EQ(3u, region->actionCount);  // of the first 4
+  const uint8_t actions[] = {3, 0, 0, 0};
+  EXPECT_EQ(0, std::memcmp(actions, region->actions, sizeof actions));
+}
+
+// A caller's buffer that puts the records 4-byte-misaligned reads and packs
+// the same bytes.
+TEST(RuleList, MisalignedBufferReadsTheSame) {
+  const std::string doc = kova_test::Sample("VideoAnalyseRule");
+  const size_t bytes = 3 * (kHeader + kRegion);
+  Rules aligned(bytes);
+  ASSERT_EQ(1, aligned.Parse(doc));
+  std::vector<uint8_t> shifted(bytes + 3);
+  VideoAnalyseRuleList list = {0, shifted.data() + 1, static_cast<uint32_t>(bytes)};
+  ASSERT_EQ(1, KOVA_ParseData("VideoAnalyseRule", doc.c_str(), &list, sizeof list, nullptr));
+  EXPECT_EQ(0, std::memcmp(aligned.buffer.data(), shifted.data() + 1, bytes));
+  EXPECT_EQ(aligned.Pack(), kova_test::PackBytes("VideoAnalyseRule", &list, sizeof list));
+}
+
+TEST(RuleList, PackRefusals) {
+  Rules good(kHeader + kLine);
+  ASSERT_EQ(1, good.Parse(Doc("[" + LineRule("{}") + "]")));
+  const std::string text = good.Pack();
+  ASSERT_NE("<failed>", text);
+  // The copy rule: strictly shorter than the output.
+  EXPECT_EQ("<failed>", good.Pack(static_cast<uint32_t>(text.size())));
+  EXPECT_EQ(text, good.Pack(static_cast<uint32_t>(text.size() + 1)));
+
+  struct Case {
+    const char* what;
+    uint32_t ruleCount;
+    uint32_t length;
+    RuleEntryHeader header;
+  } cases[] = {
+      {"body past the end", 1, kHeader + kLine - 1, {2, kLine, 1}},
+      {"header past the end", 1, kHeader - 1, {2, kLine, 1}},
+      {"second entry past the end", 2, kHeader + kLine, {2, kLine, 1}},
+      {"body size of another type", 1, kHeader + kLine, {2, kRegion, 1}},
+      {"a type the list rejects", 1, kHeader + kLine, {1, kLine, 1}},
+      {"no type", 1, kHeader + kLine, {0, 0, 0}},
+  };
+  for (const Case& c : cases) {
+    Rules r(kHeader + kLine);
+    r.buffer = good.buffer;
+    r.list.ruleBuffer = r.buffer.data();
+    std::memcpy(r.list.ruleBuffer, &c.header, sizeof c.header);
+    r.list.ruleCount = c.ruleCount;
+    r.list.ruleBufferLength = c.length;
+    EXPECT_EQ("<failed>", r.Pack()) << c.what;
+  }
+  VideoAnalyseRuleList none = {0, nullptr, 0};
+  EXPECT_EQ("[  ]\n", kova_test::PackBytes("VideoAnalyseRule", &none, sizeof none));
+  none.ruleCount = 1;
+  EXPECT_EQ("<failed>", kova_test::PackBytes("VideoAnalyseRule", &none, sizeof none));
+  EXPECT_EQ("<failed>", kova_test::PackBytes("VideoAnalyseRule", &good.list, sizeof none - 1));
+}
+
+}  // namespace

@@ -1,0 +1,210 @@
+// "StorageGroup" and "Raid" (caller-sized records) and "RecordMode" (one
+// record per channel), both ways.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "config/alarm/alarm_test_util.h"
+#include "kova/kova.h"
+#include "kova/records/storage.h"
+
+namespace {
+
+using kova_test::Doc;
+using kova_test::PackBytes;
+
+// `count` records of `stride` bytes, each with its size word, the rest 0xEE.
+// (The vector's storage is aligned for the records.)
+std::vector<unsigned char> Slots(uint32_t stride, uint32_t count) {
+  std::vector<unsigned char> b(static_cast<size_t>(stride) * count, 0xEE);
+  for (uint32_t i = 0; i < count; ++i) {
+    std::memcpy(&b[static_cast<size_t>(i) * stride], &stride, std::min<uint32_t>(stride, 4));
+  }
+  return b;
+}
+
+int Parse(const char* name, const std::string& json, std::vector<unsigned char>* b, uint32_t* ret) {
+  return KOVA_ParseData(name, json.c_str(), b->data(), static_cast<uint32_t>(b->size()), ret);
+}
+
+std::string Packed(const char* name, const std::vector<unsigned char>& b, size_t bytes) {
+  return PackBytes(name, b.data(), static_cast<uint32_t>(bytes));
+}
+
+// Packs the first `bytes` of `b`, parses the text back into a buffer of the
+// same stride, and expects the same bytes.
+void ExpectRoundTrip(const char* name, const std::vector<unsigned char>& b, uint32_t stride,
+                     size_t bytes) {
+  const std::string text = Packed(name, b, bytes);
+  std::vector<unsigned char> again = Slots(stride, static_cast<uint32_t>(b.size() / stride));
+  uint32_t ret = 0;
+  ASSERT_EQ(1, Parse(name, Doc(text), &again, &ret)) << name;
+  EXPECT_EQ(bytes, ret);
+  EXPECT_TRUE(std::equal(b.begin(), b.begin() + static_cast<std::ptrdiff_t>(bytes), again.begin()))
+      << name;
+}
+
+TEST(StorageGroup, GroupsReadIntoCallerSizedRecordsAndPackBackToTheDevicesText) {
+  const uint32_t stride = sizeof(StorageGroupRecord);
+  std::vector<unsigned char> b = Slots(stride, 3);
+  uint32_t ret = 0;
+  ASSERT_EQ(1, Parse("StorageGroup", kova_test::Sample("StorageGroup"), &b, &ret));
+  EXPECT_EQ(2 * stride, ret);
+  const auto* g = reinterpret_cast<const StorageGroupRecord*>(b.data());
+  EXPECT_EQ(stride, g[0].size);
+  EXPECT_STREQ("Group1", g[0].name);
+  EXPECT_STREQ("All cameras", g[0].memo);
+  EXPECT_EQ(1, g[0].overWrite);
+  EXPECT_EQ(8, g[0].channelCount);
+  EXPECT_EQ(5000, g[0].channels[7].maxPictures);
+  EXPECT_EQ(0, g[0].channels[8].maxPictures);
+  EXPECT_EQ(30, g[1].fileHoldTime);
+  EXPECT_STREQ("/mnt/sata2", g[1].channels[3].path);
+  EXPECT_STREQ("/%y-%M-%d/%c/rec/%h/%h.%m.%s-%h.%m.%s.rec", g[1].recordPathRule);
+  // The slot without a group is cleared but keeps its size word.
+  EXPECT_EQ(stride, g[2].size);
+  EXPECT_EQ(0, g[2].channelCount);
+
+  EXPECT_EQ(kova_test::PackedText("StorageGroup"), Packed("StorageGroup", b, ret));
+  ExpectRoundTrip("StorageGroup", b, stride, ret);
+}
+
+TEST(StorageGroup, ChannelsAreCutTo1024AndEveryElementKeepsItsSlot) {
+  std::string channels = R"(null,{"MaxPictures":2},7)";
+  for (int i = 3; i < 1100; ++i) channels += R"(,{"MaxPictures":)" + std::to_string(i) + "}";
+  const uint32_t stride = sizeof(StorageGroupRecord);
+  std::vector<unsigned char> b = Slots(stride, 1);
+  uint32_t ret = 0;
+  ASSERT_EQ(1, Parse("StorageGroup", Doc(R"({"Channels":[)" + channels + "]}"), &b, &ret));
+  const auto* g = reinterpret_cast<const StorageGroupRecord*>(b.data());
+  EXPECT_EQ(stride, ret);  // a single object is one group
+  EXPECT_EQ(1024, g->channelCount);
+  EXPECT_EQ(0, g->channels[0].maxPictures);
+  EXPECT_EQ(2, g->channels[1].maxPictures);
+  EXPECT_EQ(0, g->channels[2].maxPictures);
+  EXPECT_EQ(1023, g->channels[1023].maxPictures);
+  const std::string text = Packed("StorageGroup", b, ret);
+  EXPECT_EQ(0u, text.find(R"([ { "Channels" : [ { "MaxPictures" : 0, "Path" : "" }, )"
+                          R"({ "MaxPictures" : 2, "Path" : "" }, { "MaxPictures" : 0, "Path" : "" }, )"));
+  ExpectRoundTrip("StorageGroup", b, stride, ret);
+}
+
+TEST(Raid, ArraysReadIntoCallerSizedRecordsAndPackBackToTheDevicesText) {
+  const uint32_t stride = sizeof(RaidRecord);
+  std::vector<unsigned char> b = Slots(stride, 2);
+  uint32_t ret = 0;
+  ASSERT_EQ(1, Parse("Raid", kova_test::Sample("Raid"), &b, &ret));
+  EXPECT_EQ(2 * stride, ret);
+  const auto* r = reinterpret_cast<const RaidRecord*>(b.data());
+  EXPECT_STREQ("md0", r[0].name);
+  EXPECT_EQ(5, r[0].level);
+  EXPECT_EQ(4, r[0].memberCount);
+  EXPECT_STREQ("/dev/sdd", r[0].members[3]);
+  EXPECT_EQ(2, r[1].memberCount);
+  EXPECT_STREQ("/dev/sdf", r[1].members[1]);
+  EXPECT_EQ(kova_test::PackedText("Raid"), Packed("Raid", b, ret));
+  ExpectRoundTrip("Raid", b, stride, ret);
+
+  // Members beyond 32 are cut; a member that is not a string keeps its slot, empty.
+  std::string members = R"("/dev/sda",5)";
+  for (int i = 2; i < 40; ++i) members += ",\"/dev/sd" + std::to_string(i) + "\"";
+  b = Slots(stride, 1);
+  ASSERT_EQ(1, Parse("Raid", Doc(R"([{"Name":"md9","Level":-1,"Members":[)" + members + "]}]"), &b,
+                     &ret));
+  r = reinterpret_cast<const RaidRecord*>(b.data());
+  EXPECT_EQ(-1, r->level);
+  EXPECT_EQ(32, r->memberCount);
+  EXPECT_STREQ("", r->members[1]);
+  EXPECT_STREQ("/dev/sd31", r->members[31]);
+  ExpectRoundTrip("Raid", b, stride, ret);
+}
+
+TEST(CallerSizedRecords, TheCallersSizeStepsBothWays) {
+  // A caller built with the record up to the channel count: each group is
+  // built whole and copied out as far as that size reaches.
+  const uint32_t shortStride = offsetof(StorageGroupRecord, channelCount);
+  std::vector<unsigned char> b = Slots(shortStride, 3);
+  uint32_t ret = 0;
+  ASSERT_EQ(1, Parse("StorageGroup", kova_test::Sample("StorageGroup"), &b, &ret));
+  EXPECT_EQ(2 * shortStride, ret);
+  EXPECT_EQ(shortStride, b.size() / 3);
+  EXPECT_EQ('G', b[shortStride + offsetof(StorageGroupRecord, name)]);
+  EXPECT_EQ('E', b[shortStride + offsetof(StorageGroupRecord, memo)]);
+  EXPECT_EQ(0, b[2 * shortStride + offsetof(StorageGroupRecord, name)]);
+  // What lies past the caller's size packs as zero: no channels.
+  const std::string text = Packed("StorageGroup", b, 2 * shortStride);
+  EXPECT_EQ(0u, text.find(R"([ { "Channels" : [  ], "FileHoldTime" : 0, "Memo" : "All cameras", )"));
+  EXPECT_NE(std::string::npos, text.find(R"(}, { "Channels" : [  ], "FileHoldTime" : 30, )"));
+
+  // An odd stride (records after the first are not aligned) and a larger
+  // one (a newer caller's record): only our record's bytes are written.
+  for (uint32_t stride : {static_cast<uint32_t>(sizeof(RaidRecord)) + 3,
+                          static_cast<uint32_t>(sizeof(RaidRecord)) + 64}) {
+    std::vector<unsigned char> raid = Slots(stride, 2);
+    ASSERT_EQ(1, Parse("Raid", kova_test::Sample("Raid"), &raid, &ret));
+    EXPECT_EQ(2 * stride, ret);
+    EXPECT_EQ('1', raid[stride + offsetof(RaidRecord, name) + 2]);
+    EXPECT_EQ(0, raid[stride - 1]);  // cleared, not written
+    EXPECT_EQ(kova_test::PackedText("Raid"), Packed("Raid", raid, 2 * stride));
+  }
+
+  // Refused: no size word, a size of 0, a size beyond the buffer, below one record.
+  struct Refusal {
+    uint32_t word;
+    uint32_t length;
+  };
+  const Refusal kRefused[] = {{0, 64}, {65, 64}, {8, 3}};
+  for (const Refusal& c : kRefused) {
+    std::vector<unsigned char> buf(c.length + 4, 0xEE);
+    std::memcpy(buf.data(), &c.word, 4);
+    const std::vector<unsigned char> before = buf;
+    for (const char* name : {"StorageGroup", "Raid"}) {
+      EXPECT_EQ(0, KOVA_ParseData(name, kova_test::Sample(name).c_str(), buf.data(), c.length, &ret))
+          << name << " " << c.word;
+      EXPECT_EQ(before, buf);
+      EXPECT_EQ("<failed>", PackBytes(name, buf.data(), c.length)) << name << " " << c.word;
+    }
+  }
+  // One-byte records across a whole record's bytes: more groups than the text could hold.
+  std::vector<unsigned char> tiny = Slots(1, sizeof(StorageGroupRecord));
+  EXPECT_EQ("<failed>", PackBytes("StorageGroup", tiny.data(), sizeof(StorageGroupRecord), 1u << 16));
+  // A result that is not true fails; a null table succeeds empty.
+  std::vector<unsigned char> one = Slots(sizeof(RaidRecord), 1);
+  EXPECT_EQ(0, Parse("Raid", R"({"result":0,"params":{"table":[]}})", &one, &ret));
+  ret = 77;
+  EXPECT_EQ(1, Parse("Raid", R"({"result":"ok","params":{"table":null}})", &one, &ret));
+  EXPECT_EQ(0u, ret);
+}
+
+TEST(RecordMode, ChannelsReadFromAnArrayOrOneObject) {
+  std::vector<RecordModeConfig> r(9, RecordModeConfig{-5, -5});
+  uint32_t ret = 0;
+  const std::string sample = kova_test::Sample("RecordMode");
+  ASSERT_EQ(1, KOVA_ParseData("RecordMode", sample.c_str(), r.data(), 9 * sizeof(RecordModeConfig),
+                              &ret));
+  EXPECT_EQ(8 * sizeof(RecordModeConfig), ret);
+  EXPECT_EQ(2, r[0].modeExtra1);
+  EXPECT_EQ(1, r[6].mode);
+  EXPECT_EQ(2, r[7].mode);
+  EXPECT_EQ(0, r[8].mode);  // cleared
+  const std::string text = PackBytes("RecordMode", r.data(), ret);
+  EXPECT_EQ(kova_test::PackedText("RecordMode"), text);
+  std::vector<RecordModeConfig> again(9);
+  ASSERT_EQ(1, KOVA_ParseData("RecordMode", Doc(text).c_str(), again.data(),
+                              9 * sizeof(RecordModeConfig), &ret));
+  EXPECT_EQ(0, std::memcmp(r.data(), again.data(), 8 * sizeof(RecordModeConfig)));
+
+  RecordModeConfig one = {};
+  ASSERT_EQ(1, KOVA_ParseData("RecordMode", Doc(R"({"Mode":1,"ModeExtra1":"2"})").c_str(), &one,
+                              sizeof one, &ret));
+  EXPECT_EQ(1, one.mode);
+  EXPECT_EQ(0, one.modeExtra1);
+  EXPECT_EQ("{ \"Mode\" : 1, \"ModeExtra1\" : 0 }\n", kova_test::Pack("RecordMode", one));
+  EXPECT_EQ("<failed>", PackBytes("RecordMode", &one, sizeof one - 1));
+}
+
+}  // namespace

@@ -1,0 +1,243 @@
+// "TrafficSnapshot" end to end.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "config/alarm/alarm_test_util.h"
+#include "kova/kova.h"
+#include "kova/records/traffic.h"
+
+namespace {
+
+using kova_test::Doc;
+using kova_test::NewRecord;
+using kova_test::Pack;
+using Record = TrafficSnapshotConfig;
+
+const char kName[] = "TrafficSnapshot";
+
+// Parses `json` into a fresh record; retLen starts at a value no call sets.
+std::unique_ptr<Record> Parse(const std::string& json, int* rc, uint32_t* ret) {
+  *ret = 0xFFFF;
+  return kova_test::ParseAs<Record>(kName, json, rc, ret);
+}
+
+bool AllZero(const void* p, size_t n) {
+  const unsigned char* b = static_cast<const unsigned char*>(p);
+  for (size_t i = 0; i < n; ++i) {
+    if (b[i] != 0) return false;
+  }
+  return true;
+}
+
+TEST(TrafficSnapshot, SampleReadsPacksBackAndReadsTheSame) {
+  int rc = 0;
+  uint32_t ret = 0;
+  std::unique_ptr<Record> r = Parse(kova_test::Sample(kName), &rc, &ret);
+  ASSERT_EQ(1, rc);
+  EXPECT_EQ(sizeof(Record), ret);
+  EXPECT_EQ(3, r->breakingSnapTimes.uTurn);
+  EXPECT_EQ(3, r->breakingSnapTimes.pedestrianPriority);
+  EXPECT_EQ(0, r->breakingSnapTimes.overYellowLine);  // not sent
+  EXPECT_EQ(25, r->radar.angle);
+  ASSERT_EQ(2, r->detector.laneCount);
+  const TrafficLane& left = r->detector.lanes[1];
+  EXPECT_EQ(3, left.coilConfigCount);
+  EXPECT_EQ(2, left.coilsDistanceCount);
+  EXPECT_EQ(300, left.coilsDistance[1]);
+  EXPECT_EQ(180, left.coilsWidth[2]);
+  EXPECT_EQ(40, left.bigCarSpeedLimit[1]);
+  EXPECT_STREQ("Ring Road West", left.drivingDirection[2]);
+  EXPECT_EQ(6.0f, r->largeVehicleLengthLevel[0]);
+  EXPECT_EQ(100, r->carThreshold);
+  EXPECT_EQ(6, r->osd.customizeSort.elementCount);
+  EXPECT_EQ(4, r->osd.general.newLine.everyItem);
+  EXPECT_STREQ("km/h", r->osd.customizeSort.elements[3].postfix);
+  EXPECT_EQ(1, r->eventHandler.snapshotEnable);
+  EXPECT_EQ(1, r->mergeOsdPresent);
+
+  const std::string packed = Pack(kName, *r);
+  EXPECT_EQ(kova_test::PackedText(kName), packed);
+  std::unique_ptr<Record> again = Parse(Doc(packed), &rc, &ret);
+  ASSERT_EQ(1, rc);
+  EXPECT_EQ(0, std::memcmp(r.get(), again.get(), sizeof(Record)));
+}
+
+// The whole caller buffer is cleared first; "result" is not looked at; only
+// a missing or null table fails.
+TEST(TrafficSnapshot, EnvelopeAndBuffer) {
+  struct Case {
+    const char* json;
+    int rc;
+  };
+  const Case cases[] = {
+      {R"({"result":false,"params":{"table":{"KeepAlive":9}}})", 1},
+      {R"({"params":{"table":5}})", 1},
+      {R"({"result":true,"params":{"table":null}})", 0},
+      {R"({"result":true,"params":{}})", 0},
+      {R"({"result":true,"params":{"table":{})", 0},
+  };
+  const size_t extra = 64;
+  std::vector<unsigned char> buf(sizeof(Record) + extra + 1);
+  // The record lives at an aligned address; the last byte lies past outLen.
+  for (const Case& c : cases) {
+    std::memset(buf.data(), 0xA5, buf.size());
+    uint32_t ret = 7;
+    EXPECT_EQ(c.rc, KOVA_ParseData(kName, c.json, buf.data(), sizeof(Record) + extra, &ret))
+        << c.json;
+    EXPECT_EQ(c.rc ? sizeof(Record) : 7u, ret) << c.json;
+    const Record* r = reinterpret_cast<const Record*>(buf.data());
+    EXPECT_EQ(c.rc && std::strstr(c.json, "KeepAlive") ? 9 : 0, r->keepAlive) << c.json;
+    EXPECT_TRUE(AllZero(buf.data() + sizeof(Record), extra)) << c.json;
+    EXPECT_EQ(0xA5, buf.back());
+  }
+  std::memset(buf.data(), 0xA5, buf.size());
+  EXPECT_EQ(0, KOVA_ParseData(kName, Doc("{}").c_str(), buf.data(), sizeof(Record) - 1, nullptr));
+  EXPECT_EQ(0xA5, buf[0]);
+}
+
+// The three sub-blocks are read first and in order; the first that is
+// neither null nor its JSON type stops the reading, and the call still
+// succeeds with the full size.
+TEST(TrafficSnapshot, AFailingSubBlockLeavesEveryLaterKeyZero) {
+  const std::string rest =
+      R"("Detector":[{"RoadwayNumber":4}],"KeepAlive":30,"OSD":{"OSDAttrScheme":2},)"
+      R"("EventHandler":{"RecordEnable":true})";
+  struct Case {
+    std::string blocks;
+    bool snapTimes, radar, later;
+  };
+  const Case cases[] = {
+      {R"("BreakingSnapTimes":{"Normal":2},"Radar":{"Level":3},)", true, true, true},
+      {R"("BreakingSnapTimes":null,"Radar":{"Level":3},)", false, true, true},
+      {R"("BreakingSnapTimes":{"Normal":2},"Radar":5,)", true, false, false},
+      {R"("BreakingSnapTimes":{"Normal":2},"Radar":[{"Level":3}],)", true, false, false},
+      {R"("BreakingSnapTimes":"all","Radar":{"Level":3},)", false, false, false},
+  };
+  for (const Case& c : cases) {
+    int rc = 0;
+    uint32_t ret = 0;
+    std::unique_ptr<Record> r = Parse(Doc("{" + c.blocks + rest + "}"), &rc, &ret);
+    ASSERT_EQ(1, rc) << c.blocks;
+    EXPECT_EQ(sizeof(Record), ret) << c.blocks;
+    EXPECT_EQ(c.snapTimes ? 2 : 0, r->breakingSnapTimes.normal) << c.blocks;
+    EXPECT_EQ(c.snapTimes, r->breakingSnapTimesPresent == 1) << c.blocks;
+    EXPECT_EQ(c.radar ? 3 : 0, r->radar.level) << c.blocks;
+    EXPECT_EQ(c.later ? 4 : 0, r->detector.lanes[0].roadwayNumber) << c.blocks;
+    EXPECT_EQ(c.later ? 30 : 0, r->keepAlive) << c.blocks;
+    EXPECT_EQ(c.later ? 2 : 0, r->osd.attrScheme) << c.blocks;
+    EXPECT_EQ(c.later ? 1 : 0, r->eventHandler.recordEnable) << c.blocks;
+    // What was not read is not packed either.
+    const std::string packed = Pack(kName, *r);
+    EXPECT_EQ(c.radar, packed.find("\"Radar\"") != std::string::npos) << c.blocks;
+    EXPECT_EQ(c.later, packed.find("\"EventHandler\"") != std::string::npos) << c.blocks;
+  }
+
+  // "Detector" is an array of lanes: an object fails it; an entry that is
+  // not an object is skipped.
+  int rc = 0;
+  uint32_t ret = 0;
+  std::unique_ptr<Record> r =
+      Parse(Doc(R"({"Detector":{"RoadwayNumber":4},"KeepAlive":30})"), &rc, &ret);
+  ASSERT_EQ(1, rc);
+  EXPECT_EQ(0, r->detectorPresent);
+  EXPECT_EQ(0, r->keepAlive);
+  r = Parse(Doc(R"({"Detector":[5,{"RoadwayNumber":4}],"KeepAlive":30})"), &rc, &ret);
+  EXPECT_EQ(1, r->detector.laneCount);
+  EXPECT_EQ(4, r->detector.lanes[0].roadwayNumber);
+  EXPECT_EQ(30, r->keepAlive);
+}
+
+// Pairs and the frame intervals take what the array has, element by element.
+TEST(TrafficSnapshot, ShortArraysFillWhatTheyHold) {
+  struct Case {
+    const char* table;
+    float large[2];
+    int32_t adaptive[2];
+    int32_t frames[3];
+  };
+  const Case cases[] = {
+      {R"({"LargeVehicleLengthLevel":[3.5]})", {3.5f, 0}, {0, 0}, {0, 0, 0}},
+      {R"({"LargeVehicleLengthLevel":[6,18,30],"AdaptiveSpeed":[40]})",
+       {6, 18},
+       {40, 0},
+       {0, 0, 0}},
+      {R"({"CustomFrameInterval":null})", {0, 0}, {0, 0}, {0, 0, 0}},
+      {R"({"CustomFrameInterval":"2,4,6"})", {0, 0}, {0, 0}, {0, 0, 0}},
+      {R"({"CustomFrameInterval":[7]})", {0, 0}, {0, 0}, {7, 0, 0}},
+      {R"({"CustomFrameInterval":[1,2,3,4]})", {0, 0}, {0, 0}, {1, 2, 3}},
+  };
+  for (const Case& c : cases) {
+    int rc = 0;
+    uint32_t ret = 0;
+    std::unique_ptr<Record> r = Parse(Doc(c.table), &rc, &ret);
+    ASSERT_EQ(1, rc) << c.table;
+    EXPECT_EQ(0, std::memcmp(c.large, r->largeVehicleLengthLevel, sizeof c.large)) << c.table;
+    EXPECT_EQ(0, std::memcmp(c.adaptive, r->adaptiveSpeed, sizeof c.adaptive)) << c.table;
+    EXPECT_EQ(0, std::memcmp(c.frames, r->customFrameInterval, sizeof c.frames)) << c.table;
+  }
+}
+
+TEST(TrafficSnapshot, DeviceAddressIsCutBeforeConversion) {
+  struct Case {
+    std::string address;
+    std::string kept;
+  };
+  const std::string a383(383, 'a');
+  const Case cases[] = {
+      {std::string(400, 'x'), std::string(384, 'x')},
+      {a383 + "\xC3\xA9" + "b", a383},  // the accent would straddle byte 384
+      {a383 + "b\xC3\xA9", a383 + "b"},
+  };
+  for (const Case& c : cases) {
+    int rc = 0;
+    uint32_t ret = 0;
+    std::unique_ptr<Record> r = Parse(Doc(R"({"DeviceAddress":")" + c.address + "\"}"), &rc, &ret);
+    ASSERT_EQ(1, rc);
+    EXPECT_EQ(c.kept, r->deviceAddress);
+  }
+}
+
+TEST(TrafficSnapshot, ValidUntilTime) {
+  int rc = 0;
+  uint32_t ret = 0;
+  std::unique_ptr<Record> r = Parse(Doc(R"({"ValidUntilTime":"2024-5-6 7:8:9"})"), &rc, &ret);
+  EXPECT_NE(std::string::npos, Pack(kName, *r).find(R"("ValidUntilTime" : "2024-05-06 07:08:09")"));
+  r = Parse(Doc(R"({"ValidUntilTime":"tomorrow"})"), &rc, &ret);
+  EXPECT_EQ(0u, r->validUntilTime);
+  EXPECT_EQ(std::string::npos, Pack(kName, *r).find("ValidUntilTime"));
+}
+
+// A cleared record packs its scalars and no block; the text is copied only
+// with its terminating NUL.
+TEST(TrafficSnapshot, PackOfAClearedRecord) {
+  std::unique_ptr<Record> r = NewRecord<Record>();
+  const std::string text = Pack(kName, *r);
+  // Reals are written "%#.16g": 0.0 is 0.000000000000000.
+  EXPECT_EQ(
+      R"({ "AdaptiveSpeed" : [ 0, 0 ], "CarScheme" : 0, "CarThreShold" : 0, "CarType" : 0, )"
+      R"("CustomFrameInterval" : [ 0, 0, 0 ], "DeviceAddress" : "", "FrameMode" : 0, )"
+      R"("KeepAlive" : 0, "LargeVehicleLengthLevel" : [ 0.000000000000000, 0.000000000000000 ], )"
+      R"("LongVehicleLengthLevel" : 0.000000000000000, "MaxSpeed" : 0, )"
+      R"("MediumVehicleLengthLevel" : [ 0.000000000000000, 0.000000000000000 ], )"
+      R"("MergeVideoTitleMask" : 0, "MergeVideoTitleMask1" : 0, )"
+      R"("MotoVehicleLengthLevel" : 0.000000000000000, "RedLightMargin" : 0, "RoadwayCode" : "", )"
+      R"("SigScheme" : 0, "SmallVehicleLengthLevel" : [ 0.000000000000000, 0.000000000000000 ], )"
+      R"("SnapMode" : 0, "SnapType" : 0, "TriggerSource" : 0, "VideoTitleMask" : 0, )"
+      R"("VideoTitleMask1" : 0, "WorkMode" : 0 })"
+      "\n",
+      text);
+
+  std::vector<char> out(text.size() + 1, 'x');
+  const uint32_t exact = static_cast<uint32_t>(text.size());
+  EXPECT_EQ(0, KOVA_PacketData(kName, r.get(), sizeof(Record), out.data(), exact));
+  EXPECT_TRUE(AllZero(out.data(), exact));
+  EXPECT_EQ(1, KOVA_PacketData(kName, r.get(), sizeof(Record), out.data(), exact + 1));
+  EXPECT_EQ(text, out.data());
+  EXPECT_EQ(0, KOVA_PacketData(kName, r.get(), sizeof(Record) - 1, out.data(), exact + 1));
+}
+
+}  // namespace

@@ -1,0 +1,420 @@
+// KOVA_ParseAnalyzerEventData: which events a notification delivers, in
+// what order, with which code and record.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "events/event_test_util.h"
+#include "harness/calls.h"
+#include "harness/documents.h"
+#include "kova/kova.h"
+#include "kova/records/events.h"
+
+namespace kova_test {
+namespace {
+
+const std::string kData = R"("Data":{"Name":"r","UTC":1716537610})";
+
+std::string Event(const std::string& code, const std::string& rest = kData) {
+  return R"({"Code":")" + code + "\"" + (rest.empty() ? "" : "," + rest) + "}";
+}
+
+std::string Repeat(const std::string& item, int n) {
+  std::string out;
+  for (int i = 0; i < n; ++i) out += (i == 0 ? "" : ",") + item;
+  return out;
+}
+
+struct Case {
+  const char* what;
+  std::string doc;
+  std::vector<uint32_t> codes;
+};
+
+TEST(EventStream, SelectsTheEventListAndTheEventsItDelivers) {
+  const std::string line = Event("CrossLineDetection");
+  const std::string region = Event("CrossRegionDetection");
+  const Case cases[] = {
+      {"empty list", R"({"Event":[]})", {}},
+      {"not JSON", "{\"Event\":[" + line, {}},
+      {"Event", "{\"Event\":[" + line + "," + region + "]}", {2, 3}},
+      {"Event wins over EventList", "{\"Event\":[" + line + "],\"EventList\":[" + region + "]}", {2}},
+      {"EventList when Event is null", "{\"Event\":null,\"EventList\":[" + region + "]}", {3}},
+      {"EventList when Event is missing", "{\"EventList\":[" + region + "]}", {3}},
+      {"an Event that is no array gives nothing",
+       "{\"Event\":" + line + ",\"EventList\":[" + region + "]}", {}},
+      {"notification", Notification(line + "," + region), {2, 3}},
+      {"notification ignored beside EventList",
+       R"({"EventList":[)" + region + R"(],"params":{"eventList":[)" + line + "]}}", {3}},
+      {"notification list that is no array", R"({"params":{"eventList":{"Code":"VideoBlind"}}})",
+       {}},
+      {"VideoBlind and SnapByTime come without data",
+       Notification(Event("VideoBlind", "") + "," + Event("SnapByTime", R"("Action":"Start")")),
+       {339, 356}},
+      {"other events without data are dropped",
+       Notification(Event("CrossLineDetection", "") + "," + Event("NoSuchEvent", "") + "," +
+                    Event("VideoLoss", R"("Data":null)")),
+       {}},
+      {"unknown code with data", Notification(Event("NoSuchEvent") + "," + "{" + kData + "}"), {0, 0}},
+      {"code compared without regard to case", Notification(Event("crosslineDETECTION")), {2}},
+      {"code that is not text", Notification(R"({"Code":2,)" + kData + "}"), {0}},
+      {"null and non-object entries", Notification("null,7,\"x\",[]," + line), {2}},
+      {"a code longer than 128 characters is cut",
+       Notification(Event("CrossLineDetection" + std::string(200, ' '))), {0}},
+  };
+  for (const Case& c : cases) {
+    int ret = 0;
+    EXPECT_EQ(c.codes, Codes(c.doc, false, &ret)) << c.what;
+    EXPECT_EQ(1, ret) << c.what;
+  }
+}
+
+TEST(EventStream, DataLessEventsComeWithANullRecordOfSizeZero) {
+  const std::vector<Delivery> d =
+      Deliveries(Notification(Event("VideoBlind", R"("Action":"Stop")")));
+  ASSERT_EQ(1u, d.size());
+  EXPECT_EQ(339u, d[0].code);
+  EXPECT_FALSE(d[0].hasRecord);
+  EXPECT_EQ(0u, d[0].size);
+}
+
+TEST(EventStream, AtMost128EntriesAreLookedAtInDocumentOrder) {
+  std::string many;
+  for (int i = 0; i < 129; ++i) {
+    many += (i == 0 ? "" : ",") + Event("LeftDetection", "\"Index\":" + std::to_string(i) + "," + kData);
+  }
+  std::vector<int32_t> channels;
+  ReadEvents(Notification(many), [&](uint32_t, const void* info, uint32_t) {
+    channels.push_back(static_cast<const EventCommon*>(info)->channel);
+  });
+  ASSERT_EQ(128u, channels.size());
+  for (int i = 0; i < 128; ++i) EXPECT_EQ(i, channels[i]);
+
+  // Null entries and dropped events count toward the 128.
+  const std::string skipped = Repeat("null", 64) + "," + Repeat(Event("CrossLineDetection", ""), 64);
+  EXPECT_TRUE(Codes(Notification(skipped + "," + Event("LeftDetection"))).empty());
+  EXPECT_EQ(std::vector<uint32_t>{5},
+            Codes(Notification(Repeat("null", 127) + "," + Event("LeftDetection"))));
+}
+
+TEST(EventStream, TheTextIsReadUpToItsTerminatorWhateverTheLength) {
+  const std::string doc = Notification(Event("LeftDetection"));
+  int calls = 0;
+  const Visit count = [&](uint32_t, const void*, uint32_t) { ++calls; };
+  for (uint32_t len : {0u, 5u, static_cast<uint32_t>(doc.size())}) {
+    EXPECT_EQ(1, KOVA_ParseAnalyzerEventData(doc.c_str(), len, CallVisit, const_cast<Visit*>(&count)));
+  }
+  EXPECT_EQ(3, calls);
+}
+
+TEST(EventStream, ActionIndexAndDictionaryCodeLeadEveryRecord) {
+  struct ActionCase {
+    const char* action;
+    int32_t value;
+  } const actions[] = {{"\"Pulse\"", KOVA_EVENT_PULSE}, {"\"Start\"", KOVA_EVENT_START},
+                       {"\"Stop\"", KOVA_EVENT_STOP},   {"\"stop\"", KOVA_EVENT_STOP},
+                       {"\"Begin\"", KOVA_EVENT_PULSE}, {"2", KOVA_EVENT_PULSE}};
+  for (const ActionCase& a : actions) {
+    int32_t action = -1;
+    ReadEvents(Notification(Event("LeftDetection", std::string("\"Action\":") + a.action + "," + kData)),
+               [&](uint32_t, const void* info, uint32_t) {
+                 action = static_cast<const EventCommon*>(info)->action;
+               });
+    EXPECT_EQ(a.value, action) << a.action;
+  }
+  std::vector<uint32_t> dictionary;
+  ReadEvents(Notification(Event("AudioAbnormalDetection") + "," + Event("StorageLowSpace") + "," +
+                          Event("storagelowspace") + "," + Event("HotPlug")),
+             [&](uint32_t, const void* info, uint32_t) {
+               dictionary.push_back(static_cast<const EventCommon*>(info)->dictionaryCode);
+             });
+  EXPECT_EQ((std::vector<uint32_t>{0x2178, 0x2145, 0, 0x2191}), dictionary);
+}
+
+TEST(EventStream, LineCrossingRecordHoldsEveryMemberOfItsData) {
+  int seen = 0;
+  ReadEvents(ReadSample("notify-crossing.json"), [&](uint32_t code, const void* info, uint32_t size) {
+    const CrossingEventInfo& e = *static_cast<const CrossingEventInfo*>(info);
+    ASSERT_EQ(sizeof(CrossingEventInfo), size);
+    ++seen;
+    if (code == 2) {
+      const EventCommon& c = e.common;
+      EXPECT_EQ(KOVA_EVENT_START, c.action);
+      EXPECT_EQ(0, c.channel);
+      EXPECT_EQ(0x2188u, c.dictionaryCode);
+      EXPECT_STREQ("Gate line", c.name);
+      EXPECT_DOUBLE_EQ(43204980000.0, c.pts);
+      EXPECT_EQ(4301u, c.eventId);
+      EXPECT_EQ(1716537610u, c.utc);
+      EXPECT_EQ(380u, c.utcMs);
+      EXPECT_EQ(1716537610u, c.initialUtc);
+      EXPECT_EQ(1, c.count);
+      EXPECT_EQ(4301u, c.groupId);
+      EXPECT_EQ(1, c.countInGroup);
+      EXPECT_EQ(1, c.indexInGroup);
+      EXPECT_EQ(1u, c.ruleId);
+      EXPECT_EQ(1u, c.objectPresent);
+      const EventObject& o = c.object;
+      EXPECT_EQ(4193, o.objectId);
+      EXPECT_STREQ("Human", o.objectType);
+      EXPECT_EQ(KOVA_OBJECT_APPEAR, o.action);
+      EXPECT_EQ(232, o.confidence);
+      EXPECT_EQ(3480, o.boundingBox.left);
+      EXPECT_EQ(4480, o.boundingBox.bottom);
+      EXPECT_EQ(3800, o.center.x);
+      EXPECT_EQ(3448, o.center.y);
+      EXPECT_EQ(771204u, o.frameSequence);
+      EXPECT_EQ(4, o.speed);
+      EXPECT_EQ(96, o.mainColor[2]);
+      EXPECT_EQ(48211u, o.image.length);
+      EXPECT_EQ(640u, o.image.height);
+      ASSERT_EQ(1u, c.objectCount);
+      EXPECT_EQ(4193, c.objects[0].objectId);
+      EXPECT_EQ(KOVA_CROSS_LEFT_TO_RIGHT, e.direction);
+      ASSERT_EQ(2u, e.detectLine.pointCount);
+      EXPECT_EQ(6890, e.detectLine.points[1].x);
+      EXPECT_EQ(3102, e.detectLine.points[1].y);
+      ASSERT_EQ(3u, e.trackCount);
+      EXPECT_EQ(3610, e.track[0].x);
+      EXPECT_EQ(3448, e.track[2].y);
+    } else if (code == 3) {
+      EXPECT_EQ(1, e.common.channel);
+      EXPECT_EQ(3u, e.common.ruleId);  // written "RuleID"
+      EXPECT_EQ(1716537611u, e.common.utc);  // a real number, truncated
+      EXPECT_EQ(KOVA_CROSS_ENTER, e.direction);
+      EXPECT_EQ(KOVA_REGION_APPEAR, e.regionAction);
+      EXPECT_EQ(4u, e.detectRegion.pointCount);
+      EXPECT_STREQ("Truck", e.common.object.category);
+      ASSERT_EQ(2u, e.common.objectCount);
+      EXPECT_STREQ("Human", e.common.objects[1].objectType);
+      EXPECT_EQ(0u, e.trackCount);  // "Track": null
+      EXPECT_EQ(nullptr, e.track);
+    } else {
+      EXPECT_EQ(287u, code);
+      EXPECT_EQ(KOVA_EVENT_STOP, e.common.action);
+      EXPECT_EQ(KOVA_CROSS_RIGHT_TO_LEFT, e.direction);
+      EXPECT_EQ(0u, e.common.objectCount);  // "Objects": []
+      EXPECT_EQ(nullptr, e.common.objects);
+      EXPECT_EQ(0u, e.trackCount);  // "Track": []
+    }
+  });
+  EXPECT_EQ(3, seen);
+}
+
+TEST(EventStream, PointEntriesFollowThePointRule) {
+  // A region entry that is not [x, y] keeps its slot; a track entry is skipped.
+  const std::string doc = Notification(Event(
+      "CrossRegionDetection",
+      R"("Data":{"DetectRegion":[[1,2],[5],null,[7,8,9]],"Track":[[1,2],[5],"x",[3,4]],)"
+      R"("Objects":[{"ObjectID":1},3,{"ObjectID":2}]})"));
+  ReadEvents(doc, [&](uint32_t, const void* info, uint32_t) {
+    const CrossingEventInfo& e = *static_cast<const CrossingEventInfo*>(info);
+    EXPECT_EQ(2u, e.detectRegion.pointCount);
+    EXPECT_EQ(0, e.detectRegion.points[1].x);
+    EXPECT_EQ(7, e.detectRegion.points[3].x);
+    ASSERT_EQ(2u, e.trackCount);
+    EXPECT_EQ(3, e.track[1].x);
+    ASSERT_EQ(2u, e.common.objectCount);
+    EXPECT_EQ(2, e.common.objects[1].objectId);
+  });
+}
+
+TEST(EventStream, TrafficRecordCarriesVehiclePlateLaneSpeedAndTheViolation) {
+  int seen = 0;
+  ReadEvents(ReadSample("notify-traffic.json"), [&](uint32_t code, const void* info, uint32_t size) {
+    ASSERT_EQ(sizeof(TrafficEventInfo), size);
+    const TrafficEventInfo& e = *static_cast<const TrafficEventInfo*>(info);
+    ++seen;
+    switch (code) {
+      case 23:
+        EXPECT_STREQ("A12345", e.common.object.text);
+        EXPECT_EQ(5002, e.common.object.relativeId);
+        EXPECT_EQ(1u, e.vehiclePresent);
+        EXPECT_STREQ("SaloonCar", e.vehicle.category);
+        EXPECT_EQ(255, e.vehicle.mainColor[0]);
+        EXPECT_EQ(2, e.lane);
+        EXPECT_EQ(47, e.speed);
+        EXPECT_EQ(1u, e.sequence);
+        EXPECT_STREQ("Blue", e.trafficCar.plateColor);
+        EXPECT_EQ(60, e.trafficCar.upperSpeedLimit);
+        EXPECT_STREQ("Ring Rd / 5th Ave, northbound", e.trafficCar.deviceAddress);
+        EXPECT_EQ(0u, e.commInfo.seatCount);
+        break;
+      case 262:
+        EXPECT_EQ(0, e.speedLimit[0]);
+        EXPECT_EQ(60, e.speedLimit[1]);
+        EXPECT_EQ(83, e.trafficCar.speed);
+        EXPECT_STREQ("1303", e.trafficCar.violationCode);
+        EXPECT_STREQ("Speeding 20-50%", e.trafficCar.violationDesc);
+        break;
+      case 312:
+        ASSERT_EQ(2u, e.commInfo.seatCount);
+        EXPECT_EQ(KOVA_SEAT_MAIN, e.commInfo.seats[0].type);
+        EXPECT_EQ(KOVA_BELT_UNFASTENED, e.commInfo.seats[0].safeBelt);
+        EXPECT_EQ(1u, e.commInfo.seats[0].calling);
+        EXPECT_EQ(0u, e.commInfo.seats[0].smoking);
+        EXPECT_EQ(KOVA_BELT_FASTENED, e.commInfo.seats[1].safeBelt);
+        EXPECT_EQ(1u, e.commInfo.seats[1].sunShade);
+        break;
+      case 256:
+        EXPECT_DOUBLE_EQ(1716550004.5, e.redLightUtc);
+        EXPECT_STREQ("Bus", e.vehicle.category);
+        break;
+      case 264:
+        EXPECT_EQ(240u, e.parkingTime);
+        EXPECT_EQ(0u, e.vehiclePresent);
+        break;
+      case 27:
+        EXPECT_EQ(180, e.jamLength);
+        EXPECT_EQ(0u, e.common.objectPresent);
+        break;
+      default:
+        ADD_FAILURE() << "unexpected code " << code;
+    }
+  });
+  EXPECT_EQ(6, seen);
+}
+
+TEST(EventStream, FaceCrowdPresenceAndAbnormalityRecords) {
+  ReadEvents(ReadSample("notify-face.json"), [&](uint32_t code, const void* info, uint32_t size) {
+    ASSERT_EQ(sizeof(FaceEventInfo), size);
+    const FaceEventInfo& e = *static_cast<const FaceEventInfo*>(info);
+    if (code == 26) {
+      EXPECT_EQ(KOVA_SEX_WOMAN, e.face.sex);
+      EXPECT_STREQ("NoMask", e.face.mask);
+      ASSERT_EQ(2u, e.faceCount);
+      EXPECT_EQ(311, e.faces[1].objectId);
+      EXPECT_EQ(0u, e.candidateCount);
+    } else {
+      ASSERT_EQ(2u, e.candidateCount);
+      EXPECT_EQ(93, e.candidates[0].similarity);
+      EXPECT_STREQ("Zhang Wei", e.candidates[0].person.name);
+      EXPECT_EQ(KOVA_SEX_MAN, e.candidates[0].person.sex);
+      EXPECT_STREQ("110101198302140031", e.candidates[0].person.id);
+      EXPECT_STREQ("Staff", e.candidates[1].person.groupName);
+      EXPECT_STREQ("", e.candidates[1].person.birthday);
+    }
+  });
+  ReadEvents(ReadSample("notify-crowd.json"), [&](uint32_t code, const void* info, uint32_t) {
+    const CrowdEventInfo& e = *static_cast<const CrowdEventInfo*>(info);
+    if (code == 16) {
+      EXPECT_EQ(52, e.number);
+      EXPECT_EQ(50, e.upperLimit);
+      EXPECT_EQ(311, e.enteredNumber);
+      EXPECT_EQ(259, e.exitedNumber);
+      EXPECT_STREQ("InsideOver", e.statType);
+    } else if (code == 15) {
+      EXPECT_EQ(17, e.numberLeft);
+      EXPECT_EQ(23, e.numberRight);
+    } else if (code == 274) {
+      EXPECT_EQ(14, e.speed);
+      EXPECT_EQ(3u, e.trackCount);
+    }
+  });
+  ReadEvents(ReadSample("notify-presence.json"), [&](uint32_t code, const void* info, uint32_t) {
+    const PresenceEventInfo& e = *static_cast<const PresenceEventInfo*>(info);
+    if (code == 7) {
+      EXPECT_EQ(185u, e.stayTime);
+      EXPECT_EQ(4u, e.trackCount);
+    }
+    if (code == 277) {
+      EXPECT_EQ(KOVA_OBJECT_REMOVE, e.common.object.action);
+    }
+  });
+  ReadEvents(ReadSample("notify-abnormal.json"), [&](uint32_t code, const void* info, uint32_t) {
+    if (info == nullptr) return;
+    const AbnormalityEventInfo& e = *static_cast<const AbnormalityEventInfo*>(info);
+    if (code == 19) {
+      EXPECT_STREQ("VideoCover", e.type);
+      EXPECT_EQ(87, e.value);
+    } else if (code == 294) {
+      EXPECT_EQ(92, e.decibel);
+      EXPECT_EQ(3150, e.frequency);
+    }
+  });
+}
+
+// Every family's record, with every list it has filled, delivered and
+// released: the sanitizer build's leak check fails the run if a release
+// routine misses what its builder allocated.
+TEST(EventStream, EveryFamilyGetsItsRecordAndGivesBackItsLists) {
+  const std::string data =
+      R"("Data":{"Name":"n","Object":{"ObjectID":1},"Objects":[{"ObjectID":2},{"ObjectID":3}],)"
+      R"("Faces":[{"ObjectID":4}],"Candidates":[{"Person":{"Name":"p"},"Similarity":50}],)"
+      R"("Track":[[1,2],[3,4]],"CommInfo":{"Seat":[{"Type":"Main"}]},"Vehicle":{"ObjectID":5},)"
+      R"("DetectRegion":[[0,0],[10,0],[10,10]]})";
+  const struct {
+    const char* code;
+    uint32_t value;
+    uint32_t size;
+  } families[] = {
+      {"CrossLineDetection", 2, sizeof(CrossingEventInfo)},
+      {"ClimbDetection", 296, sizeof(CrossingEventInfo)},
+      {"LeftDetection", 5, sizeof(PresenceEventInfo)},
+      {"StandUpDetection", 359, sizeof(PresenceEventInfo)},
+      {"RioterDetection", 11, sizeof(CrowdEventInfo)},
+      {"NumberStat", 16, sizeof(CrowdEventInfo)},
+      {"FaceRecognition", 279, sizeof(FaceEventInfo)},
+      {"TrafficWithoutSafeBelt", 312, sizeof(TrafficEventInfo)},
+      {"TrafficSnapshot", 25, sizeof(TrafficEventInfo)},
+      {"VehicleAnalyse", 514, sizeof(TrafficEventInfo)},
+      {"AudioAbnormalDetection", 294, sizeof(AbnormalityEventInfo)},
+      {"VideoBlind", 339, sizeof(AbnormalityEventInfo)},
+      {"FireDetection", 12, sizeof(GeneralEventInfo)},
+      {"StorageFailure", 347, sizeof(GeneralEventInfo)},
+      {"NoSuchEvent", 0, sizeof(EventCommon)},
+  };
+  std::string events;
+  for (const auto& f : families) events += (events.empty() ? "" : ",") + Event(f.code, data);
+  std::vector<Delivery> got;
+  ReadEvents(Notification(events), [&](uint32_t code, const void* info, uint32_t size) {
+    got.push_back({code, size, info != nullptr});
+    const EventCommon& c = *static_cast<const EventCommon*>(info);
+    EXPECT_EQ(2u, c.objectCount);
+    EXPECT_EQ(3, c.objects[1].objectId);
+  });
+  ASSERT_EQ(sizeof families / sizeof families[0], got.size());
+  for (size_t i = 0; i < got.size(); ++i) {
+    EXPECT_EQ(families[i].value, got[i].code) << families[i].code;
+    EXPECT_EQ(families[i].size, got[i].size) << families[i].code;
+  }
+}
+
+TEST(EventStream, CallsBackOnTheCallersThreadAndEachCallHasItsOwnLock) {
+  const std::string doc = Notification(Event("LeftDetection") + "," + Event("VideoBlind", ""));
+  const std::thread::id caller = std::this_thread::get_id();
+  int inner = 0;
+  int outer = 0;
+  // A callback may start another call (with its own parser object and lock)
+  // while its own call holds its lock.
+  ReadEvents(doc, [&](uint32_t, const void*, uint32_t) {
+    EXPECT_EQ(caller, std::this_thread::get_id());
+    ++outer;
+    inner += static_cast<int>(Codes(doc).size());
+  });
+  EXPECT_EQ(2, outer);
+  EXPECT_EQ(4, inner);
+}
+
+TEST(EventStream, HostileSampleNotificationsKeepTheCallbackContract) {
+  const std::vector<kova_harness::SampleDocument> samples =
+      kova_harness::LoadSampleDocuments({std::string(KOVA_SAMPLES_DIR) + "/events"});
+  ASSERT_FALSE(samples.empty());
+  for (const kova_harness::SampleDocument& s : samples) {
+    for (const std::string& value : kova_harness::HostileValues()) {
+      for (const std::string& doc : {kova_harness::ReplaceScalars(s.text, value),
+                                     kova_harness::ReplaceContainers(s.text, value)}) {
+        for (bool byCallback : {false, true}) {
+          const kova_harness::EventResult r =
+              kova_harness::CallEvents(doc, static_cast<uint32_t>(doc.size()), byCallback);
+          EXPECT_EQ("", r.violation) << s.path << " with " << value.substr(0, 40);
+        }
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kova_test

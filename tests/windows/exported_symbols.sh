@@ -1,0 +1,22 @@
+#!/bin/sh
+# Checks that kova.dll exports exactly the four entry points under their
+# plain names, and imports nothing but the system's DLLs (the C++ runtime,
+# libgcc, winpthreads and jsoncpp are linked in).
+set -eu
+dll="$1"
+objdump="$2"
+dump=$("$objdump" -p "$dll")
+got=$(printf '%s\n' "$dump" | awk '/\[Ordinal\/Name Pointer\] Table/ {on = 1; next}
+  on && /^\t\[ *[0-9]+\]/ {print $NF; next} on {on = 0}' | sort)
+want=$(printf '%s\n' KOVA_PacketData KOVA_ParseAnalyzerEventData KOVA_ParseData KOVA_ParseDataByCallback | sort)
+if [ "$got" != "$want" ]; then
+  echo "exported names differ"; echo "got:"; echo "$got"; echo "want:"; echo "$want"; exit 1
+fi
+imports=$(printf '%s\n' "$dump" | awk '/DLL Name:/ {print $3}' | sort -u)
+for name in $imports; do
+  case "$(printf '%s' "$name" | tr 'A-Z' 'a-z')" in
+    kernel32.dll | msvcrt.dll | user32.dll | advapi32.dll | api-ms-win-*) ;;
+    *) echo "kova.dll imports $name"; exit 1 ;;
+  esac
+done
+echo "exported: 4 names; imports:" $imports
