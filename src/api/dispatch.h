@@ -4,7 +4,8 @@
 // case-insensitive whole-name comparison, first match wins. An entry whose
 // translator is not built yet has a null function. The last
 // kDriverNameCount names of both lists are served by the table drivers, in
-// the same order as kDriverBindings.
+// the same order as kDriverBindings: all three are made from the one list
+// in driver_names.h.
 #ifndef KOVA_API_DISPATCH_H_
 #define KOVA_API_DISPATCH_H_
 
@@ -28,6 +29,9 @@ struct PackName {
   const char* name;
   PackFn pack;          // null: not built yet (or served by a driver binding)
   uint32_t recordSize;  // bytes of one record; 0 when not built (drivers: see the binding)
+  // An input of at least one byte but shorter than one record packs as
+  // "null" rather than being refused (the packer's frame says so too).
+  bool shortInputPacksNull = false;
 };
 
 // Settings of one configuration served by the table drivers. A null

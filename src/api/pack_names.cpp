@@ -2,13 +2,17 @@
 // An entry binds the translator and the size of one record (0 where the
 // name has no translator yet). Every name with both directions is also in the parse list.
 #include "api/dispatch.h"
+#include "api/driver_names.h"
 #include "api/translators.h"
 
 namespace kova {
 
+// A driver name's entry: bound through its driver binding, not here.
+#define KOVA_DRIVER_NAME_ENTRY(name, ...) {name, nullptr, 0},
+
 const PackName kPackNames[] = {
-    {"Encode", PackEncode, sizeof(EncodeConfig)},
-    {"Record", PackRecord, sizeof(RecordConfig)},
+    {"Encode", PackEncode, sizeof(EncodeConfig), true},
+    {"Record", PackRecord, sizeof(RecordConfig), true},
     {"Alarm", PackAlarm, sizeof(AlarmInRecord)},
     {"NetAlarm", PackNetAlarm, sizeof(NetAlarmRecord)},
     {"MotionDetect", PackMotionDetect, sizeof(MotionDetectRecord)},
@@ -219,47 +223,11 @@ const PackName kPackNames[] = {
     {"AudioOutEqualizer", nullptr, 0},
     {"AudioOutSuppression", nullptr, 0},
     {"AudioInControl", nullptr, 0},
-    {"ThermographyOptions", nullptr, 0},
-    {"ThermometryRule", nullptr, 0},
-    {"TemperatureStatistics", nullptr, 0},
-    {"HeatImagingThermometry", nullptr, 0},
-    {"TrafficSnapMosaic", nullptr, 0},
-    {"SceneSnapShotWithRule", nullptr, 0},
-    {"TSPoint", nullptr, 0},
-    {"VTHNumberInfo", nullptr, 0},
-    {"GPS", nullptr, 0},
-    {"VTOBasicInfo", nullptr, 0},
-    {"ShortcutCall", nullptr, 0},
-    {"GPSLocationVersion", nullptr, 0},
-    {"ParkingSpaceAccessFilter", nullptr, 0},
-    {"WorkTime", nullptr, 0},
-    {"ParkingSpaceLightGroup", nullptr, 0},
-    {"CustomAudio", nullptr, 0},
-    {"SheenRadar", nullptr, 0},
-    {"LightingSchedule", nullptr, 0},
-    {"AroudWifiSearch", nullptr, 0},
-    {"G3G4AutoChange", nullptr, 0},
-    {"CheckCode", nullptr, 0},
-    {"VSP_SCYDKD", nullptr, 0},
-    {"PowerUp", nullptr, 0},
-    {"VideoInDayNight", nullptr, 0},
-    {"AudioMixChannel", nullptr, 0},
-    {"AudioTouch", nullptr, 0},
-    {"VideoMosaic", nullptr, 0},
-    {"VTHRemoteIPCInfo", nullptr, 0},
-    {"WLan", nullptr, 0},
-    {"PSTNPersonServer", nullptr, 0},
-    {"ArmLink", nullptr, 0},
-    {"CabinLedTimeSchedule", nullptr, 0},
-    {"PSTNTestPlan", nullptr, 0},
-    {"DefenceArmMode", nullptr, 0},
-    {"SensorMode", nullptr, 0},
-    {"MasterSlaveGroup", nullptr, 0},
-    {"MasterSlaveGlobal", nullptr, 0},
-    {"AlarmLamp", nullptr, 0},
-    {"RadarSpeedMeasure", nullptr, 0},
-    {"LaserDistMeasure", nullptr, 0},
+    // The table-driver names close the list (driver_names.h).
+    KOVA_DRIVER_NAMES(KOVA_DRIVER_NAME_ENTRY)
 };
+
+#undef KOVA_DRIVER_NAME_ENTRY
 
 const size_t kPackNameCount = sizeof(kPackNames) / sizeof(kPackNames[0]);
 

@@ -1,8 +1,8 @@
 #include "drivers/response_frame.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
-#include <new>
 #include <vector>
 
 #include "common/json/json.h"
@@ -44,6 +44,7 @@ const Json::Value& TableOf(const ResponseFrame& f, const Json::Value& root) {
 void ClearOutput(const ResponseFrame& f, unsigned char* out, uint32_t outLen, uint32_t stride) {
   switch (f.clearing) {
     case Clearing::kNone:
+    case Clearing::kEachRecord:
       return;
     case Clearing::kWholeBuffer:
       std::memset(out, 0, outLen);
@@ -69,7 +70,8 @@ int ParseObjectMembers(const ResponseFrame& f, const Json::Value& root, const Js
       if (filled >= slots) break;
       const Json::Value& element = Member(table, name.c_str());
       if (!element.isObject()) continue;
-      const StepContext ctx{root, Member(root, "params"), filled, f.recordSize, name.c_str()};
+      const StepContext ctx{root, Member(root, "params"), filled, f.recordSize, name.c_str(),
+                            static_cast<int32_t>(filled)};
       unsigned char* record = out + static_cast<size_t>(filled) * f.recordSize;
       if (!f.parse(element, ctx, record)) {
         if (f.clearing != Clearing::kNone) std::memset(out, 0, static_cast<size_t>(slots) * f.recordSize);
@@ -117,6 +119,17 @@ int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRul
   return copied ? 1 : 0;
 }
 
+namespace {
+
+// Whether record i is worked in a copy: a slot shorter than the record, or
+// not aligned for it (caller-sized strides are arbitrary).
+bool NeedsCopy(const ResponseFrame& f, const unsigned char* slot, uint32_t stride) {
+  return stride < f.recordSize || reinterpret_cast<uintptr_t>(slot) % f.recordAlign != 0;
+}
+
+
+}  // namespace
+
 int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, uint32_t outLen,
                    uint32_t* retLen) {
   try {
@@ -142,6 +155,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
       return 0;
     }
     const Json::Value& table = TableOf(f, root);
+    const int32_t rootChannel = f.channelAtRoot ? ToInt32(Member(root, "channel")) : 0;
     if (table.isNull() && f.nullTable != NullTable::kStep) {
       switch (f.nullTable) {
         case NullTable::kFail:
@@ -150,7 +164,9 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
           ReportLength(f, retLen, 0);
           return 1;
         case NullTable::kAllZeroRecord:
-          if (f.clearing == Clearing::kNone) std::memset(out, 0, std::min(stride, outLen));
+          if (f.clearing == Clearing::kNone || f.clearing == Clearing::kEachRecord) {
+            std::memset(out, 0, std::min(stride, outLen));
+          }
           ReportLength(f, retLen, stride);
           return 1;
         case NullTable::kStep:
@@ -164,34 +180,37 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     }
     bool perElement = f.walk != RecordWalk::kOne && ListsChannels(f, table);
     if (f.walk != RecordWalk::kOne && f.channelAtRoot) {
-      perElement = ToInt32(Member(root, "channel")) < 0;
+      perElement = rootChannel < 0;
       if (perElement && !table.isArray()) return 0;
     }
-    const uint32_t n = perElement ? std::min(Count(table), slots) : 1;
-    // A caller's record shorter than ours is built in a scratch record and
-    // copied out as far as the caller's size reaches.
-    std::vector<unsigned char> scratch;
-    if (stride < f.recordSize) {
-      scratch.assign(f.recordSize, 0);
+    uint32_t n = perElement ? std::min(Count(table), slots) : 1;
+    if (!perElement && f.walk != RecordWalk::kOne && !f.channelAtRoot && !table.isArray()) {
+      // What a per-channel walk makes of a table that is not an array.
+      if (f.nonArray == NonArrayTable::kNoRecord) n = 0;
+      if (f.nonArray == NonArrayTable::kObjectOnly && !table.isObject()) n = 0;
     }
-    const StepContext ctxBase{root, Member(root, "params"), 0, f.recordSize, nullptr};
+    const Json::Value& params = Member(root, "params");
+    std::vector<unsigned char> copy;  // only for caller-sized slots that need one
     uint32_t filled = 0;
     for (uint32_t i = 0; i < n; ++i) {
       const Json::Value& element = perElement ? Element(table, i) : table;
       if (f.skipNullElements && element.isNull()) continue;
       unsigned char* slot = out + static_cast<size_t>(i) * stride;
+      if (f.clearing == Clearing::kEachRecord) std::memset(slot, 0, stride);
       unsigned char* record = slot;
-      if (!scratch.empty()) {
-        std::fill(scratch.begin(), scratch.end(), 0);
-        std::memcpy(scratch.data(), slot, std::min<size_t>(stride, sizeof(uint32_t)));
-        record = scratch.data();
+      if (NeedsCopy(f, slot, stride)) {
+        copy.assign(f.recordSize, 0);
+        std::memcpy(copy.data(), slot, std::min(stride, f.recordSize));
+        record = copy.data();
       }
-      const StepContext ctx{ctxBase.root, ctxBase.params, i, f.recordSize, nullptr};
+      const int32_t channel = perElement ? static_cast<int32_t>(i) : rootChannel;
+      const StepContext ctx{root, params, i, f.recordSize, nullptr,
+                            f.channelAtRoot ? channel : static_cast<int32_t>(i)};
       if (!f.parse(element, ctx, record)) {
         if (f.clearing != Clearing::kNone) ClearOutput(f, out, outLen, stride);
         return 0;
       }
-      if (!scratch.empty()) std::memcpy(slot, scratch.data(), stride);
+      if (record != slot) std::memcpy(slot, record, std::min(stride, f.recordSize));
       ++filled;
     }
     ReportLength(f, retLen, static_cast<uint64_t>(filled) * stride);
@@ -217,8 +236,7 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
     }
     const uint32_t n = f.packWalk == PackWalk::kOne ? 1 : inLen / stride;
     if (static_cast<uint64_t>(n) * f.minTextPerRecord > outLen) return 0;
-    std::vector<unsigned char> scratch;
-    if (stride < f.recordSize) scratch.assign(f.recordSize, 0);
+    std::vector<unsigned char> copy;  // only for caller-sized slots that need one
 
     Json::Value root;
     const bool members = f.packWalk == PackWalk::kObjectMembers;
@@ -229,10 +247,10 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
     if (members) root = Json::Value(Json::objectValue);
     for (uint32_t i = 0; i < n; ++i) {
       const unsigned char* record = in + static_cast<size_t>(i) * stride;
-      if (!scratch.empty()) {
-        std::fill(scratch.begin(), scratch.end(), 0);
-        std::memcpy(scratch.data(), record, stride);
-        record = scratch.data();
+      if (NeedsCopy(f, record, stride)) {
+        copy.assign(f.recordSize, 0);
+        std::memcpy(copy.data(), record, std::min(stride, f.recordSize));
+        record = copy.data();
       }
       Json::Value& target = array ? SetElement(root, i) : root;  // members: the one object
       if (!f.pack(record, target)) {

@@ -8,21 +8,26 @@
 //
 // A configuration states its frame once:
 //
-//   constexpr ResponseFrame kFrame = ResponseFrame::For<NtpRecord>(ParseNtp, PackNtp)
-//                                        .Walk(RecordWalk::kPerChannel)
-//                                        .IgnoreResult();
+//   constexpr ResponseFrame kFrame =
+//       ResponseFrame::For<NtpRecord>(ParseTableStep<kNtp>, PackTableStep<kNtp>)
+//           .Walk(RecordWalk::kPerChannel)
+//           .IgnoreResult();
 //   int ParseNtpConfig(const char* t, void* o, uint32_t n, uint32_t* r) {
 //     return ParseWithFrame(kFrame, t, o, n, r);
 //   }
 //
 // Steps work on the record in place: the caller's buffer is aligned for its
-// records (the public contract) and was cleared before the step runs.
+// records (the public contract) and, unless the frame says otherwise, was
+// cleared before the step runs. A caller-sized slot shorter than the record,
+// or not aligned for it, is worked in a copy.
 #ifndef KOVA_DRIVERS_RESPONSE_FRAME_H_
 #define KOVA_DRIVERS_RESPONSE_FRAME_H_
 
 #include <json/value.h>
 
 #include <cstdint>
+
+#include "common/fields/field_table.h"
 
 namespace kova {
 
@@ -33,6 +38,9 @@ struct StepContext {
   uint32_t index;             // record index in the walk
   uint32_t recordBytes;       // bytes of the record the step may touch
   const char* memberName;     // RecordWalk::kObjectMembers: the element's member name, else null
+  // The record's channel: the root's "channel" for a one-record answer
+  // read with ChannelAtRoot(), else `index`.
+  int32_t channel;
 };
 
 // One record from one JSON element. false fails the whole parse.
@@ -56,8 +64,11 @@ enum class NullTable : uint8_t {
   kAllZeroRecord,  // success with one cleared record
   kStep,           // the step reads the null table like any other and fills record 0
 };
-// How the caller's buffer is cleared before the text is read.
-enum class Clearing : uint8_t { kWholeBuffer, kRecords, kNone };
+// How the caller's buffer is cleared: before the text is read (the whole
+// buffer, or its whole records), not at all, or each record just before its
+// step runs (a record built zeroed and filled: nothing is written when the
+// envelope is refused).
+enum class Clearing : uint8_t { kWholeBuffer, kRecords, kNone, kEachRecord };
 enum class RecordWalk : uint8_t {
   kOne,          // the table fills record 0
   kPerChannel,   // an array fills record i from element i (as many as fit); anything else record 0
@@ -67,11 +78,17 @@ enum class RecordWalk : uint8_t {
   // record. Anything but an object fills nothing.
   kObjectMembers,
 };
+// What a per-channel or caller-sized walk does with a table that is not an array.
+enum class NonArrayTable : uint8_t {
+  kOneRecord,   // it fills record 0, whatever it is
+  kObjectOnly,  // an object fills record 0, anything else no record
+  kNoRecord,    // no record (success, returned length 0)
+};
 // What `retLen` receives.
 enum class ReturnedLength : uint8_t {
-  kSetBytes,    // set to the bytes of the records filled
-  kAddBytes,    // increased by them
-  kSetRecord,   // set to one record's size whenever the parse succeeds
+  kSetBytes,   // set to the bytes of the records filled
+  kAddBytes,   // increased by them
+  kSetRecord,  // set to one record's size whenever the parse succeeds
 };
 // When packed text is copied: its length at most, or strictly less than, the output size.
 enum class CopyRule : uint8_t { kAtMost, kStrictlyLess };
@@ -87,6 +104,7 @@ enum class PackWalk : uint8_t {
 
 struct ResponseFrame {
   uint32_t recordSize = 0;
+  uint32_t recordAlign = 1;  // a caller's slot not aligned for the record is worked in a copy
   ParseStep parse = nullptr;
   PackStep pack = nullptr;
   ResultRule result = ResultRule::kMustBeTrue;
@@ -118,11 +136,13 @@ struct ResponseFrame {
   // records than the output could hold is refused before any is packed.
   uint32_t minTextPerRecord = 0;
   bool refuseEmptyText = false;  // an empty text fails before anything is cleared
+  NonArrayTable nonArray = NonArrayTable::kOneRecord;
 
   template <typename Rec>
   static constexpr ResponseFrame For(ParseStep p, PackStep k) {
     ResponseFrame f;
     f.recordSize = static_cast<uint32_t>(sizeof(Rec));
+    f.recordAlign = static_cast<uint32_t>(alignof(Rec));
     f.parse = p;
     f.pack = k;
     return f;
@@ -156,6 +176,7 @@ struct ResponseFrame {
   }
   constexpr ResponseFrame MinTextPerRecord(uint32_t n) const { auto f = *this; f.minTextPerRecord = n; return f; }
   constexpr ResponseFrame RefuseEmptyText() const { auto f = *this; f.refuseEmptyText = true; return f; }
+  constexpr ResponseFrame NonArray(NonArrayTable n) const { auto f = *this; f.nonArray = n; return f; }
 };
 
 // 1 on success, 0 on failure. Never writes past `outLen`; on failure the
@@ -163,10 +184,23 @@ struct ResponseFrame {
 // cleared again).
 int ParseWithFrame(const ResponseFrame& frame, const char* jsonText, void* outBuf, uint32_t outLen,
                    uint32_t* retLen);
-// 1 on success, 0 on failure. Never reads past `inLen`; `outJson` is cleared
-// first and stays cleared on failure.
+// 1 on success, 0 on failure. Never reads past `inLen`; an empty input is
+// refused; `outJson` is cleared first and stays cleared on failure.
 int PackWithFrame(const ResponseFrame& frame, const void* inBuf, uint32_t inLen, char* outJson,
                   uint32_t outLen);
+
+// Steps of a record that is one field table: the element's members through
+// the walker, and back.
+template <const FieldTable& kTable>
+bool ParseTableStep(const Json::Value& element, const StepContext& /*ctx*/, unsigned char* record) {
+  ParseFields(element, record, kTable);
+  return true;
+}
+template <const FieldTable& kTable>
+bool PackTableStep(const unsigned char* record, Json::Value& out) {
+  PackFields(record, out, kTable);
+  return true;
+}
 
 // The caller's record size from the first record's leading uint32: 0 when
 // the buffer cannot hold the size word, or the size is 0 or above `len`.

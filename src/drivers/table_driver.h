@@ -12,12 +12,26 @@
 
 #include <cstdint>
 
+#include "common/fields/field_table.h"
+
 namespace kova {
 
 // Fills one record from one JSON element; the result is ignored.
 using RecordParser = int (*)(const Json::Value& element, void* record);
 // Writes one record into one JSON value; the result is ignored.
 using RecordPacker = int (*)(const void* record, Json::Value& target);
+
+// Per-record routines of a record that is one field table.
+template <const FieldTable& kTable>
+int ParseTableRecord(const Json::Value& element, void* record) {
+  ParseFields(element, record, kTable);
+  return 1;
+}
+template <const FieldTable& kTable>
+int PackTableRecord(const void* record, Json::Value& target) {
+  PackFields(record, target, kTable);
+  return 1;
+}
 
 // Returns 1 on success, 0 on failure.
 // - `outLen` below `recordSize`: 0, nothing written.

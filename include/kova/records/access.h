@@ -21,7 +21,8 @@ typedef struct ABLockGroup {
 // Parse does not clear the record first: a member the device leaves out
 // leaves its field as the caller had it, except the three presence flags
 // and `accessProperty`, which are always set. A response whose "table" is
-// null succeeds without touching the record and reports 0 bytes.
+// null succeeds without touching the record and reports 0 bytes; otherwise
+// `retLen` is set to the record's size.
 // Text fields are converted from the device's UTF-8 to the local code page
 // and back; a field filled to its capacity without a terminator is read up
 // to its capacity on pack.

@@ -12,6 +12,9 @@
 extern "C" {
 #endif
 
+// "AlarmLamp" and "DefenceArmMode" are served by the table drivers: parse
+// clears the whole buffer first and adds 4 to `retLen` for the record.
+
 // "AlarmLamp": the alarm lamp's working mode.
 // "Mode" 0, 1 or 2 is stored as is; any other value, and a document without
 // "Mode", stores -1. On pack a mode outside 0..2 writes no member at all, so

@@ -1,5 +1,7 @@
 // Records of the encode configuration family: "Encode", "EncodePlan",
 // "VideoEncodeROI", "DspEncodeCap", "EncodeAdapt" and "SmartEncode".
+// Every parser of the family sets `retLen` (when not null) to the bytes of
+// the records it filled.
 //
 // Enumerations are stored as indices into the family's tables:
 //   video compression  0 "MPEG4", 1 "MS-MPEG4", 2 "MPEG2", 3 "MPEG1", 4 "H.263", 5 "MJPG",
@@ -36,40 +38,40 @@ extern "C" {
 // 21 "5M"/"3744x1408", 22 "3M"/"2048x1536", 23 "5_0M"/"2432x2048",
 // 24 "1_2M"/"1216x1024", 27 "5_1M"/"2560x1920".
 typedef enum EncodeImageSize {
-  kImageSizeD1 = 0,
-  kImageSizeHD1 = 1,
-  kImageSizeBCIF = 2,
-  kImageSizeCIF = 3,
-  kImageSizeQCIF = 4,
-  kImageSizeVGA = 5,
-  kImageSizeQVGA = 6,
-  kImageSizeSVCD = 7,
-  kImageSizeQQVGA = 8,
-  kImageSizeSVGA = 9,
-  kImageSizeXVGA = 10,
-  kImageSizeWXGA = 11,
-  kImageSizeSXGA = 12,
-  kImageSizeWSXGA = 13,
-  kImageSizeUXGA = 14,
-  kImageSizeWUXGA = 15,
-  kImageSizeND1 = 16,
-  kImageSize720 = 17,
-  kImageSize1080 = 18,
-  kImageSize1_3M = 19,
-  kImageSize2_5M = 20,
-  kImageSize5M = 21,
-  kImageSize3M = 22,
-  kImageSize5_0M = 23,
-  kImageSize1_2M = 24,
-  kImageSize1408x1024 = 25,
-  kImageSize3296x2472 = 26,
-  kImageSize5_1M = 27,
-  kImageSize960H = 28,
-  kImageSizeDV720P = 29,
-  kImageSize2560x1600 = 30,
-  kImageSize2336x1752 = 31,
-  kImageSize2592x2048 = 32,
-  kImageSizeUnknown = 33,
+  KOVA_IMAGE_SIZE_D1 = 0,
+  KOVA_IMAGE_SIZE_HD1 = 1,
+  KOVA_IMAGE_SIZE_BCIF = 2,
+  KOVA_IMAGE_SIZE_CIF = 3,
+  KOVA_IMAGE_SIZE_QCIF = 4,
+  KOVA_IMAGE_SIZE_VGA = 5,
+  KOVA_IMAGE_SIZE_QVGA = 6,
+  KOVA_IMAGE_SIZE_SVCD = 7,
+  KOVA_IMAGE_SIZE_QQVGA = 8,
+  KOVA_IMAGE_SIZE_SVGA = 9,
+  KOVA_IMAGE_SIZE_XVGA = 10,
+  KOVA_IMAGE_SIZE_WXGA = 11,
+  KOVA_IMAGE_SIZE_SXGA = 12,
+  KOVA_IMAGE_SIZE_WSXGA = 13,
+  KOVA_IMAGE_SIZE_UXGA = 14,
+  KOVA_IMAGE_SIZE_WUXGA = 15,
+  KOVA_IMAGE_SIZE_ND1 = 16,
+  KOVA_IMAGE_SIZE_720 = 17,
+  KOVA_IMAGE_SIZE_1080 = 18,
+  KOVA_IMAGE_SIZE_1_3M = 19,
+  KOVA_IMAGE_SIZE_2_5M = 20,
+  KOVA_IMAGE_SIZE_5M = 21,
+  KOVA_IMAGE_SIZE_3M = 22,
+  KOVA_IMAGE_SIZE_5_0M = 23,
+  KOVA_IMAGE_SIZE_1_2M = 24,
+  KOVA_IMAGE_SIZE_1408X1024 = 25,
+  KOVA_IMAGE_SIZE_3296X2472 = 26,
+  KOVA_IMAGE_SIZE_5_1M = 27,
+  KOVA_IMAGE_SIZE_960H = 28,
+  KOVA_IMAGE_SIZE_DV720P = 29,
+  KOVA_IMAGE_SIZE_2560X1600 = 30,
+  KOVA_IMAGE_SIZE_2336X1752 = 31,
+  KOVA_IMAGE_SIZE_2592X2048 = 32,
+  KOVA_IMAGE_SIZE_UNKNOWN = 33,
 } EncodeImageSize;
 
 // ---------------------------------------------------------------------------
@@ -145,12 +147,15 @@ typedef struct EncodeFormat {
 // Parse: "channel" at the root of the response selects the mode. Absent or
 // not negative: "table" is one channel's object, filled into record 0 with
 // `channel` set to that number. Negative: "table" must be an array, element
-// i fills record i (as many as the buffer holds) with `channel` i. A null
-// "table" succeeds with a returned length of 0. Of each format array the
-// first three elements are read; a slot without an element keeps its bytes.
+// i fills record i (as many as the buffer holds) with `channel` i. `retLen`
+// is set to the bytes of the records filled; a null "table" succeeds with 0.
+// Of each format array the first three elements are read; a slot without an
+// element keeps its bytes.
 //
 // Pack: exactly one record gives one object, more give an array (a trailing
-// partial record is ignored), less than one record is refused. Each object
+// partial record is ignored, but one record and a few bytes is an array of
+// one). An input shorter than one record packs as "null" without being read;
+// an empty input is refused. Each object
 // holds three-element "MainFormat", "ExtraFormat" and "SnapFormat" arrays;
 // `channel` and `layoutVersion` are not written. The text is copied when its
 // length (without the terminating zero) does not exceed the output size; when
@@ -216,9 +221,9 @@ typedef struct EncodeRoiConfig {
 // `encodeModeMask` video compression i.
 
 enum {
-  kDspMaskListMax = 32,    // one entry per image size a 32-bit mask can name
-  kDspImageSizeMax = 64,   // names in "ImageSize" / "ImageSize_Assi"
-  kDspResolutionMax = 64,  // entries in "Resolution" / "Resolution_1"
+  KOVA_DSP_MASK_LIST_MAX = 32,   // one entry per image size a 32-bit mask can name
+  KOVA_DSP_IMAGE_SIZE_MAX = 64,  // names in "ImageSize" / "ImageSize_Assi"
+  KOVA_DSP_RESOLUTION_MAX = 64,  // entries in "Resolution" / "Resolution_1"
 };
 
 // One element of "Resolution": {"Width": w, "Height": h}.
@@ -237,22 +242,25 @@ typedef struct DspEncodeCapRecord {
   uint32_t imageSizeMask;      // "ImageSizeMask": main-stream image sizes
   uint32_t encodeCap;          // "EncodeCap": device-defined encode capability level
   uint32_t streamCap;          // "StreamCap": bit 0 main, bits 1-3 extra 1-3, bit 4 snapshot
-  uint32_t imageSizeMaskAssiCount;                  // elements held in `imageSizeMaskAssi`
-  uint32_t imageSizeMaskAssi[kDspMaskListMax];      // "ImageSizeMask_Assi": element i, the extra-
-                                                    // stream sizes allowed with main size i
-  uint32_t maxFrameOfImageSizeCount;                // elements held in `maxFrameOfImageSize`
-  uint32_t maxFrameOfImageSize[kDspMaskListMax];    // "MaxFrameOfImageSize": element i, the
-                                                    // highest frame rate at image size i
-  uint32_t imageSizeCount;                          // names held in `imageSize`
-  int32_t imageSize[kDspImageSizeMax];              // "ImageSize": main-stream sizes by name
-  uint32_t imageSizeAssiCount;                      // names held in `imageSizeAssi`
-  int32_t imageSizeAssi[kDspImageSizeMax];          // "ImageSize_Assi": extra-stream sizes by name
-  int32_t resolutionNum;                            // "ResolutionNum", as the device gives it
-  uint32_t resolutionCount;                         // elements held in `resolution`
-  EncodeResolution resolution[kDspResolutionMax];   // "Resolution": main-stream resolutions
-  int32_t resolutionNum1;                           // "ResolutionNum_1"
-  uint32_t resolution1Count;                        // elements held in `resolution1`
-  EncodeResolution resolution1[kDspResolutionMax];  // "Resolution_1": extra-stream resolutions
+  uint32_t imageSizeMaskAssiCount;  // elements held in `imageSizeMaskAssi`
+  // "ImageSizeMask_Assi": element i, the extra-stream sizes allowed with main size i
+  uint32_t imageSizeMaskAssi[KOVA_DSP_MASK_LIST_MAX];
+  uint32_t maxFrameOfImageSizeCount;  // elements held in `maxFrameOfImageSize`
+  // "MaxFrameOfImageSize": element i, the highest frame rate at image size i
+  uint32_t maxFrameOfImageSize[KOVA_DSP_MASK_LIST_MAX];
+  uint32_t imageSizeCount;                     // names held in `imageSize`
+  int32_t imageSize[KOVA_DSP_IMAGE_SIZE_MAX];  // "ImageSize": main-stream sizes by name
+  uint32_t imageSizeAssiCount;                 // names held in `imageSizeAssi`
+  // "ImageSize_Assi": extra-stream sizes by name
+  int32_t imageSizeAssi[KOVA_DSP_IMAGE_SIZE_MAX];
+  int32_t resolutionNum;    // "ResolutionNum", as the device gives it
+  uint32_t resolutionCount;  // elements held in `resolution`
+  // "Resolution": main-stream resolutions
+  EncodeResolution resolution[KOVA_DSP_RESOLUTION_MAX];
+  int32_t resolutionNum1;     // "ResolutionNum_1"
+  uint32_t resolution1Count;  // elements held in `resolution1`
+  // "Resolution_1": extra-stream resolutions
+  EncodeResolution resolution1[KOVA_DSP_RESOLUTION_MAX];
 } DspEncodeCapRecord;
 
 // ---------------------------------------------------------------------------

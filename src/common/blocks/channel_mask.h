@@ -6,8 +6,9 @@
 
 #include <json/value.h>
 
-#include <cstddef>
 #include <cstdint>
+
+#include "common/fields/field_table.h"
 
 namespace kova {
 
@@ -16,11 +17,13 @@ constexpr uint32_t kMaskWords = 16;
 
 // How the device's channel numbers are read.
 enum class ChannelRule : uint8_t {
-  // Only 0..511 set a bit; anything else is skipped.
+  // Only 0..511 set a bit; anything else is skipped. The set counts as
+  // given only when it is an array.
   kInRange,
   // The device's own reading of tour and matrix channels: -31..-1 also set
   // bit 32 + c of the first word (a signed remainder masked to 5 bits).
-  // Lower numbers would address words before the set and are skipped.
+  // Lower numbers would address words before the set and are skipped. The
+  // set counts as given whatever it holds (not null).
   kWrapNegative,
 };
 
@@ -30,30 +33,34 @@ enum class EmptySet : uint8_t {
   kNull,  // the member is written as null
 };
 
-// One channel set of a record: its key, the offset of its uint32[16] words,
-// and the offset of its one-byte presence flag.
-struct ChannelSetField {
-  const char* key;
-  uint32_t offset;
-  uint32_t presence;
-  ChannelRule rule;
-  EmptySet empty;
-};
-
 // Reads at most 512 items of `channels` (an array; anything else sets
 // nothing) into `words`, OR-ing bits in.
 void ParseChannelMask(const Json::Value& channels, ChannelRule rule, uint32_t words[16]);
 // The set channel numbers, ascending, as an array of unsigned integers.
 Json::Value PackChannelMask(const uint32_t words[16]);
 
-// Parse: a set given as an array (for kWrapNegative: given at all, not
-// null) is marked present and read. Pack: each flagged set is written, an
-// empty one as its `empty` rule says.
-void ParseChannelSets(const Json::Value& obj, void* record, const ChannelSetField* sets,
-                      size_t count);
-void PackChannelSets(const void* record, Json::Value& obj, const ChannelSetField* sets,
-                     size_t count);
+// Custom steps of a channel-set member (uint32_t[16]) in a field table; the
+// field's flag is its presence flag. Use KOVA_CHANNEL_SET.
+template <ChannelRule kRule>
+void ParseChannelSet(const Json::Value& obj, unsigned char* record, const Field& f);
+template <EmptySet kEmpty>
+void PackChannelSet(const unsigned char* record, Json::Value& obj, const Field& f);
+
+extern template void ParseChannelSet<ChannelRule::kInRange>(const Json::Value&, unsigned char*,
+                                                            const Field&);
+extern template void ParseChannelSet<ChannelRule::kWrapNegative>(const Json::Value&, unsigned char*,
+                                                                 const Field&);
+extern template void PackChannelSet<EmptySet::kOmit>(const unsigned char*, Json::Value&,
+                                                     const Field&);
+extern template void PackChannelSet<EmptySet::kNull>(const unsigned char*, Json::Value&,
+                                                     const Field&);
 
 }  // namespace kova
+
+// A channel set in a field table:
+//   KOVA_CHANNEL_SET(Rec, recordChannels, "RecordChannels", kInRange, kOmit).Flag(...)
+#define KOVA_CHANNEL_SET(Rec, member, key, RULE, EMPTY)                             \
+  KOVA_CUSTOM(Rec, member, key, ::kova::ParseChannelSet<::kova::ChannelRule::RULE>, \
+              ::kova::PackChannelSet<::kova::EmptySet::EMPTY>)
 
 #endif  // KOVA_COMMON_CHANNEL_MASK_H_

@@ -5,10 +5,9 @@
 
 #include "common/blocks/channel_mask.h"
 #include "common/blocks/event_handler_lists.h"
-#include "common/fields/field_table.h"
-#include "common/fields/fields.h"
-#include "common/json/json.h"
 #include "common/blocks/time_schedule.h"
+#include "common/fields/field_table.h"
+#include "common/json/json.h"
 
 namespace kova {
 
@@ -16,259 +15,191 @@ namespace {
 
 using R = EventHandlerRecord;
 
-// Which way a scalar member travels.
-enum class Way : uint8_t {
-  kBoth,
-  kParseOnly,
-  kPackOnly,
-  // Always read (a missing member stores 0) and always flagged present.
-  kAlwaysParsed,
-};
+// present[i], the one-byte flag of most members.
+#define EH_AT(index) KOVA_AT_ITEM(R, present, index)
 
-struct ScalarField {
-  Field field;
-  Way way;
-};
+constexpr const char* kTourSplitNames[] = {"Split1", "Split8"};
+constexpr EnumNames kTourSplits = EnumNames::Of(kTourSplitNames).OmitUnnamed();
 
-constexpr Field WithFlag(Field f, size_t flagOffset, uint32_t flagSize) {
-  return f.Flag(Slot{static_cast<uint32_t>(flagOffset), flagSize});
-}
-
-// A member flagged in present[index].
-#define EH_SCALAR(key, member, kind, index, way)                                                  \
-  ScalarField {                                                                                   \
-    WithFlag(KOVA_F(R, member, key, kind), offsetof(R, present) + (index), \
-             1),                                                                                  \
-        Way::way                                                                                  \
-  }
-// As EH_SCALAR, for a member that packs as true only when it holds 1.
-#define EH_SCALAR_ONE(key, member, kind, index, way)                                         \
-  ScalarField {                                                                              \
-    WithFlag(KOVA_F(R, member, key, kind).PackBoolEqualsOne(), offsetof(R, present) + (index), 1), \
-        Way::way                                                                             \
-  }
-// A member flagged in a presence field of its own.
-#define EH_SCALAR_F(key, member, kind, flag) \
-  ScalarField { KOVA_F(R, member, key, kind).Flag(KOVA_AT(R, flag)), Way::kBoth }
-// A member without a presence flag.
-#define EH_SCALAR_N(key, member, kind, way) \
-  ScalarField { KOVA_F(R, member, key, kind), Way::way }
-
-const char* const kTourSplitNames[] = {"Split1", "Split8"};
-const EnumNames kTourSplits = {kTourSplitNames, 2, false, 0, false, 0, true};
-
-const ScalarField kScalars[] = {
-    EH_SCALAR("RecordEnable", recordEnable, kBool, KOVA_EH_RECORD_ENABLE, kAlwaysParsed),
-    EH_SCALAR("AlarmOutEnable", alarmOutEnable, kBool, KOVA_EH_ALARM_OUT_ENABLE, kAlwaysParsed),
-    EH_SCALAR("RecordLatch", recordLatch, kInt, KOVA_EH_RECORD_LATCH, kBoth),
-    EH_SCALAR("AlarmOutLatch", alarmOutLatch, kInt, KOVA_EH_ALARM_OUT_LATCH, kBoth),
-    EH_SCALAR("ExAlarmOutEnable", exAlarmOutEnable, kBool, KOVA_EH_EX_ALARM_OUT_ENABLE, kBoth),
-    EH_SCALAR("PtzLinkEnable", ptzLinkEnable, kBool, KOVA_EH_PTZ_LINK_ENABLE, kBoth),
-    // Read as a boolean, but only a stored 1 packs as true.
-    EH_SCALAR_ONE("TourEnable", tourEnable, kBool, KOVA_EH_TOUR_ENABLE, kBoth),
-    EH_SCALAR("SnapshotEnable", snapshotEnable, kBool, KOVA_EH_SNAPSHOT_ENABLE, kBoth),
-    EH_SCALAR("SnapshotPeriod", snapshotPeriod, kInt, KOVA_EH_SNAPSHOT_PERIOD, kBoth),
-    EH_SCALAR("SnapshotTimes", snapshotTimes, kInt, KOVA_EH_SNAPSHOT_TIMES, kBoth),
-    EH_SCALAR("TipEnable", tipEnable, kBool, KOVA_EH_TIP_ENABLE, kBoth),
-    EH_SCALAR("MailEnable", mailEnable, kBool, KOVA_EH_MAIL_ENABLE, kBoth),
-    EH_SCALAR("MessageEnable", messageEnable, kBool, KOVA_EH_MESSAGE_ENABLE, kBoth),
-    EH_SCALAR("BeepEnable", beepEnable, kBool, KOVA_EH_BEEP_ENABLE, kBoth),
-    EH_SCALAR("VoiceEnable", voiceEnable, kBool, KOVA_EH_VOICE_ENABLE, kBoth),
-    // Read as integers, packed as booleans true only for 1.
-    EH_SCALAR_ONE("MatrixEnable", matrixEnable, kInt, KOVA_EH_MATRIX_ENABLE, kBoth),
-    EH_SCALAR("Dejitter", dejitter, kInt, KOVA_EH_DEJITTER, kBoth),
-    EH_SCALAR("LogEnable", logEnable, kBool, KOVA_EH_LOG_ENABLE, kBoth),
-    EH_SCALAR("Delay", delay, kInt, KOVA_EH_DELAY, kBoth),
-    // The device never reports it; callers set it to switch the overlay on.
-    EH_SCALAR_ONE("OnVideoMessageEn", onVideoMessageEnable, kBool, KOVA_EH_ON_VIDEO_MESSAGE_EN,
-              kPackOnly),
-    EH_SCALAR("MMSEnable", mmsEnable, kBool, KOVA_EH_MMS_ENABLE, kBoth),
-    EH_SCALAR_ONE("MessageToNetEnable", messageToNetEnable, kInt,
-              KOVA_EH_MESSAGE_TO_NET_ENABLE, kBoth),
-    EH_SCALAR("SnapshotTitleEnable", snapshotTitleEnable, kBool, KOVA_EH_SNAPSHOT_TITLE_ENABLE,
-              kBoth),
-    EH_SCALAR("VideoTitleEnable", videoTitleEnable, kBool, KOVA_EH_VIDEO_TITLE_ENABLE, kBoth),
-    EH_SCALAR("JpegSummary", jpegSummary, kTextRaw, KOVA_EH_JPEG_SUMMARY, kBoth),
-    EH_SCALAR_ONE("FlashEnable", flashEnable, kBool, KOVA_EH_FLASH_ENABLE, kBoth),
-    EH_SCALAR("FlashLatch", flashLatch, kInt, KOVA_EH_FLASH_LATCH, kBoth),
-    EH_SCALAR_F("AlarmBellEnable", alarmBellEnable, kBool, alarmBellEnablePresent),
-    EH_SCALAR_F("AccessControlEnable", accessControlEnable, kBool, accessControlEnablePresent),
-    EH_SCALAR_F("AlarmBellLatch", alarmBellLatch, kInt, alarmBellLatchPresent),
-    // Channel hints the device reports but does not accept back.
-    EH_SCALAR_N("SDK_RecordChannel", sdkRecordChannel, kInt, kParseOnly),
-    EH_SCALAR_N("SDK_AlarmOutChannel", sdkAlarmOutChannel, kInt, kParseOnly),
-    ScalarField{WithFlag(KOVA_ENUM(R, tourSplit, "TourSplit", kTourSplits),
-                         offsetof(R, present) + KOVA_EH_TOUR_SPLIT, 1),
-                Way::kParseOnly},
-};
-
-#undef EH_SCALAR
-#undef EH_SCALAR_F
-#undef EH_SCALAR_ONE
-#undef EH_SCALAR_N
-
-#define EH_CHANNELS(key, member, index, rule, empty)                                              \
-  ChannelSetField {                                                                               \
-    key, static_cast<uint32_t>(offsetof(R, member)),                                              \
-        static_cast<uint32_t>(offsetof(R, present) + (index)), ChannelRule::rule, EmptySet::empty \
-  }
-
-// Empty output sets are written as null (the device then clears them);
-// the other sets are left out when empty.
-const ChannelSetField kChannelSets[] = {
-    EH_CHANNELS("RecordChannels", recordChannels, KOVA_EH_RECORD_CHANNELS, kInRange, kOmit),
-    EH_CHANNELS("AlarmOutChannels", alarmOutChannels, KOVA_EH_ALARM_OUT_CHANNELS, kInRange, kNull),
-    EH_CHANNELS("ExAlarmOutChannels", exAlarmOutChannels, KOVA_EH_EX_ALARM_OUT_CHANNELS, kInRange,
-                kNull),
-    EH_CHANNELS("TourChannels", tourChannels, KOVA_EH_TOUR_CHANNELS, kWrapNegative, kOmit),
-    EH_CHANNELS("SnapshotChannels", snapshotChannels, KOVA_EH_SNAPSHOT_CHANNELS, kInRange, kOmit),
-    EH_CHANNELS("MatrixChannels", matrixChannels, KOVA_EH_MATRIX_CHANNELS, kWrapNegative, kOmit),
-};
-
-#undef EH_CHANNELS
-
-// "MailDetail" members, read when present and always written with it; an
-// attachment type without a name is left out.
-const char* const kAttachmentNames[] = {"picture", "video"};
-const EnumNames kAttachmentTypes = {kAttachmentNames, 2, false, 0, false, 0, true};
-const Field kMailDetail[] = {
+// "MailDetail": read when given (whatever it holds), its members always
+// written with it; an attachment type without a name is left out.
+constexpr const char* kAttachmentNames[] = {"picture", "video"};
+constexpr EnumNames kAttachmentTypes = EnumNames::Of(kAttachmentNames).OmitUnnamed();
+constexpr Field kMailDetailFields[] = {
     KOVA_ENUM(R, mailAttachmentType, "AttachmentType", kAttachmentTypes),
     KOVA_F(R, mailMaxSize, "MaxSize", kInt),
     KOVA_F(R, mailMaxTimeLength, "MaxTimeLength", kInt),
 };
+constexpr FieldTable kMailDetail = KOVA_TABLE(kMailDetailFields);
 
-void ParseScalars(const Json::Value& obj, R* r) {
-  for (const ScalarField& s : kScalars) {
-    if (s.way == Way::kPackOnly) continue;
-    if (s.way == Way::kAlwaysParsed && Member(obj, s.field.key).isNull()) {
-      // Always marked present, a missing member reading as false.
-      unsigned char* base = reinterpret_cast<unsigned char*>(r);
-      StoreInt(base + s.field.offset, s.field.size, 0);
-      StoreInt(base + s.field.flag.offset, s.field.flag.size, 1);
-      continue;
-    }
-    ParseFields(obj, r, &s.field, 1);
-  }
-}
+// "Voice": only its "AudioFileName" is flagged.
+constexpr Field kVoiceFields[] = {
+    KOVA_F(R, audioFileName, "AudioFileName", kText).Flag(KOVA_AT(R, voicePresent)),
+};
+constexpr FieldTable kVoice = KOVA_TABLE(kVoiceFields);
 
-void PackScalars(const R& r, Json::Value& obj) {
-  for (const ScalarField& s : kScalars) {
-    if (s.way == Way::kParseOnly) continue;
-    PackFields(&r, obj, &s.field, 1);
-  }
-}
+// "Talkback": "Caller" and "CallProtocol" each have one name, for 0; any
+// other text leaves the field as it was, and any other value packs as null.
+constexpr const char* kCallerNames[] = {"Device"};
+constexpr EnumNames kCallers = EnumNames::Of(kCallerNames).Exact();
+constexpr const char* kCallProtocolNames[] = {"Cellular"};
+constexpr EnumNames kCallProtocols = EnumNames::Of(kCallProtocolNames).Exact();
+constexpr Field kTalkbackFields[] = {
+    KOVA_F(R, callEnable, "CallEnable", kBool).AlwaysRead(),
+    KOVA_ENUM(R, caller, "Caller", kCallers).UnnamedAs(Unnamed::kNull),
+    KOVA_ENUM(R, callProtocol, "CallProtocol", kCallProtocols).UnnamedAs(Unnamed::kNull),
+};
+constexpr FieldTable kTalkback = KOVA_TABLE(kTalkbackFields);
 
-// Texts of "Talkback" that have one stored value each; any other text
-// leaves the field as it was.
-void ParseNamedZero(const Json::Value& v, const char* name, int32_t* field) {
-  char text[16];
-  GetJsonString(v, text, sizeof text, 1);
-  if (std::strcmp(text, name) == 0) *field = 0;
-}
+// "PSTNAlarmServer": eight destinations read, each cut to one byte.
+constexpr Field kDestination = KOVA_ITEM(uint8_t, kUInt);
+constexpr Field kPstnFields[] = {
+    KOVA_F(R, needReport, "NeedReport", kBool).AlwaysRead(),
+    KOVA_LIST(R, destinations, "Destination", kDestination)
+        .Count(KOVA_AT(R, destinationCount), CountRule::kAll)
+        .KeepSlots()
+        .ParseOnly(),
+    // Packed from an uncut count: intended (see PackDestinations).
+    KOVA_CUSTOM(R, destinations, "Destination", nullptr, PackDestinations),
+};
+constexpr FieldTable kPstn = KOVA_TABLE(kPstnFields);
 
-void ParseTalkback(const Json::Value& talkback, R* r) {
-  r->talkbackPresent = 1;
-  r->callEnable = ToBool(Member(talkback, "CallEnable")) ? 1 : 0;
-  ParseNamedZero(Member(talkback, "Caller"), "Device", &r->caller);
-  ParseNamedZero(Member(talkback, "CallProtocol"), "Cellular", &r->callProtocol);
-}
+constexpr Field kTourChannel = KOVA_ITEM(int32_t, kInt);
+constexpr Field kDbString = KOVA_ITEM(char[KOVA_EH_DB_LENGTH], kText);
 
-void PackTalkback(const R& r, Json::Value& obj) {
-  Json::Value& talkback = SetMember(obj, "Talkback");
-  SetMember(talkback, "CallEnable") = r.callEnable != 0;
-  SetMember(talkback, "Caller") = r.caller == 0 ? Json::Value("Device") : Json::Value();
-  SetMember(talkback, "CallProtocol") =
-      r.callProtocol == 0 ? Json::Value("Cellular") : Json::Value();
-}
+// "MonitorTour" entries. The split-mode names belong to the video-output
+// configuration, which has no table yet: every name is unknown (split left
+// as it was) and no value has a name (nothing written).
+constexpr EnumNames kSplitModes = EnumNames{}.OmitUnnamed();
+constexpr Field kMonitorTourFields[] = {
+    KOVA_F(MonitorTourEntry, enable, "Enable", kBool),
+    KOVA_ENUM(MonitorTourEntry, split, "Split", kSplitModes),
+    KOVA_LIST(MonitorTourEntry, channels, "Channels", kTourChannel)
+        .Count(KOVA_AT(MonitorTourEntry, channelCount), CountRule::kAll)
+        .KeepSlots(),
+};
 
-void ParsePstnAlarmServer(const Json::Value& server, R* r) {
-  r->pstnAlarmServerPresent = 1;
-  r->needReport = ToBool(Member(server, "NeedReport")) ? 1 : 0;
-  const Json::Value& destinations = Member(server, "Destination");
-  if (!destinations.isArray()) return;
-  const uint32_t n = CutCount(static_cast<int32_t>(Count(destinations)), KOVA_EH_MAX_DESTINATIONS);
-  r->destinationCount = static_cast<int32_t>(n);
-  for (uint32_t i = 0; i < n; ++i) {
-    r->destinations[i] = static_cast<uint8_t>(ToUInt32(Element(destinations, i)));
-  }
-}
+}  // namespace
+}  // namespace kova
 
-void PackPstnAlarmServer(const R& r, Json::Value& obj) {
-  Json::Value& server = SetMember(obj, "PSTNAlarmServer");
-  SetMember(server, "NeedReport") = r.needReport != 0;
-  Json::Value& destinations = SetMember(server, "Destination");
-  destinations = Json::Value(Json::arrayValue);
-  // The count is deliberately not cut to 8 when packing: bytes beyond the
-  // eight destinations are taken from what follows them, but never from
-  // beyond the end of the record.
-  const size_t at = offsetof(EventHandlerRecord, destinations);
-  const uint32_t n = CutCount(r.destinationCount, EntriesToRecordEnd(at, 1));
-  const unsigned char* base = reinterpret_cast<const unsigned char*>(&r);
-  for (uint32_t i = 0; i < n; ++i) destinations.append(Json::Value(base[at + i]));
-}
+KOVA_DESCRIBE(MonitorTourEntry, kMonitorTourFields)
 
-bool Given(const Json::Value& v) { return !v.isNull(); }
+namespace kova {
 
-// Every member but "TimeSection".
-void ParseMembers(const Json::Value& obj, EventHandlerRecord* r) {
-  ParseScalars(obj, r);
-  ParseChannelSets(obj, r, kChannelSets, sizeof kChannelSets / sizeof kChannelSets[0]);
+namespace {
 
-  const Json::Value& ptzLink = Member(obj, "PtzLink");
-  if (ptzLink.isArray()) ParsePtzLinks(ptzLink, r);
+constexpr Field kMonitorTour = KOVA_ITEM_NESTED(MonitorTourEntry);
 
-  const Json::Value& snapshotTitle = Member(obj, "SnapshotTitle");
-  if (snapshotTitle.isArray()) {
-    r->present[KOVA_EH_SNAPSHOT_TITLE] = 1;
-    ParseTitles(snapshotTitle, r->snapshotTitles, &r->snapshotTitleCount);
-  }
-  const Json::Value& videoTitle = Member(obj, "VideoTitle");
-  if (videoTitle.isArray()) {
-    r->present[KOVA_EH_VIDEO_TITLE] = 1;
-    ParseTitles(videoTitle, r->videoTitles, &r->videoTitleCount);
-  }
+// The block but its schedule. Each member travels with its presence flag.
+constexpr Field kEventHandlerFields[] = {
+    // Always read (missing reads as false) and always marked present.
+    KOVA_F(R, recordEnable, "RecordEnable", kBool).Flag(EH_AT(KOVA_EH_RECORD_ENABLE)).AlwaysRead(),
+    KOVA_F(R, alarmOutEnable, "AlarmOutEnable", kBool)
+        .Flag(EH_AT(KOVA_EH_ALARM_OUT_ENABLE))
+        .AlwaysRead(),
+    KOVA_F(R, recordLatch, "RecordLatch", kInt).Flag(EH_AT(KOVA_EH_RECORD_LATCH)),
+    KOVA_F(R, alarmOutLatch, "AlarmOutLatch", kInt).Flag(EH_AT(KOVA_EH_ALARM_OUT_LATCH)),
+    KOVA_F(R, exAlarmOutEnable, "ExAlarmOutEnable", kBool).Flag(EH_AT(KOVA_EH_EX_ALARM_OUT_ENABLE)),
+    KOVA_F(R, ptzLinkEnable, "PtzLinkEnable", kBool).Flag(EH_AT(KOVA_EH_PTZ_LINK_ENABLE)),
+    // Read as a boolean, but only a stored 1 packs as true.
+    KOVA_F(R, tourEnable, "TourEnable", kBool).Flag(EH_AT(KOVA_EH_TOUR_ENABLE)).PackBoolEqualsOne(),
+    KOVA_F(R, snapshotEnable, "SnapshotEnable", kBool).Flag(EH_AT(KOVA_EH_SNAPSHOT_ENABLE)),
+    KOVA_F(R, snapshotPeriod, "SnapshotPeriod", kInt).Flag(EH_AT(KOVA_EH_SNAPSHOT_PERIOD)),
+    KOVA_F(R, snapshotTimes, "SnapshotTimes", kInt).Flag(EH_AT(KOVA_EH_SNAPSHOT_TIMES)),
+    KOVA_F(R, tipEnable, "TipEnable", kBool).Flag(EH_AT(KOVA_EH_TIP_ENABLE)),
+    KOVA_F(R, mailEnable, "MailEnable", kBool).Flag(EH_AT(KOVA_EH_MAIL_ENABLE)),
+    KOVA_F(R, messageEnable, "MessageEnable", kBool).Flag(EH_AT(KOVA_EH_MESSAGE_ENABLE)),
+    KOVA_F(R, beepEnable, "BeepEnable", kBool).Flag(EH_AT(KOVA_EH_BEEP_ENABLE)),
+    KOVA_F(R, voiceEnable, "VoiceEnable", kBool).Flag(EH_AT(KOVA_EH_VOICE_ENABLE)),
+    // Read as integers, packed as booleans true only for 1.
+    KOVA_F(R, matrixEnable, "MatrixEnable", kInt)
+        .Flag(EH_AT(KOVA_EH_MATRIX_ENABLE))
+        .PackBoolEqualsOne(),
+    KOVA_F(R, dejitter, "Dejitter", kInt).Flag(EH_AT(KOVA_EH_DEJITTER)),
+    KOVA_F(R, logEnable, "LogEnable", kBool).Flag(EH_AT(KOVA_EH_LOG_ENABLE)),
+    KOVA_F(R, delay, "Delay", kInt).Flag(EH_AT(KOVA_EH_DELAY)),
+    // The device never reports it; callers set it to switch the overlay on.
+    KOVA_F(R, onVideoMessageEnable, "OnVideoMessageEn", kBool)
+        .Flag(EH_AT(KOVA_EH_ON_VIDEO_MESSAGE_EN))
+        .PackBoolEqualsOne()
+        .PackOnly(),
+    KOVA_F(R, mmsEnable, "MMSEnable", kBool).Flag(EH_AT(KOVA_EH_MMS_ENABLE)),
+    KOVA_F(R, messageToNetEnable, "MessageToNetEnable", kInt)
+        .Flag(EH_AT(KOVA_EH_MESSAGE_TO_NET_ENABLE))
+        .PackBoolEqualsOne(),
+    KOVA_F(R, snapshotTitleEnable, "SnapshotTitleEnable", kBool)
+        .Flag(EH_AT(KOVA_EH_SNAPSHOT_TITLE_ENABLE)),
+    KOVA_F(R, videoTitleEnable, "VideoTitleEnable", kBool).Flag(EH_AT(KOVA_EH_VIDEO_TITLE_ENABLE)),
+    KOVA_F(R, jpegSummary, "JpegSummary", kTextRaw).Flag(EH_AT(KOVA_EH_JPEG_SUMMARY)),
+    KOVA_F(R, flashEnable, "FlashEnable", kBool)
+        .Flag(EH_AT(KOVA_EH_FLASH_ENABLE))
+        .PackBoolEqualsOne(),
+    KOVA_F(R, flashLatch, "FlashLatch", kInt).Flag(EH_AT(KOVA_EH_FLASH_LATCH)),
+    KOVA_F(R, alarmBellEnable, "AlarmBellEnable", kBool).Flag(KOVA_AT(R, alarmBellEnablePresent)),
+    KOVA_F(R, accessControlEnable, "AccessControlEnable", kBool)
+        .Flag(KOVA_AT(R, accessControlEnablePresent)),
+    KOVA_F(R, alarmBellLatch, "AlarmBellLatch", kInt).Flag(KOVA_AT(R, alarmBellLatchPresent)),
+    // Channel hints the device reports but does not accept back.
+    KOVA_F(R, sdkRecordChannel, "SDK_RecordChannel", kInt).ParseOnly(),
+    KOVA_F(R, sdkAlarmOutChannel, "SDK_AlarmOutChannel", kInt).ParseOnly(),
+    KOVA_ENUM(R, tourSplit, "TourSplit", kTourSplits).Flag(EH_AT(KOVA_EH_TOUR_SPLIT)).ParseOnly(),
 
-  const Json::Value& mailDetail = Member(obj, "MailDetail");
-  if (Given(mailDetail)) {
-    r->present[KOVA_EH_MAIL_DETAIL] = 1;
-    ParseFields(mailDetail, r, kMailDetail);
-  }
+    // Empty output sets are written as null (the device then clears them);
+    // the other sets are left out when empty.
+    KOVA_CHANNEL_SET(R, recordChannels, "RecordChannels", kInRange, kOmit)
+        .Flag(EH_AT(KOVA_EH_RECORD_CHANNELS)),
+    KOVA_CHANNEL_SET(R, alarmOutChannels, "AlarmOutChannels", kInRange, kNull)
+        .Flag(EH_AT(KOVA_EH_ALARM_OUT_CHANNELS)),
+    KOVA_CHANNEL_SET(R, exAlarmOutChannels, "ExAlarmOutChannels", kInRange, kNull)
+        .Flag(EH_AT(KOVA_EH_EX_ALARM_OUT_CHANNELS)),
+    KOVA_CHANNEL_SET(R, tourChannels, "TourChannels", kWrapNegative, kOmit)
+        .Flag(EH_AT(KOVA_EH_TOUR_CHANNELS)),
+    KOVA_CHANNEL_SET(R, snapshotChannels, "SnapshotChannels", kInRange, kOmit)
+        .Flag(EH_AT(KOVA_EH_SNAPSHOT_CHANNELS)),
+    KOVA_CHANNEL_SET(R, matrixChannels, "MatrixChannels", kWrapNegative, kOmit)
+        .Flag(EH_AT(KOVA_EH_MATRIX_CHANNELS)),
 
-  const Json::Value& monitorTour = Member(obj, "MonitorTour");
-  if (monitorTour.isArray()) ParseMonitorTours(monitorTour, r);
+    KOVA_CUSTOM(R, ptzLinks, "PtzLink", ParsePtzLinks, PackPtzLinks).Flag(EH_AT(KOVA_EH_PTZ_LINK)),
+    KOVA_CUSTOM(R, snapshotTitles, "SnapshotTitle", ParseTitles, PackTitles)
+        .Flag(EH_AT(KOVA_EH_SNAPSHOT_TITLE))
+        .Count(KOVA_AT(R, snapshotTitleCount), CountRule::kAll),
+    KOVA_CUSTOM(R, videoTitles, "VideoTitle", ParseTitles, PackTitles)
+        .Flag(EH_AT(KOVA_EH_VIDEO_TITLE))
+        .Count(KOVA_AT(R, videoTitleCount), CountRule::kAll),
+    KOVA_GROUP(R, "MailDetail", kMailDetail).Flag(EH_AT(KOVA_EH_MAIL_DETAIL)).AnyType(),
+    KOVA_LIST(R, monitorTours, "MonitorTour", kMonitorTour)
+        .Flag(EH_AT(KOVA_EH_MONITOR_TOUR))
+        .Count(KOVA_AT(R, monitorTourCount), CountRule::kAll)
+        .KeepSlots(),
+    // A "DB" given with another type is flagged, with no strings.
+    KOVA_LIST(R, db, "DB", kDbString)
+        .Flag(EH_AT(KOVA_EH_DB))
+        .Count(KOVA_AT(R, dbCount), CountRule::kAll)
+        .KeepSlots()
+        .AnyType(),
+    KOVA_CUSTOM(R, accessControlOperations, "AccessControls", ParseAccessControls,
+                PackAccessControls)
+        .Flag(KOVA_AT(R, accessControlsPresent)),
+    KOVA_GROUP(R, "Voice", kVoice).WhenAnySet(KOVA_AT(R, voicePresent)),
+    KOVA_GROUP(R, "Talkback", kTalkback).Flag(KOVA_AT(R, talkbackPresent)).AnyType(),
+    KOVA_GROUP(R, "PSTNAlarmServer", kPstn).Flag(KOVA_AT(R, pstnAlarmServerPresent)).AnyType(),
+};
+constexpr FieldTable kEventHandler = KOVA_TABLE(kEventHandlerFields);
 
-  const Json::Value& db = Member(obj, "DB");
-  if (Given(db)) ParseDb(db, r);
-
-  const Json::Value& accessControls = Member(obj, "AccessControls");
-  if (accessControls.isArray()) ParseAccessControls(accessControls, r);
-
-  const Json::Value& audioFile = Member(Member(obj, "Voice"), "AudioFileName");
-  if (Given(audioFile)) {
-    r->voicePresent = 1;
-    GetJsonString(audioFile, r->audioFileName, sizeof r->audioFileName, 1);
-  }
-
-  const Json::Value& talkback = Member(obj, "Talkback");
-  if (Given(talkback)) ParseTalkback(talkback, r);
-
-  const Json::Value& pstn = Member(obj, "PSTNAlarmServer");
-  if (Given(pstn)) ParsePstnAlarmServer(pstn, r);
-}
-
-// An object (or any other non-array) "TimeSection" leaves the schedule as
-// the caller left it; a null one clears it. A failed read is ignored.
-bool ReadsSchedule(const Json::Value& timeSection) {
-  return timeSection.isArray() || timeSection.isNull();
-}
+#undef EH_AT
 
 }  // namespace
 
+// "TimeSection", the holiday schedule, with its own rules (intended): an
+// object (or any other non-array) leaves the schedule and the week as the
+// caller left them, a null one clears the schedule, a failed read is
+// ignored; pack always writes it.
 bool ParseEventHandler(const Json::Value& obj, EventHandlerRecord* r) {
   if (r == nullptr) return false;
   const Json::Value& timeSection = Member(obj, "TimeSection");
-  if (ReadsSchedule(timeSection)) ParseHolidaySchedule(timeSection, &r->schedule);
-  ParseMembers(obj, r);
+  if (timeSection.isArray() || timeSection.isNull())
+    ParseHolidaySchedule(timeSection, &r->schedule);
+  ParseFields(obj, r, kEventHandler);
   return true;
 }
 
@@ -277,58 +208,88 @@ bool ParseEventHandlerWithGrid(const Json::Value& obj, EventHandlerRecord* r,
   if (r == nullptr) return false;
   // A "TimeSection" that is not an array reads nothing into the grid.
   const Json::Value& timeSection = Member(obj, "TimeSection");
-  if (ReadsSchedule(timeSection)) ParseHolidayScheduleAndGrid(timeSection, &r->schedule, grid);
-  ParseMembers(obj, r);
+  if (timeSection.isArray() || timeSection.isNull()) {
+    ParseHolidayScheduleAndGrid(timeSection, &r->schedule, grid);
+  }
+  ParseFields(obj, r, kEventHandler);
   return true;
 }
+
+namespace {
+
+// ParseEventHandler for a cleared record, reading the 7 x 6 week grid beside
+// it from the same texts in the same walk.
+void ParseWithWeek(const Json::Value& obj, EventHandlerRecord* r, WeekSchedule7x6* week) {
+  const Json::Value& timeSection = Member(obj, "TimeSection");
+  if (timeSection.isArray() || timeSection.isNull()) {
+    ParseHolidayScheduleWithWeek(timeSection, &r->schedule, week);
+  }
+  ParseFields(obj, r, kEventHandler);
+}
+
+}  // namespace
 
 bool ParseEventHandlerWithWeek(const Json::Value& obj, EventHandlerRecord* record,
                                WeekSchedule7x6* week) {
   if (record == nullptr || week == nullptr) return false;
   std::memset(week, 0, sizeof *week);
   std::memset(record, 0, sizeof *record);
-  const Json::Value& timeSection = Member(obj, "TimeSection");
-  if (!timeSection.isNull()) {
-    for (uint32_t d = 0; d < KOVA_WEEK_DAYS; ++d) {
-      const Json::Value& day = Element(timeSection, d);
-      for (uint32_t s = 0; s < KOVA_SECTIONS_PER_DAY; ++s) {
-        // A section that does not read keeps what converted; the rest of
-        // the week is still read.
-        ParseTimeSection(Element(day, s), &week->sections[d][s]);
-      }
-    }
-  }
-  return ParseEventHandler(obj, record);
+  ParseWithWeek(obj, record, week);
+  return true;
 }
 
 void PackEventHandler(const EventHandlerRecord& r, Json::Value& obj) {
   if (!obj.isObject()) obj = Json::Value(Json::objectValue);
   PackHolidaySchedule(SetMember(obj, "TimeSection"), r.schedule);
+  PackFields(&r, obj, kEventHandler);
+}
 
-  PackScalars(r, obj);
-  PackChannelSets(&r, obj, kChannelSets, sizeof kChannelSets / sizeof kChannelSets[0]);
+void PackWeekSections(const WeekSchedule7x6& week, Json::Value& timeSection) {
+  for (uint32_t d = 0; d < KOVA_WEEK_DAYS; ++d) {
+    Json::Value& day = SetElement(timeSection, d);
+    for (uint32_t s = 0; s < KOVA_SECTIONS_PER_DAY; ++s) {
+      PackTimeSection(SetElement(day, s), week.sections[d][s]);
+    }
+  }
+}
 
-  if (r.present[KOVA_EH_PTZ_LINK]) PackPtzLinks(r, obj);
-  if (r.present[KOVA_EH_SNAPSHOT_TITLE]) {
-    SetMember(obj, "SnapshotTitle") = PackTitles(r.snapshotTitles, r.snapshotTitleCount);
-  }
-  if (r.present[KOVA_EH_VIDEO_TITLE]) {
-    SetMember(obj, "VideoTitle") = PackTitles(r.videoTitles, r.videoTitleCount);
-  }
-  if (r.present[KOVA_EH_MAIL_DETAIL]) {
-    Json::Value& mailDetail = SetMember(obj, "MailDetail");
-    mailDetail = Json::Value(Json::objectValue);
-    PackFields(&r, mailDetail, kMailDetail);
-  }
-  if (r.present[KOVA_EH_MONITOR_TOUR]) SetMember(obj, "MonitorTour") = PackMonitorTours(r);
-  if (r.present[KOVA_EH_DB]) SetMember(obj, "DB") = PackDb(r);
-  if (r.accessControlsPresent) SetMember(obj, "AccessControls") = PackAccessControls(r);
-  if (r.voicePresent) {
-    SetJsonStringBounded(SetMember(SetMember(obj, "Voice"), "AudioFileName"), r.audioFileName,
-                         sizeof r.audioFileName, 1);
-  }
-  if (r.talkbackPresent) PackTalkback(r, obj);
-  if (r.pstnAlarmServerPresent) PackPstnAlarmServer(r, obj);
+namespace {
+
+EventHandlerRecord* LinkageAt(unsigned char* record, const Field& f) {
+  return reinterpret_cast<EventHandlerRecord*>(record + f.offset);
+}
+const EventHandlerRecord& LinkageAt(const unsigned char* record, const Field& f) {
+  return *reinterpret_cast<const EventHandlerRecord*>(record + f.offset);
+}
+WeekSchedule7x6* WeekAfter(unsigned char* record, const Field& f) {
+  return reinterpret_cast<WeekSchedule7x6*>(record + f.offset + sizeof(EventHandlerRecord));
+}
+const WeekSchedule7x6& WeekAfter(const unsigned char* record, const Field& f) {
+  return *reinterpret_cast<const WeekSchedule7x6*>(record + f.offset + sizeof(EventHandlerRecord));
+}
+
+}  // namespace
+
+void ParseEventHandlerStep(const Json::Value& obj, unsigned char* record, const Field& f) {
+  ParseEventHandler(Member(obj, f.key), LinkageAt(record, f));
+}
+
+void PackEventHandlerStep(const unsigned char* record, Json::Value& obj, const Field& f) {
+  PackEventHandler(LinkageAt(record, f), SetMember(obj, f.key));
+}
+
+void ParseEventHandlerWithWeekStep(const Json::Value& obj, unsigned char* record, const Field& f) {
+  // The record was cleared before the walk: no second clearing of its
+  // 338 KB here (ParseEventHandlerWithWeek would clear again).
+  ParseWithWeek(Member(obj, f.key), LinkageAt(record, f), WeekAfter(record, f));
+}
+
+void PackEventHandlerWithWeekStep(const unsigned char* record, Json::Value& obj, const Field& f) {
+  Json::Value& handler = SetMember(obj, f.key);
+  PackEventHandler(LinkageAt(record, f), handler);
+  // The grid beside the linkage block is the copy callers edit: it wins
+  // over the first seven days of the block's own schedule.
+  PackWeekSections(WeekAfter(record, f), SetMember(handler, "TimeSection"));
 }
 
 }  // namespace kova

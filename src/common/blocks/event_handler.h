@@ -11,7 +11,10 @@
 
 #include <json/value.h>
 
+#include <cstddef>
+
 #include "common/blocks/time_schedule.h"
+#include "common/fields/field_table.h"
 #include "kova/records/event_handler.h"
 #include "kova/records/schedule.h"
 
@@ -43,6 +46,36 @@ bool ParseEventHandlerWithGrid(const Json::Value& jsonEventHandler, EventHandler
 // record's arrays extend, whatever they hold. Always succeeds.
 void PackEventHandler(const EventHandlerRecord& record, Json::Value& jsonEventHandler);
 
+// The 7 x 6 grid written over the first seven days of a "TimeSection" value.
+void PackWeekSections(const WeekSchedule7x6& week, Json::Value& timeSection);
+
+// Custom steps of a field table for an "EventHandler" member, read whether
+// the member is given or not (a missing block still marks "RecordEnable"
+// and "AlarmOutEnable" present). The record must have been cleared before
+// the walk. Use KOVA_EVENT_HANDLER / KOVA_EVENT_HANDLER_WITH_WEEK.
+void ParseEventHandlerStep(const Json::Value& obj, unsigned char* record, const Field& f);
+void PackEventHandlerStep(const unsigned char* record, Json::Value& obj, const Field& f);
+// The same for a block followed directly by its 7 x 6 week grid: parse also
+// reads the grid, pack writes it over the block's "TimeSection".
+void ParseEventHandlerWithWeekStep(const Json::Value& obj, unsigned char* record, const Field& f);
+void PackEventHandlerWithWeekStep(const unsigned char* record, Json::Value& obj, const Field& f);
+
+template <size_t kHandler, size_t kWeek>
+constexpr Field MakeEventHandlerWithWeek() {
+  static_assert(kWeek == kHandler + sizeof(EventHandlerRecord),
+                "the week grid follows the linkage block directly");
+  return MakeCustom("EventHandler", kHandler, sizeof(EventHandlerRecord) + sizeof(WeekSchedule7x6),
+                    ParseEventHandlerWithWeekStep, PackEventHandlerWithWeekStep);
+}
+
 }  // namespace kova
+
+// The "EventHandler" member of a record (an EventHandlerRecord).
+#define KOVA_EVENT_HANDLER(Rec, member)                                   \
+  KOVA_CUSTOM(Rec, member, "EventHandler", ::kova::ParseEventHandlerStep, \
+              ::kova::PackEventHandlerStep)
+// The "EventHandler" member `eventHandler` with the 7 x 6 grid `week` after it.
+#define KOVA_EVENT_HANDLER_WITH_WEEK(Rec) \
+  ::kova::MakeEventHandlerWithWeek<offsetof(Rec, eventHandler), offsetof(Rec, week)>()
 
 #endif  // KOVA_COMMON_EVENT_HANDLER_H_

@@ -2,7 +2,6 @@
 
 #include <cstring>
 
-#include "common/fields/field_table.h"
 #include "common/fields/fields.h"
 #include "common/json/json.h"
 
@@ -10,20 +9,20 @@ namespace kova {
 
 namespace {
 
-const char* const kPtzLinkTypeNames[] = {"None", "Preset", "Tour", "Pattern"};
-const EnumNames kPtzLinkTypes = {kPtzLinkTypeNames, 4, false, 0, true, 0, true};
+using R = EventHandlerRecord;
 
-// The split-mode names belong to the video-output configuration, which has
-// no table yet: every name is unknown (split left as it was) and no value
-// has a name (nothing written).
-const EnumNames kSplitModes = {nullptr, 0, false, 0, false, 0, true};
+constexpr const char* kPtzLinkTypeNames[] = {"None", "Preset", "Tour", "Pattern"};
+constexpr EnumNames kPtzLinkTypes = EnumNames::Of(kPtzLinkTypeNames).UnknownAs(KOVA_PTZ_LINK_NONE);
 
 // Door operations, compared exactly (letter case matters to the device).
-const char* const kDoorOperationNames[] = {"Auto", "Open", "Close", "OpenAlways", "CloseAlways"};
-constexpr int32_t kDoorNone = 0;
-constexpr int32_t kDoorLast = 5;
+constexpr const char* kDoorOperationNames[] = {"Auto", "Open", "Close", "OpenAlways",
+                                               "CloseAlways"};
+constexpr EnumNames kDoorOperations = EnumNames::Of(kDoorOperationNames).Exact().FirstValue(1);
 
 constexpr uint32_t kPtzLinkItems = 5;
+
+R* Linkage(unsigned char* record) { return reinterpret_cast<R*>(record); }
+const R* Linkage(const unsigned char* record) { return reinterpret_cast<const R*>(record); }
 
 // Reads an array of exactly `n` integers into `out`; any other value (an
 // array of another length included) leaves `out` as it was.
@@ -38,23 +37,28 @@ Json::Value IntArray(const int32_t* values, uint32_t n) {
   return out;
 }
 
+// The device's array under the field's key, or null when it is not an array.
+const Json::Value* GivenArray(const Json::Value& obj, const Field& f) {
+  const Json::Value& v = Member(obj, f.key);
+  return v.isArray() ? &v : nullptr;
+}
+
 }  // namespace
 
 uint32_t EntriesToRecordEnd(size_t offset, size_t entrySize) {
   return static_cast<uint32_t>((sizeof(EventHandlerRecord) - offset) / entrySize);
 }
 
-uint32_t CutCount(int32_t count, uint32_t capacity) {
-  if (count <= 0) return 0;
-  return static_cast<uint32_t>(count) < capacity ? static_cast<uint32_t>(count) : capacity;
-}
-
-void ParsePtzLinks(const Json::Value& links, EventHandlerRecord* r) {
-  r->present[KOVA_EH_PTZ_LINK] = 1;
-  const uint32_t n = CutCount(static_cast<int32_t>(Count(links)), KOVA_EH_MAX_PTZ_LINKS);
+// Intended: an entry is a five-item array, type name first, not an object.
+void ParsePtzLinks(const Json::Value& obj, unsigned char* record, const Field& f) {
+  const Json::Value* links = GivenArray(obj, f);
+  if (links == nullptr) return;
+  MarkPresent(record, f);
+  R* r = Linkage(record);
+  const uint32_t n = CutCount(Count(*links), KOVA_EH_MAX_PTZ_LINKS);
   r->ptzLinkCount = static_cast<int32_t>(n);
   for (uint32_t i = 0; i < n; ++i) {
-    const Json::Value& item = Element(links, i);
+    const Json::Value& item = Element(*links, i);
     // An entry that is not exactly five items stays zero but still counts.
     if (!item.isArray() || Count(item) != kPtzLinkItems) continue;
     PtzLinkEntry& e = r->ptzLinks[i];
@@ -65,19 +69,18 @@ void ParsePtzLinks(const Json::Value& links, EventHandlerRecord* r) {
   }
 }
 
-void PackPtzLinks(const EventHandlerRecord& r, Json::Value& obj) {
+void PackPtzLinks(const unsigned char* record, Json::Value& obj, const Field& f) {
   // The count is deliberately not cut to 256 when packing: entries beyond
   // the array are taken from the bytes that follow it, but never from
   // beyond the end of the record.
-  const uint32_t n = CutCount(r.ptzLinkCount, EntriesToRecordEnd(offsetof(EventHandlerRecord, ptzLinks),
-                                                                sizeof(PtzLinkEntry)));
+  const uint32_t n = CutCount(Linkage(record)->ptzLinkCount,
+                              EntriesToRecordEnd(offsetof(R, ptzLinks), sizeof(PtzLinkEntry)));
   if (n == 0) return;
-  Json::Value& links = SetMember(obj, "PtzLink");
+  Json::Value& links = SetMember(obj, f.key);
   links = Json::Value(Json::arrayValue);
-  const unsigned char* base = reinterpret_cast<const unsigned char*>(&r);
   for (uint32_t i = 0; i < n; ++i) {
     PtzLinkEntry e;
-    std::memcpy(&e, base + offsetof(EventHandlerRecord, ptzLinks) + i * sizeof e, sizeof e);
+    std::memcpy(&e, record + offsetof(R, ptzLinks) + i * sizeof e, sizeof e);
     const char* name = EnumName(kPtzLinkTypes, e.type);
     if (name == nullptr) continue;  // an unknown type leaves null at its index
     Json::Value& item = SetElement(links, i);
@@ -86,11 +89,16 @@ void PackPtzLinks(const EventHandlerRecord& r, Json::Value& obj) {
   }
 }
 
-void ParseTitles(const Json::Value& list, TitleOverlay* titles, int32_t* count) {
-  const uint32_t n = CutCount(static_cast<int32_t>(Count(list)), KOVA_EH_MAX_TITLES);
-  *count = static_cast<int32_t>(n);
+// Intended: pairs and colours of exactly their length, sizes read as integers into floats.
+void ParseTitles(const Json::Value& obj, unsigned char* record, const Field& f) {
+  const Json::Value* list = GivenArray(obj, f);
+  if (list == nullptr) return;
+  MarkPresent(record, f);
+  TitleOverlay* titles = reinterpret_cast<TitleOverlay*>(record + f.offset);
+  const uint32_t n = CutCount(Count(*list), KOVA_EH_MAX_TITLES);
+  StoreInt(record + f.count.offset, f.count.size, n);
   for (uint32_t i = 0; i < n; ++i) {
-    const Json::Value& item = Element(list, i);
+    const Json::Value& item = Element(*list, i);
     TitleOverlay& t = titles[i];
     GetJsonString(Member(item, "Text"), t.text, sizeof t.text, 1);
     ReadIntArray(Member(item, "Point"), 2, t.point);
@@ -106,9 +114,12 @@ void ParseTitles(const Json::Value& list, TitleOverlay* titles, int32_t* count) 
   }
 }
 
-Json::Value PackTitles(const TitleOverlay* titles, int32_t count) {
-  Json::Value list(Json::arrayValue);
-  const uint32_t n = CutCount(count, KOVA_EH_MAX_TITLES);
+void PackTitles(const unsigned char* record, Json::Value& obj, const Field& f) {
+  const TitleOverlay* titles = reinterpret_cast<const TitleOverlay*>(record + f.offset);
+  Json::Value& list = SetMember(obj, f.key);
+  list = Json::Value(Json::arrayValue);
+  const uint32_t n =
+      CutCount(LoadInt(record + f.count.offset, f.count.size, true), KOVA_EH_MAX_TITLES);
   for (uint32_t i = 0; i < n; ++i) {
     const TitleOverlay& t = titles[i];
     Json::Value item(Json::objectValue);
@@ -121,96 +132,56 @@ Json::Value PackTitles(const TitleOverlay* titles, int32_t count) {
     SetMember(item, "BackColor") = IntArray(t.backColor, 4);
     list.append(item);
   }
-  return list;
 }
 
-void ParseMonitorTours(const Json::Value& tours, EventHandlerRecord* r) {
-  r->present[KOVA_EH_MONITOR_TOUR] = 1;
-  const uint32_t n = CutCount(static_cast<int32_t>(Count(tours)), KOVA_EH_MAX_MONITOR_TOURS);
-  r->monitorTourCount = static_cast<int32_t>(n);
-  for (uint32_t i = 0; i < n; ++i) {
-    const Json::Value& item = Element(tours, i);
-    MonitorTourEntry& t = r->monitorTours[i];
-    t.enable = ToBool(Member(item, "Enable")) ? 1 : 0;
-    int32_t split = 0;
-    if (EnumValue(kSplitModes, Member(item, "Split"), &split)) t.split = split;
-    const Json::Value& channels = Member(item, "Channels");
-    const uint32_t k = channels.isArray() ? CutCount(static_cast<int32_t>(Count(channels)),
-                                                     KOVA_EH_MAX_TOUR_CHANNELS)
-                                          : 0;
-    for (uint32_t c = 0; c < k; ++c) t.channels[c] = ToInt32(Element(channels, c));
-    t.channelCount = static_cast<int32_t>(k);
-  }
-}
-
-Json::Value PackMonitorTours(const EventHandlerRecord& r) {
-  Json::Value list(Json::arrayValue);
-  const uint32_t n = CutCount(r.monitorTourCount, KOVA_EH_MAX_MONITOR_TOURS);
-  for (uint32_t i = 0; i < n; ++i) {
-    const MonitorTourEntry& t = r.monitorTours[i];
-    Json::Value item(Json::objectValue);
-    SetMember(item, "Enable") = t.enable != 0;
-    const char* split = EnumName(kSplitModes, t.split);
-    if (split != nullptr) SetMember(item, "Split") = split;
-    SetMember(item, "Channels") =
-        IntArray(t.channels, CutCount(t.channelCount, KOVA_EH_MAX_TOUR_CHANNELS));
-    list.append(item);
-  }
-  return list;
-}
-
-void ParseDb(const Json::Value& db, EventHandlerRecord* r) {
-  r->present[KOVA_EH_DB] = 1;
-  const uint32_t n = db.isArray() ? CutCount(static_cast<int32_t>(Count(db)), KOVA_EH_MAX_DB) : 0;
-  r->dbCount = static_cast<int32_t>(n);
-  for (uint32_t i = 0; i < n; ++i) GetJsonString(Element(db, i), r->db[i], KOVA_EH_DB_LENGTH, 1);
-}
-
-Json::Value PackDb(const EventHandlerRecord& r) {
-  Json::Value list(Json::arrayValue);
-  const uint32_t n = CutCount(r.dbCount, KOVA_EH_MAX_DB);
-  for (uint32_t i = 0; i < n; ++i) {
-    SetJsonStringBounded(SetElement(list, i), r.db[i], KOVA_EH_DB_LENGTH, 1);
-  }
-  return list;
-}
-
-void ParseAccessControls(const Json::Value& list, EventHandlerRecord* r) {
-  r->accessControlsPresent = 1;
-  const uint32_t n = CutCount(static_cast<int32_t>(Count(list)), KOVA_EH_MAX_ACCESS_CONTROLS);
+// Intended: a null operation is 0, an unknown name leaves the value, and a
+// value without a name packs as nothing at its index.
+void ParseAccessControls(const Json::Value& obj, unsigned char* record, const Field& f) {
+  const Json::Value* list = GivenArray(obj, f);
+  if (list == nullptr) return;
+  MarkPresent(record, f);
+  R* r = Linkage(record);
+  const uint32_t n = CutCount(Count(*list), KOVA_EH_MAX_ACCESS_CONTROLS);
   r->accessControlCount = static_cast<int32_t>(n);
   for (uint32_t i = 0; i < n; ++i) {
-    const Json::Value& operation = Member(Element(list, i), "Operation");
+    const Json::Value& operation = Member(Element(*list, i), "Operation");
     if (operation.isNull()) {
-      r->accessControlOperations[i] = kDoorNone;
+      r->accessControlOperations[i] = KOVA_DOOR_NONE;
       continue;
     }
+    // The device's name is read into a 32-byte field before the lookup; an
+    // unknown name leaves the operation as it was.
     char text[32];
     GetJsonString(operation, text, sizeof text, 1);
-    for (int32_t k = 0; k < kDoorLast; ++k) {
-      if (std::strcmp(text, kDoorOperationNames[k]) == 0) {
-        r->accessControlOperations[i] = k + 1;
-        break;
-      }
-    }
-    // An unknown name leaves the operation as it was.
+    EnumValue(kDoorOperations, Json::Value(text), &r->accessControlOperations[i]);
   }
 }
 
-Json::Value PackAccessControls(const EventHandlerRecord& r) {
-  Json::Value list(Json::arrayValue);
-  const uint32_t n = CutCount(r.accessControlCount, KOVA_EH_MAX_ACCESS_CONTROLS);
+void PackAccessControls(const unsigned char* record, Json::Value& obj, const Field& f) {
+  const R* r = Linkage(record);
+  Json::Value& list = SetMember(obj, f.key);
+  list = Json::Value(Json::arrayValue);
+  const uint32_t n = CutCount(r->accessControlCount, KOVA_EH_MAX_ACCESS_CONTROLS);
   for (uint32_t i = 0; i < n; ++i) {
-    const int32_t op = r.accessControlOperations[i];
-    if (op < kDoorNone || op > kDoorLast) continue;  // no name: nothing at this index
+    const int32_t op = r->accessControlOperations[i];
+    const char* name = EnumName(kDoorOperations, op);
+    if (op != KOVA_DOOR_NONE && name == nullptr) continue;  // no name: nothing at this index
     Json::Value& operation = SetMember(SetElement(list, i), "Operation");
-    if (op == kDoorNone) {
-      operation = Json::Value(Json::nullValue);
-    } else {
-      operation = kDoorOperationNames[op - 1];
-    }
+    operation = name != nullptr ? Json::Value(name) : Json::Value(Json::nullValue);
   }
-  return list;
+}
+
+void PackDestinations(const unsigned char* record, Json::Value& obj, const Field& f) {
+  Json::Value& destinations = SetMember(obj, f.key);
+  destinations = Json::Value(Json::arrayValue);
+  // The count is deliberately not cut to 8 when packing: bytes beyond the
+  // eight destinations are taken from what follows them, but never from
+  // beyond the end of the record.
+  const uint32_t n =
+      CutCount(Linkage(record)->destinationCount, EntriesToRecordEnd(offsetof(R, destinations), 1));
+  for (uint32_t i = 0; i < n; ++i) {
+    destinations.append(Json::Value(record[offsetof(R, destinations) + i]));
+  }
 }
 
 }  // namespace kova

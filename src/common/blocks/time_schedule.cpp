@@ -273,6 +273,21 @@ bool ParseHolidayScheduleAndGrid(const Json::Value& jsonIn, HolidaySchedule* sch
   return FinishHoliday(reads[0].read, days, schedule);
 }
 
+bool ParseHolidayScheduleWithWeek(const Json::Value& jsonIn, HolidaySchedule* schedule,
+                                  WeekSchedule7x6* week) {
+  const bool read = ParseHolidaySchedule(jsonIn, schedule);
+  if (week == nullptr || jsonIn.isNull()) return read;
+  for (uint32_t d = 0; d < KOVA_WEEK_DAYS; ++d) {
+    const Json::Value& day = Element(jsonIn, d);
+    for (uint32_t s = 0; s < KOVA_SECTIONS_PER_DAY; ++s) {
+      // A section that does not read keeps what converted; the rest of the
+      // week is still read.
+      ParseTimeSection(Element(day, s), &week->sections[d][s]);
+    }
+  }
+  return read;
+}
+
 bool ParseDaySections(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxSections) {
   if (sections == nullptr || maxSections < 1) return false;
   uint32_t n = jsonIn.isArray() ? Count(jsonIn) : 0;

@@ -63,6 +63,13 @@ bool PackHolidaySchedule(Json::Value& jsonOut, const HolidaySchedule& schedule);
 // parse fails or fewer than 7 days were given. `holidayEnabled` is 1 when 8
 // (or more) days were given.
 bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule);
+// ParseHolidaySchedule, and in the same walk over the texts the 7 x 6 grid
+// that ParseTimeSection reads from them ("TimeSection"[d][s], d < 7, s < 6,
+// a failing section keeping what converted, the rest still read) into
+// `week`, which is not cleared first. A text of the usual form is scanned
+// once for both: the two read forms agree on it.
+bool ParseHolidayScheduleWithWeek(const Json::Value& jsonIn, HolidaySchedule* schedule,
+                                  WeekSchedule7x6* week);
 
 // ParseHolidaySchedule, and `grid` read from the same array as
 // ParseTimeSectionGrid reads it (that result is not returned), each

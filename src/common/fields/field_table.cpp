@@ -28,10 +28,21 @@ bool TextEquals(const char* a, const std::string& b, bool exact) {
   return true;
 }
 
-void SetFlag(unsigned char* record, const Field& f) {
+void WriteFlag(unsigned char* record, const Field& f, int64_t value) {
   if (f.presence != Presence::kFlag || f.flag.size == 0) return;
-  StoreInt(record + f.flag.offset, f.flag.size, 1);
+  StoreInt(record + f.flag.offset, f.flag.size, value);
 }
+
+bool AnyByteSet(const unsigned char* p, uint32_t n) {
+  for (uint32_t i = 0; i < n; ++i) {
+    if (p[i] != 0) return true;
+  }
+  return false;
+}
+
+// Whether a nested block or list reads a value that is not of its JSON type
+// (as empty).
+bool ReadsAnyType(const Field& f) { return f.anyType || f.alwaysRead; }
 
 bool Present(const unsigned char* record, const Field& f) {
   switch (f.presence) {
@@ -43,9 +54,12 @@ bool Present(const unsigned char* record, const Field& f) {
       return LoadInt(record + f.offset, f.size, true) != f.sentinel;
     case Presence::kNonNegative:
       return LoadInt(record + f.offset, f.size, true) >= 0;
+    case Presence::kAnySet:
+      return AnyByteSet(record + f.flag.offset, f.flag.size);
   }
   return true;
 }
+
 
 // One scalar of kind f.kind and width f.size.
 bool ParseScalar(const Json::Value& v, unsigned char* p, const Field& f) {
@@ -137,13 +151,26 @@ bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
         return true;
       }
       Unnamed rule = f.unnamed;
-      if (rule == Unnamed::kTable) rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
-      if (rule == Unnamed::kOmit) return false;
-      if (rule == Unnamed::kFirstName && f.names->count > 0 && f.names->names[0] != nullptr) {
-        *out = f.names->names[0];
-      } else {
-        *out = "";
+      if (rule == Unnamed::kTable)
+        rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
+      const char* fallback = nullptr;
+      switch (rule) {
+        case Unnamed::kOmit:
+          return false;
+        case Unnamed::kNull:
+          *out = Json::Value(Json::nullValue);
+          return true;
+        case Unnamed::kFirstName:
+          fallback = f.names->count > 0 ? f.names->names[0] : nullptr;
+          break;
+        case Unnamed::kUnknownName:
+          fallback = EnumName(*f.names, f.names->unknownValue);
+          break;
+        case Unnamed::kTable:
+        case Unnamed::kEmptyText:
+          break;
       }
+      *out = fallback != nullptr ? fallback : "";
       return true;
     }
     case FieldKind::kObject:
@@ -272,15 +299,15 @@ class MemberIndex {
 
 uint32_t LoadCount(const unsigned char* record, const Field& f) {
   if (f.count.size == 0) return f.capacity;
-  const int64_t n = LoadInt(record + f.count.offset, f.count.size, false);
-  if (n < 0) return 0;
-  return n > static_cast<int64_t>(f.capacity) ? f.capacity : static_cast<uint32_t>(n);
+  return CutCount(LoadInt(record + f.count.offset, f.count.size, f.count.isSigned), f.capacity);
 }
 
 // A list: element i (or the i-th entry taken) into its slot; the count
-// member by the field's rule. A non-array leaves everything as it was.
+// member by the field's rule. `record` is where the field's offset and its
+// count's offset count from. A non-array leaves everything as it was, unless
+// the field reads any type (then it is an empty list).
 bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
-  if (!v.isArray() || f.element == nullptr) return false;
+  if (f.element == nullptr || (!v.isArray() && !ReadsAnyType(f))) return false;
   unsigned char* base = record + f.offset;
   const uint32_t n = Count(v);
   uint32_t slots = f.capacity;
@@ -295,23 +322,52 @@ bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
     StorePointer(record + f.offset, base);
   }
   uint32_t looked = 0, taken = 0, nonNull = 0;
+  // Slots are filled in element order; the walk stops at the first element
+  // that has no slot left.
   ForEachElement(v, [&](uint32_t i, const Json::Value& e) {
     const uint32_t slot = f.keepSlots ? i : taken;
     if (slot >= slots) return false;
     ++looked;
-    if (e.isNull()) return true;
-    ++nonNull;
+    if (e.isNull()) {
+      if (!f.element->alwaysRead) return true;
+    } else {
+      ++nonNull;
+    }
     unsigned char* entry = base + static_cast<size_t>(slot) * f.size + f.element->offset;
     if (ParseValue(e, entry, *f.element)) ++taken;
     return true;
   });
   if (f.count.size != 0) {
-    const uint32_t c = f.countRule == CountRule::kAll     ? looked
-                       : f.countRule == CountRule::kTaken ? taken
-                                                          : nonNull;
+    uint32_t c = std::min(looked, f.capacity);
+    switch (f.countRule) {
+      case CountRule::kAll:
+        break;
+      case CountRule::kTaken:
+        c = taken;
+        break;
+      case CountRule::kNonNull:
+        c = nonNull;
+        break;
+      case CountRule::kLength:
+        c = n;
+        break;
+    }
     StoreInt(record + f.count.offset, f.count.size, c);
   }
   return true;
+}
+
+// The list `f` of `record` as a JSON array of its counted entries.
+void PackList(const unsigned char* record, const Field& f, Json::Value* out) {
+  const uint32_t n = LoadCount(record, f);
+  *out = Json::Value(Json::arrayValue);
+  if (f.element == nullptr) return;
+  for (uint32_t k = 0; k < n; ++k) {
+    Json::Value item;
+    const unsigned char* entry =
+        record + f.offset + static_cast<size_t>(k) * f.size + f.element->offset;
+    if (PackValue(entry, *f.element, &item)) out->append(item);
+  }
 }
 
 }  // namespace
@@ -321,8 +377,9 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
     case FieldShape::kScalar:
       return ParseScalar(value, member, f);
     case FieldShape::kNested:
-      if (!value.isObject() || f.table == nullptr) return false;
-      ParseFields(value, member, f.table->fields, f.table->count);
+      if (f.table == nullptr || (!value.isObject() && !ReadsAnyType(f))) return false;
+      // Member() of anything but an object is null: every member reads as missing.
+      ParseFields(value, member, *f.table);
       return true;
     case FieldShape::kTuple: {
       if (!value.isArray() || Count(value) < f.minItems) return false;
@@ -333,11 +390,10 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
       });
       return true;
     }
-    case FieldShape::kList: {
-      // A list entry that is itself a list: member is the start of its slot.
-      // `member` is the list itself; its offset and count sit in the record around it.
+    case FieldShape::kList:
+      // A list entry that is itself a list: `member` is the list itself; its
+      // offset and count sit in the entry's slot around it.
       return ParseList(value, member - f.offset, f);
-    }
     case FieldShape::kCustom:
       return false;
   }
@@ -352,6 +408,7 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
       if (f.table == nullptr) return false;
       *out = Json::Value(Json::objectValue);
       PackFields(member, *out, f.table->fields, f.table->count);
+      if (f.nullWhenEmpty && out->empty()) *out = Json::Value(Json::nullValue);
       return true;
     case FieldShape::kTuple: {
       *out = Json::Value(Json::arrayValue);
@@ -362,20 +419,10 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
       }
       return true;
     }
-    case FieldShape::kList: {
+    case FieldShape::kList:
       if (f.element == nullptr) return false;
-      const unsigned char* record = member - f.offset;
-      const uint32_t n = LoadCount(record, f);
-      *out = Json::Value(Json::arrayValue);
-      for (uint32_t i = 0; i < n; ++i) {
-        Json::Value item;
-        const unsigned char* entry = member + static_cast<size_t>(i) * f.size + f.element->offset;
-        if (PackValue(entry, *f.element, &item)) {
-          out->append(item);
-        }
-      }
+      PackList(member - f.offset, f, out);  // a list entry that is itself a list, as in ParseValue
       return true;
-    }
     case FieldShape::kCustom:
       return false;
   }
@@ -456,10 +503,13 @@ void StoreInt(void* p, uint32_t size, int64_t value) {
 bool EnumValue(const EnumNames& e, const Json::Value& v, int32_t* value) {
   if (!v.isString()) return false;
   const std::string text = ToText(v);
-  for (uint32_t i = 0; i < e.count; ++i) {
-    if (e.names[i] != nullptr && TextEquals(e.names[i], text, e.exact)) {
-      *value = e.first + static_cast<int32_t>(i);
-      return true;
+  for (const char* const* list : {e.names, e.aliases}) {
+    if (list == nullptr) continue;
+    for (uint32_t i = 0; i < e.count; ++i) {
+      if (list[i] != nullptr && TextEquals(list[i], text, e.exact)) {
+        *value = e.first + static_cast<int32_t>(i);
+        return true;
+      }
     }
   }
   return false;
@@ -467,25 +517,43 @@ bool EnumValue(const EnumNames& e, const Json::Value& v, int32_t* value) {
 
 const char* EnumName(const EnumNames& e, int64_t value) {
   const int64_t i = value - e.first;
-  if (i < 0 || i >= static_cast<int64_t>(e.count)) return nullptr;
+  if (e.names == nullptr || i < 0 || i >= static_cast<int64_t>(e.count)) return nullptr;
   return e.names[i];
+}
+
+void MarkPresent(unsigned char* record, const Field& f) { WriteFlag(record, f, 1); }
+
+uint32_t CutCount(int64_t count, uint32_t capacity) {
+  if (count <= 0) return 0;
+  return count < static_cast<int64_t>(capacity) ? static_cast<uint32_t>(count) : capacity;
 }
 
 namespace {
 
-// One field of a table, given its member's value (null: absent or null).
-void ParseOne(const Json::Value& obj, unsigned char* base, const Field& f, const Json::Value& v) {
+// One field of a parse walk, given the member's value (null when missing).
+void ParseField(const Json::Value& obj, const Json::Value& v, unsigned char* base, const Field& f) {
   if (f.direction == Direction::kPackOnly) return;
   if (f.shape == FieldShape::kCustom) {
     if (f.parse != nullptr) f.parse(obj, base, f);
     return;
   }
-  if (v.isNull()) return;
+  if (v.isNull()) {
+    if (f.hasMissingValue) StoreInt(base + f.offset, f.size, f.missingValue);
+    if (!f.alwaysRead) {
+      if (f.clearsFlag) WriteFlag(base, f, 0);
+      return;
+    }
+  }
   const bool read =
       f.shape == FieldShape::kList ? ParseList(v, base, f) : ParseValue(v, base + f.offset, f);
   // A scalar that is present counts as present even when its text names
-  // nothing; a block or list of the wrong JSON type does not.
-  if (read || f.shape == FieldShape::kScalar) SetFlag(base, f);
+  // nothing; a block or list of the wrong JSON type does not (unless it
+  // reads any type).
+  if (read || f.shape == FieldShape::kScalar || f.alwaysRead) {
+    WriteFlag(base, f, 1);
+  } else if (f.clearsFlag) {
+    WriteFlag(base, f, 0);
+  }
 }
 
 void ParseIndexed(const MemberIndex& members, unsigned char* base, const Field* fields,
@@ -498,10 +566,12 @@ void ParseIndexed(const MemberIndex& members, unsigned char* base, const Field* 
       // A block whose members sit in this object: the same index serves it.
       if (!obj.isObject()) continue;
       ParseIndexed(members, base + f.offset, f.table->fields, f.table->count);
-      SetFlag(base, f);
+      WriteFlag(base, f, 1);
       continue;
     }
-    ParseOne(obj, base, f, f.key != nullptr ? members.Find(f.key) : obj);
+    const Json::Value& v =
+        f.shape == FieldShape::kCustom ? Null() : (f.key != nullptr ? members.Find(f.key) : obj);
+    ParseField(obj, v, base, f);
   }
 }
 
@@ -511,7 +581,7 @@ void ParseFields(const Json::Value& obj, void* record, const Field* fields, size
   unsigned char* base = static_cast<unsigned char*>(record);
   if (count == 1 && fields[0].key != nullptr) {
     // One member to look up: no index is worth building.
-    ParseOne(obj, base, fields[0], Member(obj, fields[0].key));
+    ParseField(obj, Member(obj, fields[0].key), base, fields[0]);
     return;
   }
   ParseIndexed(MemberIndex(obj), base, fields, count);
@@ -535,20 +605,9 @@ void PackFields(const void* record, Json::Value& obj, const Field* fields, size_
       continue;
     }
     Json::Value v;
-    bool written;
+    bool written = true;
     if (f.shape == FieldShape::kList) {
-      // The count member lives in the record, not in the list's slots.
-      const uint32_t n = LoadCount(base, f);
-      v = Json::Value(Json::arrayValue);
-      for (uint32_t k = 0; k < n && f.element != nullptr; ++k) {
-        Json::Value item;
-        const unsigned char* entry =
-            base + f.offset + static_cast<size_t>(k) * f.size + f.element->offset;
-        if (PackValue(entry, *f.element, &item)) {
-          v.append(item);
-        }
-      }
-      written = true;
+      PackList(base, f, &v);  // the count member lives in the record, not in the list's slots
     } else {
       written = PackValue(base + f.offset, f, &v);
     }

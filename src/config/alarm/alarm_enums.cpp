@@ -7,7 +7,7 @@ namespace kova {
 
 namespace {
 
-const char* const kSenseMethods[] = {
+constexpr const char* kSenseMethods[] = {
     "DoorMagnetism",  "PassiveInfrared",  "GasSensor",       "SmokingSensor", "WaterSensor",
     "ActiveInfrared", "GlassSensor",      "EmergencySwitch", "ShockSensor",   "DoubleMethod",
     "ThreeMethod",    "TempSensor",       "HumiditySensor",  "WindSensor",    "CallButton",
@@ -15,45 +15,46 @@ const char* const kSenseMethods[] = {
     "OtherSensor",
 };
 
-const char* const kEnableControls[] = {"Normal", "EnableAlways", "DisableOnce", "DisableAlways"};
+constexpr const char* kEnableControls[] = {"Normal", "EnableAlways", "DisableOnce",
+                                           "DisableAlways"};
+
+constexpr const char* kSensorTypes[] = {"NC", "NO"};
 
 // Zone types: the device compares the first six names exactly and the rest
 // without regard to case; the split is intended and kept.
-const char* const kExactZones[] = {"Intime", "Delay", "Fullday", "Follow", "Medical", "Panic"};
-const char* const kLooseZones[] = {"Fire",      "FulldaySound", "FulldaySlient", "Entrance1",
-                                   "Entrance2", "Inside",       "Outside",       "PeopleDetect"};
-const EnumNames kExactZoneNames = {kExactZones, 6, true, 1, false, 0, true};
-const EnumNames kLooseZoneNames = {kLooseZones, 8, false, 7, false, 0, true};
-
-const char* const kSensorTypes[] = {"NC"};
-const EnumNames kSensorTypeNames = {kSensorTypes, 1, false, 0, true, 1, true};
+constexpr const char* kExactZones[] = {"Intime", "Delay", "Fullday", "Follow", "Medical", "Panic"};
+constexpr const char* kLooseZones[] = {"Fire",      "FulldaySound", "FulldaySlient",
+                                       "Entrance1", "Entrance2",    "Inside",
+                                       "Outside",   "PeopleDetect"};
+constexpr EnumNames kExactZoneNames = EnumNames::Of(kExactZones).Exact().FirstValue(1);
+constexpr EnumNames kLooseZoneNames = EnumNames::Of(kLooseZones).FirstValue(7);
+constexpr int32_t kUnknownZone = 0;
 
 }  // namespace
 
-const EnumNames kSenseMethodNames = {kSenseMethods, 21, false, 0, true, -1, true};
-const EnumNames kEnableControlNames = {kEnableControls, 4, false, 0, true, 0, true};
+const EnumNames kSenseMethodNames = EnumNames::Of(kSenseMethods).UnknownAs(-1).OmitUnnamed();
+const EnumNames kEnableControlNames = EnumNames::Of(kEnableControls).UnknownAs(0).OmitUnnamed();
+const EnumNames kSensorTypeNames = EnumNames::Of(kSensorTypes).UnknownAs(1);
 
-void ParseSensorType(const Json::Value& v, int32_t* sensorType) {
-  if (v.isNull()) return;
-  if (!EnumValue(kSensorTypeNames, v, sensorType)) *sensorType = kSensorTypeNames.unknownValue;
-}
-
-const char* SensorTypeName(int32_t sensorType) { return sensorType == 0 ? "NC" : "NO"; }
-
-void ParseDefenceAreaType(const Json::Value& v, int32_t* type) {
+void ParseDefenceAreaType(const Json::Value& obj, unsigned char* record, const Field& f) {
+  const Json::Value& v = Member(obj, f.key);
   if (v.isNull()) return;
   // The device's zone name is read into a 32-byte field before the lookup.
   char text[32];
   GetJsonString(v, text, sizeof text, 1);
   const Json::Value name(text);
-  if (!EnumValue(kExactZoneNames, name, type) && !EnumValue(kLooseZoneNames, name, type)) {
-    *type = 0;
+  int32_t type = kUnknownZone;
+  if (!EnumValue(kExactZoneNames, name, &type) && !EnumValue(kLooseZoneNames, name, &type)) {
+    type = kUnknownZone;
   }
+  StoreInt(record + f.offset, f.size, type);
 }
 
-const char* DefenceAreaTypeName(int32_t type) {
-  if (const char* name = EnumName(kExactZoneNames, type)) return name;
-  return EnumName(kLooseZoneNames, type);
+void PackDefenceAreaType(const unsigned char* record, Json::Value& obj, const Field& f) {
+  const int64_t type = LoadInt(record + f.offset, f.size, true);
+  const char* name = EnumName(kExactZoneNames, type);
+  if (name == nullptr) name = EnumName(kLooseZoneNames, type);
+  if (name != nullptr) SetMember(obj, f.key) = name;
 }
 
 }  // namespace kova

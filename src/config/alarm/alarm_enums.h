@@ -5,8 +5,6 @@
 
 #include <json/value.h>
 
-#include <cstdint>
-
 #include "common/fields/field_table.h"
 
 namespace kova {
@@ -18,19 +16,17 @@ extern const EnumNames kSenseMethodNames;
 // "DisableAlways"; case-insensitive; an unknown name stores 0; values
 // outside 0..3 are not written.
 extern const EnumNames kEnableControlNames;
+// "SensorType": "NC" 0, "NO" 1, case-insensitive; any other value given
+// reads as 1, and packs (with Unnamed::kUnknownName) as "NO".
+extern const EnumNames kSensorTypeNames;
 
-// "SensorType": 0 for "NC" in any letter case, 1 for anything else given.
-// A null value leaves `*sensorType` as it was.
-void ParseSensorType(const Json::Value& v, int32_t* sensorType);
-// "NC" for 0, "NO" for any other value.
-const char* SensorTypeName(int32_t sensorType);
-
-// "DefenceAreaType": the text, cut to 31 bytes, against the 14 zone names;
-// the first six must match exactly, the rest without regard to case. An
-// unknown name stores 0; a null value leaves `*type` as it was.
-void ParseDefenceAreaType(const Json::Value& v, int32_t* type);
-// The zone name of values 1..14, null for any other.
-const char* DefenceAreaTypeName(int32_t type);
+// Custom steps of "DefenceAreaType": the text, cut to 31 bytes, against
+// the 14 zone names; the first six must match exactly, the rest without
+// regard to case. An unknown name stores 0; a missing or null member leaves
+// the field as it was. Pack writes the zone name of values 1..14, nothing
+// for any other value.
+void ParseDefenceAreaType(const Json::Value& obj, unsigned char* record, const Field& f);
+void PackDefenceAreaType(const unsigned char* record, Json::Value& obj, const Field& f);
 
 }  // namespace kova
 

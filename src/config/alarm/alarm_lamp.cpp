@@ -2,18 +2,34 @@
 // drivers.
 #include <cstring>
 
+#include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/alarm/translators.h"
+#include "drivers/table_driver.h"
 #include "kova/records/alarm.h"
 
 namespace kova {
 
+namespace {
+
+// Absent reads as false.
+constexpr Field kDefenceArmModeFields[] = {
+    KOVA_F(DefenceArmModeRecord, enableDefenceArm, "EnableDefenceArm", kBool).AlwaysRead(),
+};
+constexpr FieldTable kDefenceArmMode = KOVA_TABLE(kDefenceArmModeFields);
+
+constexpr int32_t kNoMode = -1;
+constexpr uint32_t kLastMode = 2;
+
+}  // namespace
+
+// Hand-written on purpose: a "Mode" member that holds null still counts as
+// given (and reads as 0), and a mode outside 0..2 reads and packs as none.
 int ParseAlarmLampRecord(const Json::Value& element, void* record) {
-  int32_t mode = -1;
-  // A "Mode" member that holds null still counts as given (and reads as 0).
+  int32_t mode = kNoMode;
   if (HasMember(element, "Mode")) {
     const uint32_t m = ToUInt32(Member(element, "Mode"));
-    if (m <= 2) mode = static_cast<int32_t>(m);
+    if (m <= kLastMode) mode = static_cast<int32_t>(m);
   }
   std::memcpy(record, &mode, sizeof mode);
   return 1;
@@ -22,22 +38,17 @@ int ParseAlarmLampRecord(const Json::Value& element, void* record) {
 int PackAlarmLampRecord(const void* record, Json::Value& target) {
   AlarmLampRecord r;
   std::memcpy(&r, record, sizeof r);
-  if (r.mode < 0 || r.mode > 2) return 0;  // nothing written: the text is "null"
+  if (r.mode < 0 || r.mode > static_cast<int32_t>(kLastMode)) return 0;  // the text is "null"
   SetMember(target, "Mode") = r.mode;
   return 1;
 }
 
 int ParseDefenceArmModeRecord(const Json::Value& element, void* record) {
-  const uint32_t enable = ToBool(Member(element, "EnableDefenceArm")) ? 1 : 0;
-  std::memcpy(record, &enable, sizeof enable);
-  return 1;
+  return ParseTableRecord<kDefenceArmMode>(element, record);
 }
 
 int PackDefenceArmModeRecord(const void* record, Json::Value& target) {
-  DefenceArmModeRecord r;
-  std::memcpy(&r, record, sizeof r);
-  SetMember(target, "EnableDefenceArm") = r.enableDefenceArm != 0;
-  return 1;
+  return PackTableRecord<kDefenceArmMode>(record, target);
 }
 
 }  // namespace kova

@@ -4,59 +4,51 @@
 // The device packs each grid row into one integer, but not the same way in
 // both places: the top-level "Region" puts cell c at bit c (32 cells), the
 // "Region" of a "MotionDetectWindow" entry puts cell c at bit 21 - c (22
-// cells). Both orders are intended and kept.
+// cells). Both orders are intended and kept, as custom steps.
 #include <algorithm>
 
+#include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/alarm/alarm_frame.h"
+#include "config/alarm/alarm_sources.h"
 #include "config/alarm/translators.h"
 
 namespace kova {
 
 namespace {
 
+using R = MotionDetectRecord;
+
 constexpr uint32_t kMaxRows = KOVA_MOTION_MAX_ROWS;
 constexpr uint32_t kWindowCells = KOVA_MOTION_COLS;
 constexpr uint32_t kMaxWindows = KOVA_MOTION_MAX_WINDOWS;
 
-const Field kFields[] = {
-    KOVA_F(MotionDetectRecord, enable, "Enable", kBool),
-    KOVA_F(MotionDetectRecord, level, "Level", kInt).Flag(KOVA_AT(MotionDetectRecord, levelPresent)),
-    KOVA_F(MotionDetectRecord, volumeRatio, "VolumeRatio", kInt).Flag(KOVA_AT(MotionDetectRecord, volumeRatioPresent)),
-    KOVA_F(MotionDetectRecord, subRatio, "SubRatio", kInt).Flag(KOVA_AT(MotionDetectRecord, subRatioPresent)),
-};
-
-const Field kWindowFields[] = {
+constexpr Field kWindowFields[] = {
     KOVA_F(MotionWindow, threshold, "Threshold", kInt),
     KOVA_F(MotionWindow, sensitive, "Sensitive", kInt),
+    KOVA_TUPLE(MotionWindow, rect, "Window", int32_t, 4).MinItems(0),
 };
 
-const Field kDetectWindowFields[] = {
+constexpr Field kDetectWindowFields[] = {
     KOVA_F(MotionDetectWindow, id, "Id", kInt),
     KOVA_F(MotionDetectWindow, name, "Name", kText),
     KOVA_F(MotionDetectWindow, threshold, "Threshold", kInt),
     KOVA_F(MotionDetectWindow, sensitive, "Sensitive", kInt),
 };
-
-// A row count from the caller's record, cut to the grid.
-uint32_t CutRows(int32_t rows) {
-  return rows < 0 ? 0 : std::min<uint32_t>(static_cast<uint32_t>(rows), kMaxRows);
-}
+constexpr FieldTable kWindow = KOVA_TABLE(kWindowFields);
+constexpr FieldTable kDetectWindow = KOVA_TABLE(kDetectWindowFields);
 
 uint32_t CutWindows(int32_t present, int32_t count) {
-  if (!present || count < 0) return 0;
-  return std::min<uint32_t>(static_cast<uint32_t>(count), kMaxWindows);
+  return present ? CutCount(count, kMaxWindows) : 0;
 }
 
 // Top-level grid: cell c of a row is bit c, 32 cells.
 uint32_t ReadChannelGrid(const Json::Value& rows, uint8_t (*region)[32]) {
-  const uint32_t n = std::min(Count(rows), kMaxRows);
-  for (uint32_t y = 0; y < n; ++y) {
-    const uint32_t bits = ToUInt32(Element(rows, y));
+  ForEachElement(rows, kMaxRows, [region](uint32_t y, const Json::Value& row) {
+    const uint32_t bits = ToUInt32(row);
     for (uint32_t c = 0; c < 32; ++c) region[y][c] = static_cast<uint8_t>((bits >> c) & 1u);
-  }
-  return n;
+  });
+  return std::min(Count(rows), kMaxRows);
 }
 
 // The integer of one grid row of `cells` cells: cell c is bit c, or bit
@@ -76,14 +68,13 @@ void WriteChannelGrid(const uint8_t (*region)[32], uint32_t n, Json::Value& rows
 
 // Window grid: cell c of a row is bit 21 - c, 22 cells.
 uint32_t ReadWindowGrid(const Json::Value& rows, uint8_t (*region)[32]) {
-  const uint32_t n = std::min(Count(rows), kMaxRows);
-  for (uint32_t y = 0; y < n; ++y) {
-    const uint32_t bits = ToUInt32(Element(rows, y));
+  ForEachElement(rows, kMaxRows, [region](uint32_t y, const Json::Value& row) {
+    const uint32_t bits = ToUInt32(row);
     for (uint32_t c = 0; c < kWindowCells; ++c) {
       region[y][c] = static_cast<uint8_t>((bits >> (kWindowCells - 1 - c)) & 1u);
     }
-  }
-  return n;
+  });
+  return std::min(Count(rows), kMaxRows);
 }
 
 void WriteWindowGrid(const uint8_t (*region)[32], uint32_t n, Json::Value& rows) {
@@ -93,87 +84,98 @@ void WriteWindowGrid(const uint8_t (*region)[32], uint32_t n, Json::Value& rows)
   }
 }
 
-void ReadWindows(const Json::Value& entries, MotionDetectRecord* r) {
+// "MotionDetectWindow": one device entry may fill a window ("Window"), a
+// detection window ("Region"), or both; each count is the number of entries
+// once one entry has that form. Intended: the two lists share one array.
+void ParseWindows(const Json::Value& obj, unsigned char* record, const Field& f) {
+  const Json::Value& entries = Member(obj, f.key);
   if (!entries.isArray()) return;
+  R* r = reinterpret_cast<R*>(record);
   const int32_t n = static_cast<int32_t>(std::min(Count(entries), kMaxWindows));
-  for (int32_t i = 0; i < n; ++i) {
-    const Json::Value& e = Element(entries, static_cast<uint64_t>(i));
+  ForEachElement(entries, kMaxWindows, [r, n](uint32_t i, const Json::Value& e) {
     const Json::Value& region = Member(e, "Region");
     if (region.isArray()) {
       r->detectWindowPresent = 1;
       r->detectWindowCount = n;
       MotionDetectWindow& w = r->detectWindows[i];
-      ParseFields(e, &w, kDetectWindowFields);
+      ParseFields(e, &w, kDetectWindow);
       w.rows = static_cast<int32_t>(ReadWindowGrid(region, w.region));
       w.cols = static_cast<int32_t>(kWindowCells);
     }
-    const Json::Value& rect = Member(e, "Window");
-    if (!rect.isNull()) {
+    if (!Member(e, "Window").isNull()) {
       r->windowPresent = 1;
       r->windowCount = n;
-      MotionWindow& w = r->windows[i];
-      ParseFields(e, &w, kWindowFields);
-      for (uint32_t k = 0; k < 4; ++k) w.rect[k] = ToInt32(Element(rect, k));
+      ParseFields(e, &r->windows[i], kWindow);
     }
-  }
+  });
 }
 
-void WriteWindows(const MotionDetectRecord& r, Json::Value& entries) {
+void PackWindows(const unsigned char* record, Json::Value& obj, const Field& f) {
+  const R& r = *reinterpret_cast<const R*>(record);
+  if (!r.windowPresent && !r.detectWindowPresent) return;
+  Json::Value& entries = SetMember(obj, f.key);
   entries = Json::Value(Json::arrayValue);
   const uint32_t nw = CutWindows(r.windowPresent, r.windowCount);
   const uint32_t nd = CutWindows(r.detectWindowPresent, r.detectWindowCount);
   for (uint32_t i = 0; i < std::max(nw, nd); ++i) {
     Json::Value& e = SetElement(entries, i);
     e = Json::Value(Json::objectValue);
-    if (i < nw) {
-      const MotionWindow& w = r.windows[i];
-      PackFields(&w, e, kWindowFields);
-      Json::Value& rect = SetMember(e, "Window");
-      for (uint32_t k = 0; k < 4; ++k) SetElement(rect, k) = w.rect[k];
-    }
+    if (i < nw) PackFields(&r.windows[i], e, kWindow);
     if (i < nd) {
       const MotionDetectWindow& w = r.detectWindows[i];
-      PackFields(&w, e, kDetectWindowFields);
-      WriteWindowGrid(w.region, CutRows(w.rows), SetMember(e, "Region"));
+      PackFields(&w, e, kDetectWindow);
+      WriteWindowGrid(w.region, CutCount(w.rows, kMaxRows), SetMember(e, "Region"));
     }
   }
 }
 
-void Fill(const Json::Value& /*params*/, const Json::Value& table, MotionDetectRecord* r) {
-  r->parsed = 1;
-  ParseFields(table, r, kFields);
-  const Json::Value& region = Member(table, "Region");
-  if (region.isArray()) {
-    r->rows = static_cast<int32_t>(ReadChannelGrid(region, r->region));
-    r->cols = static_cast<int32_t>(kWindowCells);
-  }
-  const Json::Value& row = Member(table, "Row");
-  if (!row.isNull()) r->rows = ToInt32(row);
-  const Json::Value& col = Member(table, "Col");
-  if (!col.isNull()) r->cols = ToInt32(col);
-  ReadWindows(Member(table, "MotionDetectWindow"), r);
-  ParseLinkageWithWeek(table, &r->eventHandler, &r->week);
+void ParseRegion(const Json::Value& obj, unsigned char* record, const Field& f) {
+  const Json::Value& region = Member(obj, f.key);
+  if (!region.isArray()) return;
+  R* r = reinterpret_cast<R*>(record);
+  r->rows = static_cast<int32_t>(ReadChannelGrid(region, r->region));
+  r->cols = static_cast<int32_t>(kWindowCells);
 }
 
-void Write(const MotionDetectRecord& r, Json::Value& table) {
-  PackFields(&r, table, kFields);
-  const uint32_t rows = CutRows(r.rows);
-  if (rows > 0) WriteChannelGrid(r.region, rows, SetMember(table, "Region"));
-  if (r.windowPresent || r.detectWindowPresent) {
-    WriteWindows(r, SetMember(table, "MotionDetectWindow"));
-  }
-  PackLinkage(r.eventHandler, &r.week, table);
+void PackRegion(const unsigned char* record, Json::Value& obj, const Field& f) {
+  const R& r = *reinterpret_cast<const R*>(record);
+  const uint32_t rows = CutCount(r.rows, kMaxRows);
+  if (rows > 0) WriteChannelGrid(r.region, rows, SetMember(obj, f.key));
 }
+
+constexpr Field kFields[] = {
+    KOVA_F(R, enable, "Enable", kBool),
+    KOVA_F(R, level, "Level", kInt).Flag(KOVA_AT(R, levelPresent)),
+    KOVA_F(R, volumeRatio, "VolumeRatio", kInt).Flag(KOVA_AT(R, volumeRatioPresent)),
+    KOVA_F(R, subRatio, "SubRatio", kInt).Flag(KOVA_AT(R, subRatioPresent)),
+    KOVA_CUSTOM(R, region, "Region", ParseRegion, PackRegion),
+    // Read after "Region", they override the size it set; never packed.
+    KOVA_F(R, rows, "Row", kInt).ParseOnly(),
+    KOVA_F(R, cols, "Col", kInt).ParseOnly(),
+    KOVA_CUSTOM(R, windows, "MotionDetectWindow", ParseWindows, PackWindows),
+    KOVA_EVENT_HANDLER_WITH_WEEK(R),
+};
+constexpr FieldTable kTable = KOVA_TABLE(kFields);
+
+bool ParseMotion(const Json::Value& table, const StepContext& ctx, unsigned char* record) {
+  reinterpret_cast<R*>(record)->parsed = 1;  // the device's text was read
+  return ParseTableStep<kTable>(table, ctx, record);
+}
+
+// Unlike the other alarm sources, "result" must be true, and a null table
+// gives an all-zero record.
+constexpr ResponseFrame kFrame = AlarmSourceFrame<R>(ParseMotion, PackTableStep<kTable>)
+                                     .Result(ResultRule::kMustBeTrue)
+                                     .OnNullTable(NullTable::kAllZeroRecord);
 
 }  // namespace
 
 int ParseMotionDetect(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseAlarmRecord<MotionDetectRecord>(jsonText, outBuf, outLen, retLen,
-                                              TableRule::kResultZeroOnNull, Fill);
+  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
 }
 
 int PackMotionDetect(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackAlarmRecord<MotionDetectRecord>(inBuf, inLen, outJson, outLen, Write);
+  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
 }
 
 }  // namespace kova

@@ -1,85 +1,81 @@
 // "TemperatureAlarm" and "FanSpeedAlarm": one entry per sensor or fan, each
-// with its normal range and its linkage block.
+// with its normal range and its linkage block, in caller-sized records.
+#include <cstddef>
+
+#include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
-#include "common/json/json.h"
-#include "config/alarm/alarm_frame.h"
-#include "config/alarm/sized_alarm_list.h"
 #include "config/alarm/translators.h"
+#include "drivers/response_frame.h"
 
 namespace kova {
 
 namespace {
 
-const Field kTemperatureFields[] = {
-    KOVA_F(TemperatureAlarmRecord, enable, "Enable", kBool),
-    KOVA_F(TemperatureAlarmRecord, name, "Name", kText),
+// Every packed entry holds at least its 42 week sections
+// ("0 00:00:00-00:00:00" and separators), so a list of n records needs more
+// than n times this many bytes of text.
+constexpr uint32_t kMinPackedEntryText = 42 * 21;
+
+// "table" is an array with one entry per sensor (a device with a single
+// sensor may answer with the object alone); the caller's buffer is a row of
+// records whose stride is the size it wrote into the first record's leading
+// uint32. A caller built against an older, shorter record gives a smaller
+// size: each record is then filled (and read) only as far as it reaches.
+template <typename Rec, const FieldTable& kTable>
+constexpr ResponseFrame SizedListFrame() {
+  return ResponseFrame::For<Rec>(ParseTableStep<kTable>, PackTableStep<kTable>)
+      .Walk(RecordWalk::kCallerSized)
+      .NonArray(NonArrayTable::kObjectOnly)
+      .PackArrayAlways()
+      .MinTextPerRecord(kMinPackedEntryText)
+      .Copy(CopyRule::kAtMost);
+}
+
+using T = TemperatureAlarmRecord;
+static_assert(offsetof(T, upperLimit) == offsetof(T, lowerLimit) + sizeof(double),
+              "the normal range is a pair");
+constexpr Field kTemperatureFields[] = {
+    KOVA_F(T, enable, "Enable", kBool),
+    KOVA_F(T, name, "Name", kText),
+    // [low, high]: any array counts, missing items read as 0.
+    KOVA_TUPLE_OF(T, lowerLimit, "NormalTemperature", double, kReal, 2)
+        .MinItems(0)
+        .Flag(KOVA_AT(T, limitsPresent)),
+    KOVA_EVENT_HANDLER_WITH_WEEK(T),
 };
+constexpr FieldTable kTemperatureTable = KOVA_TABLE(kTemperatureFields);
+constexpr ResponseFrame kTemperatureFrame = SizedListFrame<T, kTemperatureTable>();
 
-const Field kFanFields[] = {
-    KOVA_F(FanSpeedAlarmRecord, enable, "Enable", kBool),
-    KOVA_F(FanSpeedAlarmRecord, name, "Name", kText),
+using F = FanSpeedAlarmRecord;
+static_assert(offsetof(F, upperLimit) == offsetof(F, lowerLimit) + sizeof(int32_t),
+              "the normal range is a pair");
+constexpr Field kFanFields[] = {
+    KOVA_F(F, enable, "Enable", kBool),
+    KOVA_F(F, name, "Name", kText),
+    KOVA_TUPLE(F, lowerLimit, "NormalSpeed", int32_t, 2)
+        .MinItems(0)
+        .Flag(KOVA_AT(F, limitsPresent)),
+    KOVA_EVENT_HANDLER_WITH_WEEK(F),
 };
-
-void FillTemperature(const Json::Value& entry, TemperatureAlarmRecord* r) {
-  ParseFields(entry, r, kTemperatureFields);
-  const Json::Value& limits = Member(entry, "NormalTemperature");
-  if (limits.isArray()) {
-    r->limitsPresent = 1;
-    r->lowerLimit = ToDouble(Element(limits, 0));
-    r->upperLimit = ToDouble(Element(limits, 1));
-  }
-  ParseLinkageWithWeek(entry, &r->eventHandler, &r->week);
-}
-
-void WriteTemperature(const TemperatureAlarmRecord& r, Json::Value& entry) {
-  PackFields(&r, entry, kTemperatureFields);
-  if (r.limitsPresent) {
-    Json::Value& limits = SetMember(entry, "NormalTemperature");
-    SetElement(limits, 0) = r.lowerLimit;
-    SetElement(limits, 1) = r.upperLimit;
-  }
-  PackLinkage(r.eventHandler, &r.week, entry);
-}
-
-void FillFan(const Json::Value& entry, FanSpeedAlarmRecord* r) {
-  ParseFields(entry, r, kFanFields);
-  const Json::Value& limits = Member(entry, "NormalSpeed");
-  if (limits.isArray()) {
-    r->limitsPresent = 1;
-    r->lowerLimit = ToInt32(Element(limits, 0));
-    r->upperLimit = ToInt32(Element(limits, 1));
-  }
-  ParseLinkageWithWeek(entry, &r->eventHandler, &r->week);
-}
-
-void WriteFan(const FanSpeedAlarmRecord& r, Json::Value& entry) {
-  PackFields(&r, entry, kFanFields);
-  if (r.limitsPresent) {
-    Json::Value& limits = SetMember(entry, "NormalSpeed");
-    SetElement(limits, 0) = r.lowerLimit;
-    SetElement(limits, 1) = r.upperLimit;
-  }
-  PackLinkage(r.eventHandler, &r.week, entry);
-}
+constexpr FieldTable kFanTable = KOVA_TABLE(kFanFields);
+constexpr ResponseFrame kFanFrame = SizedListFrame<F, kFanTable>();
 
 }  // namespace
 
 int ParseTemperatureAlarm(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseSizedAlarmList<TemperatureAlarmRecord>(jsonText, outBuf, outLen, retLen,
-                                                     FillTemperature);
+  return ParseWithFrame(kTemperatureFrame, jsonText, outBuf, outLen, retLen);
 }
 
 int PackTemperatureAlarm(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackSizedAlarmList<TemperatureAlarmRecord>(inBuf, inLen, outJson, outLen,
-                                                    WriteTemperature);
+  return PackWithFrame(kTemperatureFrame, inBuf, inLen, outJson, outLen);
 }
 
 int ParseFanSpeedAlarm(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseSizedAlarmList<FanSpeedAlarmRecord>(jsonText, outBuf, outLen, retLen, FillFan);
+  return ParseWithFrame(kFanFrame, jsonText, outBuf, outLen, retLen);
 }
 
 int PackFanSpeedAlarm(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackSizedAlarmList<FanSpeedAlarmRecord>(inBuf, inLen, outJson, outLen, WriteFan);
+  return PackWithFrame(kFanFrame, inBuf, inLen, outJson, outLen);
 }
 
 }  // namespace kova

@@ -4,44 +4,44 @@
 // its own schedule; there is no separate week grid.
 #include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
-#include "common/json/json.h"
-#include "config/alarm/alarm_frame.h"
+#include "config/alarm/alarm_sources.h"
 #include "config/alarm/translators.h"
 
 namespace kova {
 
 namespace {
 
-const Field kEventFields[] = {
+constexpr Field kEventFields[] = {
     KOVA_F(SystemEventRecord, enable, "Enable", kBool),
+    KOVA_EVENT_HANDLER(SystemEventRecord, eventHandler),
 };
+constexpr FieldTable kEventTable = KOVA_TABLE(kEventFields);
+constexpr ResponseFrame kEventFrame = AlarmSourceFrame<SystemEventRecord, kEventTable>();
 
-const Field kLowSpaceFields[] = {
+constexpr Field kLowSpaceFields[] = {
     KOVA_F(StorageLowSpaceRecord, enable, "Enable", kBool),
     KOVA_F(StorageLowSpaceRecord, lowerLimit, "LowerLimit", kInt),
+    KOVA_EVENT_HANDLER(StorageLowSpaceRecord, eventHandler),
 };
+constexpr FieldTable kLowSpaceTable = KOVA_TABLE(kLowSpaceFields);
+constexpr ResponseFrame kLowSpaceFrame = AlarmSourceFrame<StorageLowSpaceRecord, kLowSpaceTable>();
 
 }  // namespace
 
 int ParseSystemEvent(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseAlarmRecord<SystemEventRecord>(jsonText, outBuf, outLen, retLen, TableRule::kReadNull,
-                                             FillFields<SystemEventRecord, 1, kEventFields>);
+  return ParseWithFrame(kEventFrame, jsonText, outBuf, outLen, retLen);
 }
 
 int PackSystemEvent(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackAlarmRecord<SystemEventRecord>(inBuf, inLen, outJson, outLen,
-                                            WriteFields<SystemEventRecord, 1, kEventFields>);
+  return PackWithFrame(kEventFrame, inBuf, inLen, outJson, outLen);
 }
 
 int ParseStorageLowSpace(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseAlarmRecord<StorageLowSpaceRecord>(jsonText, outBuf, outLen, retLen,
-                                                 TableRule::kReadNull,
-                                                 FillFields<StorageLowSpaceRecord, 2, kLowSpaceFields>);
+  return ParseWithFrame(kLowSpaceFrame, jsonText, outBuf, outLen, retLen);
 }
 
 int PackStorageLowSpace(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackAlarmRecord<StorageLowSpaceRecord>(inBuf, inLen, outJson, outLen,
-                                                WriteFields<StorageLowSpaceRecord, 2, kLowSpaceFields>);
+  return PackWithFrame(kLowSpaceFrame, inBuf, inLen, outJson, outLen);
 }
 
 }  // namespace kova

@@ -3,7 +3,7 @@
 // with the alarm.
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/alarm/alarm_frame.h"
+#include "common/blocks/event_handler.h"
 #include "config/audio/translators.h"
 #include "drivers/described_record.h"
 #include "kova/records/audio.h"
@@ -35,15 +35,15 @@ constexpr Field kInsideHandler[] = {
         .Flag(KOVA_AT(AudioDetectConfig, lightingLinkPresent)),
 };
 
+constexpr Field kLinkage = KOVA_EVENT_HANDLER_WITH_WEEK(AudioDetectConfig);
+
 void ParseLinkage(const Json::Value& obj, unsigned char* record, const Field&) {
-  AudioDetectConfig* r = reinterpret_cast<AudioDetectConfig*>(record);
-  kova::ParseLinkageWithWeek(obj, &r->eventHandler, &r->week);
+  kova::ParseEventHandlerWithWeekStep(obj, record, kLinkage);
   kova::ParseFields(kova::Member(obj, "EventHandler"), record, kInsideHandler);
 }
 
 void PackLinkage(const unsigned char* record, Json::Value& obj, const Field&) {
-  const AudioDetectConfig* r = reinterpret_cast<const AudioDetectConfig*>(record);
-  kova::PackLinkage(r->eventHandler, &r->week, obj);
+  kova::PackEventHandlerWithWeekStep(record, obj, kLinkage);
   kova::PackFields(record, kova::SetMember(obj, "EventHandler"), kInsideHandler);
 }
 

@@ -1,111 +1,132 @@
 // "Encode": the per-channel encoder configuration, up to three main-stream,
 // three extra-stream and three snapshot formats per channel.
 //
-// The envelope is handled here rather than by the table drivers: the channel
-// number comes from the response's root, and one channel's "table" is a bare
-// object. Parse never clears the caller's buffer.
-#include <algorithm>
+// The envelope is not the table drivers': the channel number comes from the
+// response's root, and one channel's "table" is a bare object. Parse never
+// clears the caller's buffer, so every has-flag is written both ways (false
+// for an absent key) while a value is written only for a present key.
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 #include "common/fields/field_table.h"
-#include "common/json/json.h"
-#include "common/json/json_writer.h"
-#include "config/media/encode_format.h"
-#include "config/media/media_response.h"
+#include "config/media/encode_tables.h"
 #include "config/media/translators.h"
+#include "drivers/response_frame.h"
 #include "kova/records/media.h"
 
 namespace kova {
-
 namespace {
 
-constexpr uint32_t kRecordSize = sizeof(EncodeConfig);
-constexpr uint32_t kFormatSlots = 3;
+using V = VideoFormat;
+using A = AudioFormat;
+using E = EncodeFormat;
+
+// `key` into `member`, its has-flag written both ways.
+#define KOVA_HAS(Rec, member, key, KIND, flag) \
+  KOVA_F(Rec, member, key, KIND).Flag(KOVA_AT(Rec, flag)).ClearsFlag()
+#define KOVA_HAS_ENUM(Rec, member, key, names, flag) \
+  KOVA_ENUM(Rec, member, key, names).Flag(KOVA_AT(Rec, flag)).ClearsFlag()
+
+constexpr Field kVideoFields[] = {
+    KOVA_HAS(V, bitRate, "BitRate", kInt, hasBitRate),
+    KOVA_HAS_ENUM(V, bitRateControl, "BitRateControl", kBitRateControlNames, hasBitRateControl)
+        .UnnamedAs(Unnamed::kFirstName),
+    KOVA_HAS_ENUM(V, compression, "Compression", kVideoCompressionNames, hasCompression),
+    KOVA_HAS(V, frameRate, "FPS", kReal, hasFrameRate),
+    KOVA_HAS_ENUM(V, pack, "Pack", kPackFormatNames, hasPack),
+    KOVA_HAS(V, height, "Height", kInt, hasHeight),
+    KOVA_HAS(V, gop, "GOP", kInt, hasGop),
+    KOVA_HAS(V, quality, "Quality", kInt, hasQuality),
+    KOVA_HAS(V, width, "Width", kInt, hasWidth),
+    KOVA_HAS_ENUM(V, profile, "Profile", kProfileNames, hasProfile).UnnamedAs(Unnamed::kFirstName),
+};
+
+constexpr Field kAudioFields[] = {
+    KOVA_HAS_ENUM(A, compression, "Compression", kAudioCompressionNames, hasCompression)
+        .UnnamedAs(Unnamed::kFirstName),
+    KOVA_HAS(A, depth, "Depth", kInt, hasDepth),
+    KOVA_HAS_ENUM(A, pack, "Pack", kPackFormatNames, hasPack),
+    KOVA_HAS(A, frequency, "Frequency", kInt, hasFrequency),
+    KOVA_HAS(A, mode, "Mode", kInt, hasMode),
+    KOVA_HAS(A, packetPeriod, "PacketPeriod", kInt, hasPacketPeriod),
+};
+
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(VideoFormat, kVideoFields)
+KOVA_DESCRIBE(AudioFormat, kAudioFields)
+
+namespace kova {
+namespace {
+
+constexpr Field kFormatFields[] = {
+    KOVA_HAS(E, audioEnable, "AudioEnable", kBool, hasAudioEnable),
+    // Without "Audio" the audio block, has-flags included, keeps the caller's
+    // bytes; "Audio" of any other type reads as an object without members.
+    KOVA_NESTED(E, audio, "Audio").Flag(KOVA_AT(E, hasAudioFormat)).ClearsFlag().AnyType(),
+    KOVA_HAS(E, videoEnable, "VideoEnable", kBool, hasVideoEnable),
+    // Always read, so that a missing "Video" writes its ten has-flags false;
+    // written when one of them is set.
+    KOVA_NESTED(E, video, "Video")
+        .AlwaysRead()
+        .WhenAnySet(KOVA_FLAGS(E, video.hasCompression, video.hasProfile)),
+    KOVA_HAS(E, snapEnable, "SnapEnable", kBool, hasSnapEnable),
+};
+
+#undef KOVA_HAS
+#undef KOVA_HAS_ENUM
+
+}  // namespace
+}  // namespace kova
+
+KOVA_DESCRIBE(EncodeFormat, kFormatFields)
+
+namespace kova {
+namespace {
+
+using C = EncodeConfig;
+
 constexpr int32_t kLayoutVersion = 3;
 
-struct FormatArray {
-  const char* key;
-  size_t offset;
+// A format array: its first three elements, element i into slot i (a slot
+// without an element keeps its bytes, a fourth element is ignored); any
+// element, null included, writes its slot's has-flags. A slot without a
+// has-flag packs as null, and the three slots are always written.
+constexpr Field kFormat = KOVA_ITEM_NESTED(EncodeFormat).AlwaysRead().NullWhenEmpty();
+constexpr Field kChannelFields[] = {
+    KOVA_LIST(C, mainFormat, "MainFormat", kFormat).KeepSlots(),
+    KOVA_LIST(C, extraFormat, "ExtraFormat", kFormat).KeepSlots(),
+    KOVA_LIST(C, snapFormat, "SnapFormat", kFormat).KeepSlots(),
 };
+constexpr FieldTable kChannel = KOVA_TABLE(kChannelFields);
 
-const FormatArray kFormatArrays[] = {
-    {"MainFormat", offsetof(EncodeConfig, mainFormat)},
-    {"ExtraFormat", offsetof(EncodeConfig, extraFormat)},
-    {"SnapFormat", offsetof(EncodeConfig, snapFormat)},
-};
-
-void ParseChannel(const Json::Value& table, int32_t channel, unsigned char* record) {
-  StoreInt(record + offsetof(EncodeConfig, layoutVersion), 4, kLayoutVersion);
-  StoreInt(record + offsetof(EncodeConfig, channel), 4, channel);
-  for (const FormatArray& a : kFormatArrays) {
-    const Json::Value& formats = Member(table, a.key);
-    if (!formats.isArray()) continue;
-    // Devices have been seen sending a fourth format; the record holds three.
-    const uint32_t n = std::min(Count(formats), kFormatSlots);
-    for (uint32_t i = 0; i < n; ++i) {
-      ParseEncodeFormat(Element(formats, i), record + a.offset + i * sizeof(EncodeFormat));
-    }
-  }
+bool ParseChannel(const Json::Value& table, const StepContext& ctx, unsigned char* record) {
+  // Written by every parse; neither is packed.
+  StoreInt(record + offsetof(C, layoutVersion), sizeof(int32_t), kLayoutVersion);
+  StoreInt(record + offsetof(C, channel), sizeof(int32_t), ctx.channel);
+  return ParseTableStep<kChannel>(table, ctx, record);
 }
 
-void PackChannel(const unsigned char* record, Json::Value& target) {
-  for (const FormatArray& a : kFormatArrays) {
-    Json::Value& formats = SetMember(target, a.key);
-    formats = Json::Value(Json::arrayValue);
-    for (uint32_t i = 0; i < kFormatSlots; ++i) {
-      PackEncodeFormat(record + a.offset + i * sizeof(EncodeFormat), SetElement(formats, i));
-    }
-  }
-}
+// Pack: exactly one record is an object, anything longer an array (one
+// record and a partial one included), a shorter input "null"; the text may
+// fill the buffer exactly, without a terminator.
+constexpr ResponseFrame kFrame = ResponseFrame::For<C>(ParseChannel, PackTableStep<kChannel>)
+                                     .Walk(RecordWalk::kPerChannel)
+                                     .ChannelAtRoot()
+                                     .Clear(Clearing::kNone)
+                                     .ShortInputAsNull()
+                                     .ArrayUnlessExactlyOne()
+                                     .Copy(CopyRule::kAtMost);
 
 }  // namespace
 
 int ParseEncode(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  if (jsonText == nullptr || outBuf == nullptr || outLen < kRecordSize) return 0;
-  Json::Value root;
-  const Json::Value* table = nullptr;
-  if (!ReadResponse(jsonText, true, &root, &table)) return 0;
-  const int32_t channel = ToInt32(Member(root, "channel"));
-  if (table->isNull()) {
-    SetReturnedLength(retLen, 0);
-    return 1;
-  }
-  unsigned char* out = static_cast<unsigned char*>(outBuf);
-  if (channel >= 0) {
-    ParseChannel(*table, channel, out);
-    SetReturnedLength(retLen, kRecordSize);
-    return 1;
-  }
-  // A negative channel asks for every channel: one array element per record.
-  if (!table->isArray()) return 0;
-  const uint32_t n = std::min(Count(*table), outLen / kRecordSize);
-  for (uint32_t i = 0; i < n; ++i) {
-    ParseChannel(Element(*table, i), static_cast<int32_t>(i),
-                 out + static_cast<uint64_t>(i) * kRecordSize);
-  }
-  SetReturnedLength(retLen, static_cast<uint64_t>(n) * kRecordSize);
-  return 1;
+  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
 }
 
 int PackEncode(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  if (inBuf == nullptr || outJson == nullptr || inLen == 0 || outLen == 0) return 0;
-  if (inLen < kRecordSize) return 0;
-  std::memset(outJson, 0, outLen);
-  const unsigned char* in = static_cast<const unsigned char*>(inBuf);
-  Json::Value root;
-  if (inLen == kRecordSize) {
-    PackChannel(in, root);
-  } else {
-    // Anything beyond one record is an array, even one record and a partial one.
-    root = Json::Value(Json::arrayValue);
-    for (uint32_t i = 0; i < inLen / kRecordSize; ++i) {
-      PackChannel(in + static_cast<uint64_t>(i) * kRecordSize, SetElement(root, i));
-    }
-  }
-  // The text may fill the buffer exactly, without a terminator.
-  return CopyTextAtMost(WriteJson(root), outJson, outLen) ? 1 : 0;
+  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
 }
 
 }  // namespace kova

@@ -3,45 +3,42 @@
 #include <cstdint>
 
 #include "common/fields/field_table.h"
-#include "common/json/json.h"
-#include "config/media/media_response.h"
 #include "config/media/translators.h"
+#include "drivers/response_frame.h"
 #include "kova/records/media.h"
 
 namespace kova {
 
 namespace {
 
-constexpr uint32_t kRecordSize = sizeof(EncodeAdaptConfig);
-
-const char* const kPolicy[] = {"None", "Quality", "Fluency"};
-const char* const kFluencyMode[] = {"Fast", "Slow", "Sync", "Slowsync"};
+constexpr const char* kPolicy[] = {"None", "Quality", "Fluency"};
+constexpr const char* kFluencyMode[] = {"Fast", "Slow", "Sync", "Slowsync"};
 // Exact comparison; an unknown text stores 0, which packs as "".
-const EnumNames kPolicyNames = {kPolicy, 3, true, 1, true, 0, false};
-const EnumNames kFluencyModeNames = {kFluencyMode, 4, true, 1, true, 0, false};
+constexpr EnumNames kPolicyNames = EnumNames::Of(kPolicy).Exact().FirstValue(1).UnknownAs(0);
+constexpr EnumNames kFluencyModeNames =
+    EnumNames::Of(kFluencyMode).Exact().FirstValue(1).UnknownAs(0);
 
-const Field kAdaptFields[] = {
+// A key that is absent or null leaves its field.
+constexpr Field kFields[] = {
     KOVA_ENUM(EncodeAdaptConfig, policy, "Policy", kPolicyNames),
     KOVA_ENUM(EncodeAdaptConfig, fluencyMode, "FluencyMode", kFluencyModeNames),
 };
+constexpr FieldTable kTable = KOVA_TABLE(kFields);
 
-void ParseAdaptRecord(const Json::Value& channel, unsigned char* record) {
-  ParseFields(channel, record, kAdaptFields);
-}
-
-int PackAdaptRecord(const void* record, Json::Value& target) {
-  PackFields(record, target, kAdaptFields);
-  return 1;
-}
+// "table" is one channel's object or an array of channels; the buffer is not cleared.
+constexpr ResponseFrame kFrame =
+    ResponseFrame::For<EncodeAdaptConfig>(ParseTableStep<kTable>, PackTableStep<kTable>)
+        .Walk(RecordWalk::kPerChannel)
+        .Clear(Clearing::kNone);
 
 }  // namespace
 
 int ParseEncodeAdapt(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseChannels(jsonText, outBuf, outLen, retLen, kRecordSize, true, ParseAdaptRecord);
+  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
 }
 
 int PackEncodeAdapt(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackChannels(inBuf, inLen, outJson, outLen, kRecordSize, PackAdaptRecord);
+  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
 }
 
 }  // namespace kova

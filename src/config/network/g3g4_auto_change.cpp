@@ -1,23 +1,27 @@
 // "G3G4AutoChange": a one-field record served by the table drivers.
-#include <cstring>
-
-#include "common/json/json.h"
+#include "common/fields/field_table.h"
 #include "config/network/translators.h"
+#include "drivers/table_driver.h"
 #include "kova/records/network.h"
 
 namespace kova {
 
+namespace {
+
+// Absent reads as false.
+constexpr Field kFields[] = {
+    KOVA_F(G3G4AutoChangeRecord, enable, "Enable", kBool).AlwaysRead(),
+};
+constexpr FieldTable kTable = KOVA_TABLE(kFields);
+
+}  // namespace
+
 int ParseG3G4AutoChangeRecord(const Json::Value& element, void* record) {
-  const uint32_t enable = ToBool(Member(element, "Enable")) ? 1 : 0;
-  std::memcpy(record, &enable, sizeof enable);
-  return 1;
+  return ParseTableRecord<kTable>(element, record);
 }
 
 int PackG3G4AutoChangeRecord(const void* record, Json::Value& target) {
-  G3G4AutoChangeRecord r;
-  std::memcpy(&r, record, sizeof r);
-  SetMember(target, "Enable") = r.enable != 0;
-  return 1;
+  return PackTableRecord<kTable>(record, target);
 }
 
 }  // namespace kova

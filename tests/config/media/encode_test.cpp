@@ -4,6 +4,7 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
@@ -170,8 +171,19 @@ TEST(Encode, PackShapesAndFallbacks) {
   std::vector<unsigned char> more(kRec + 7, 0);
   std::memcpy(more.data(), &r, kRec);
   EXPECT_EQ("[ " + one.substr(0, one.size() - 1) + " ]\n", Pack(more.data(), more.size()));
-  // Less than one record is refused.
-  EXPECT_EQ("", Pack(&r, kRec - 1));
+}
+
+TEST(Encode, InputShorterThanOneRecordPacksAsNullReadingNothing) {
+  // Every byte set: a record read from it would pack flags and values. The
+  // buffer holds exactly the input, so a read past it is caught under ASan.
+  for (uint32_t inLen : {1u, 7u, kRec - 1}) {
+    std::unique_ptr<unsigned char[]> in(new unsigned char[inLen]);
+    std::memset(in.get(), 0xFF, inLen);
+    EXPECT_EQ("null\n", Pack(in.get(), inLen)) << inLen;
+  }
+  // An empty input is shorter than one record too.
+  const unsigned char one = 0xFF;
+  EXPECT_EQ("null\n", Pack(&one, 0));
 }
 
 TEST(Encode, PackCopiesTextThatFillsTheBufferExactly) {
