@@ -29,6 +29,9 @@ struct PackName {
   const char* name;
   PackFn pack;          // null: not built yet (or served by a driver binding)
   uint32_t recordSize;  // bytes of one record; 0 when not built (drivers: see the binding)
+  // An input of at least one byte but shorter than one record packs as
+  // "null" rather than being refused (the packer's frame says so too).
+  bool shortInputPacksNull = false;
 };
 
 // Settings of one configuration served by the table drivers. A null

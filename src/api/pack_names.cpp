@@ -11,8 +11,8 @@ namespace kova {
 #define KOVA_DRIVER_NAME_ENTRY(name, ...) {name, nullptr, 0},
 
 const PackName kPackNames[] = {
-    {"Encode", PackEncode, sizeof(EncodeConfig)},
-    {"Record", PackRecord, sizeof(RecordConfig)},
+    {"Encode", PackEncode, sizeof(EncodeConfig), true},
+    {"Record", PackRecord, sizeof(RecordConfig), true},
     {"Alarm", PackAlarm, sizeof(AlarmInRecord)},
     {"NetAlarm", PackNetAlarm, sizeof(NetAlarmRecord)},
     {"MotionDetect", PackMotionDetect, sizeof(MotionDetectRecord)},

@@ -44,21 +44,6 @@ bool ParseDescribedSized(const Json::Value& element, const StepContext& ctx,
   return ParseDescribed<kWhole>(element, ctx, record);
 }
 
-// Steps of a record that is one field table: the element's members through
-// the walker, and back. (A table for ParseFields, with custom steps where
-// the record is irregular.)
-template <const FieldTable& kTable>
-bool ParseTableStep(const Json::Value& element, const StepContext& /*ctx*/,
-                    unsigned char* record) {
-  ParseFields(element, record, kTable);
-  return true;
-}
-template <const FieldTable& kTable>
-bool PackTableStep(const unsigned char* record, Json::Value& out) {
-  PackFields(record, out, kTable);
-  return true;
-}
-
 // The frame of a described per-channel record: "result" must be true, the
 // caller's buffer is cleared, element i of an array table fills record i
 // (as many as fit), any other table fills record 0, and the returned length

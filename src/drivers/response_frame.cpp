@@ -70,11 +70,11 @@ int ParseObjectMembers(const ResponseFrame& f, const Json::Value& root, const Js
       if (filled >= slots) break;
       const Json::Value& element = Member(table, name.c_str());
       if (!element.isObject()) continue;
-      const StepContext ctx{root, Member(root, "params"), filled, f.recordSize, name.c_str()};
+      const StepContext ctx{root, Member(root, "params"), filled, f.recordSize, name.c_str(),
+                            static_cast<int32_t>(filled)};
       unsigned char* record = out + static_cast<size_t>(filled) * f.recordSize;
       if (!f.parse(element, ctx, record)) {
-        if (f.clearing != Clearing::kNone)
-          std::memset(out, 0, static_cast<size_t>(slots) * f.recordSize);
+        if (f.clearing != Clearing::kNone) std::memset(out, 0, static_cast<size_t>(slots) * f.recordSize);
         return 0;
       }
       ++filled;
@@ -98,27 +98,6 @@ bool ListsChannels(const ResponseFrame& f, const Json::Value& table) {
   return false;
 }
 
-// Whether a record is worked in a copy: a slot shorter than the record, or
-// not aligned for it (caller-sized strides are arbitrary).
-bool NeedsCopy(const ResponseFrame& f, const unsigned char* slot, uint32_t stride) {
-  return stride < f.recordSize || reinterpret_cast<uintptr_t>(slot) % f.recordAlign != 0;
-}
-
-// How many records a table that fills record 0 alone gives, by the frame's
-// rule for a table that is not an array.
-uint32_t SingleRecords(const ResponseFrame& f, const Json::Value& table) {
-  if (f.walk == RecordWalk::kOne) return 1;
-  switch (f.nonArray) {
-    case NonArrayTable::kOneRecord:
-      return 1;
-    case NonArrayTable::kObjectOnly:
-      return table.isObject() ? 1 : 0;
-    case NonArrayTable::kNoRecord:
-      return 0;
-  }
-  return 1;
-}
-
 }  // namespace
 
 uint32_t CallerRecordSize(const void* buf, uint32_t len) {
@@ -139,6 +118,17 @@ int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRul
                                                 : CopyTextStrict(text, outJson, outLen);
   return copied ? 1 : 0;
 }
+
+namespace {
+
+// Whether record i is worked in a copy: a slot shorter than the record, or
+// not aligned for it (caller-sized strides are arbitrary).
+bool NeedsCopy(const ResponseFrame& f, const unsigned char* slot, uint32_t stride) {
+  return stride < f.recordSize || reinterpret_cast<uintptr_t>(slot) % f.recordAlign != 0;
+}
+
+
+}  // namespace
 
 int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, uint32_t outLen,
                    uint32_t* retLen) {
@@ -165,6 +155,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
       return 0;
     }
     const Json::Value& table = TableOf(f, root);
+    const int32_t rootChannel = f.channelAtRoot ? ToInt32(Member(root, "channel")) : 0;
     if (table.isNull() && f.nullTable != NullTable::kStep) {
       switch (f.nullTable) {
         case NullTable::kFail:
@@ -188,14 +179,18 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
       return ParseObjectMembers(f, root, table, out, slots, retLen);
     }
     bool perElement = f.walk != RecordWalk::kOne && ListsChannels(f, table);
-    uint32_t n = perElement ? std::min(Count(table), slots) : SingleRecords(f, table);
     if (f.walk != RecordWalk::kOne && f.channelAtRoot) {
-      perElement = ToInt32(Member(root, "channel")) < 0;
+      perElement = rootChannel < 0;
       if (perElement && !table.isArray()) return 0;
-      n = perElement ? std::min(Count(table), slots) : 1;
     }
+    uint32_t n = perElement ? std::min(Count(table), slots) : 1;
+    if (!perElement && f.walk != RecordWalk::kOne && !f.channelAtRoot && !table.isArray()) {
+      // What a per-channel walk makes of a table that is not an array.
+      if (f.nonArray == NonArrayTable::kNoRecord) n = 0;
+      if (f.nonArray == NonArrayTable::kObjectOnly && !table.isObject()) n = 0;
+    }
+    const Json::Value& params = Member(root, "params");
     std::vector<unsigned char> copy;  // only for caller-sized slots that need one
-    const StepContext ctxBase{root, Member(root, "params"), 0, f.recordSize, nullptr};
     uint32_t filled = 0;
     for (uint32_t i = 0; i < n; ++i) {
       const Json::Value& element = perElement ? Element(table, i) : table;
@@ -208,7 +203,9 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
         std::memcpy(copy.data(), slot, std::min(stride, f.recordSize));
         record = copy.data();
       }
-      const StepContext ctx{ctxBase.root, ctxBase.params, i, f.recordSize, nullptr};
+      const int32_t channel = perElement ? static_cast<int32_t>(i) : rootChannel;
+      const StepContext ctx{root, params, i, f.recordSize, nullptr,
+                            f.channelAtRoot ? channel : static_cast<int32_t>(i)};
       if (!f.parse(element, ctx, record)) {
         if (f.clearing != Clearing::kNone) ClearOutput(f, out, outLen, stride);
         return 0;
@@ -239,6 +236,8 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
     }
     const uint32_t n = f.packWalk == PackWalk::kOne ? 1 : inLen / stride;
     if (static_cast<uint64_t>(n) * f.minTextPerRecord > outLen) return 0;
+    std::vector<unsigned char> copy;  // only for caller-sized slots that need one
+
     Json::Value root;
     const bool members = f.packWalk == PackWalk::kObjectMembers;
     const bool array =
@@ -246,7 +245,6 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
                      (f.arrayUnlessExactlyOne && f.packWalk != PackWalk::kOne && inLen != stride));
     if (array) root = Json::Value(Json::arrayValue);
     if (members) root = Json::Value(Json::objectValue);
-    std::vector<unsigned char> copy;  // only for caller-sized slots that need one
     for (uint32_t i = 0; i < n; ++i) {
       const unsigned char* record = in + static_cast<size_t>(i) * stride;
       if (NeedsCopy(f, record, stride)) {

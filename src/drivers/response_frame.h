@@ -8,9 +8,10 @@
 //
 // A configuration states its frame once:
 //
-//   constexpr ResponseFrame kFrame = ResponseFrame::For<NtpRecord>(ParseNtp, PackNtp)
-//                                        .Walk(RecordWalk::kPerChannel)
-//                                        .IgnoreResult();
+//   constexpr ResponseFrame kFrame =
+//       ResponseFrame::For<NtpRecord>(ParseTableStep<kNtp>, PackTableStep<kNtp>)
+//           .Walk(RecordWalk::kPerChannel)
+//           .IgnoreResult();
 //   int ParseNtpConfig(const char* t, void* o, uint32_t n, uint32_t* r) {
 //     return ParseWithFrame(kFrame, t, o, n, r);
 //   }
@@ -26,6 +27,8 @@
 
 #include <cstdint>
 
+#include "common/fields/field_table.h"
+
 namespace kova {
 
 // What the step sees besides its own element.
@@ -35,6 +38,9 @@ struct StepContext {
   uint32_t index;             // record index in the walk
   uint32_t recordBytes;       // bytes of the record the step may touch
   const char* memberName;     // RecordWalk::kObjectMembers: the element's member name, else null
+  // The record's channel: the root's "channel" for a one-record answer
+  // read with ChannelAtRoot(), else `index`.
+  int32_t channel;
 };
 
 // One record from one JSON element. false fails the whole parse.
@@ -72,8 +78,7 @@ enum class RecordWalk : uint8_t {
   // record. Anything but an object fills nothing.
   kObjectMembers,
 };
-// What a per-channel or caller-sized walk does with a table that is not an
-// array (the root's "channel" aside).
+// What a per-channel or caller-sized walk does with a table that is not an array.
 enum class NonArrayTable : uint8_t {
   kOneRecord,   // it fills record 0, whatever it is
   kObjectOnly,  // an object fills record 0, anything else no record
@@ -81,9 +86,9 @@ enum class NonArrayTable : uint8_t {
 };
 // What `retLen` receives.
 enum class ReturnedLength : uint8_t {
-  kSetBytes,    // set to the bytes of the records filled
-  kAddBytes,    // increased by them
-  kSetRecord,   // set to one record's size whenever the parse succeeds
+  kSetBytes,   // set to the bytes of the records filled
+  kAddBytes,   // increased by them
+  kSetRecord,  // set to one record's size whenever the parse succeeds
 };
 // When packed text is copied: its length at most, or strictly less than, the output size.
 enum class CopyRule : uint8_t { kAtMost, kStrictlyLess };
@@ -108,7 +113,6 @@ struct ResponseFrame {
   Clearing clearing = Clearing::kWholeBuffer;
   RecordWalk walk = RecordWalk::kOne;
   bool skipNullElements = false;  // per-channel: a null element leaves its record and is not counted
-  NonArrayTable nonArray = NonArrayTable::kOneRecord;
   // A record's own JSON is an array (a channel's profiles): a per-channel
   // table lists channels only when its first non-null element is an array;
   // otherwise the table is one record.
@@ -132,6 +136,7 @@ struct ResponseFrame {
   // records than the output could hold is refused before any is packed.
   uint32_t minTextPerRecord = 0;
   bool refuseEmptyText = false;  // an empty text fails before anything is cleared
+  NonArrayTable nonArray = NonArrayTable::kOneRecord;
 
   template <typename Rec>
   static constexpr ResponseFrame For(ParseStep p, PackStep k) {
@@ -157,7 +162,6 @@ struct ResponseFrame {
     return f;
   }
   constexpr ResponseFrame SkipNullElements() const { auto f = *this; f.skipNullElements = true; return f; }
-  constexpr ResponseFrame NonArray(NonArrayTable n) const { auto f = *this; f.nonArray = n; return f; }
   constexpr ResponseFrame ArrayRecords() const { auto f = *this; f.arrayRecords = true; return f; }
   constexpr ResponseFrame Returned(ReturnedLength r) const { auto f = *this; f.returned = r; return f; }
   constexpr ResponseFrame Copy(CopyRule c) const { auto f = *this; f.copy = c; return f; }
@@ -172,6 +176,7 @@ struct ResponseFrame {
   }
   constexpr ResponseFrame MinTextPerRecord(uint32_t n) const { auto f = *this; f.minTextPerRecord = n; return f; }
   constexpr ResponseFrame RefuseEmptyText() const { auto f = *this; f.refuseEmptyText = true; return f; }
+  constexpr ResponseFrame NonArray(NonArrayTable n) const { auto f = *this; f.nonArray = n; return f; }
 };
 
 // 1 on success, 0 on failure. Never writes past `outLen`; on failure the
@@ -179,10 +184,23 @@ struct ResponseFrame {
 // cleared again).
 int ParseWithFrame(const ResponseFrame& frame, const char* jsonText, void* outBuf, uint32_t outLen,
                    uint32_t* retLen);
-// 1 on success, 0 on failure. Never reads past `inLen`; `outJson` is cleared
-// first and stays cleared on failure.
+// 1 on success, 0 on failure. Never reads past `inLen`; an empty input is
+// refused; `outJson` is cleared first and stays cleared on failure.
 int PackWithFrame(const ResponseFrame& frame, const void* inBuf, uint32_t inLen, char* outJson,
                   uint32_t outLen);
+
+// Steps of a record that is one field table: the element's members through
+// the walker, and back.
+template <const FieldTable& kTable>
+bool ParseTableStep(const Json::Value& element, const StepContext& /*ctx*/, unsigned char* record) {
+  ParseFields(element, record, kTable);
+  return true;
+}
+template <const FieldTable& kTable>
+bool PackTableStep(const unsigned char* record, Json::Value& out) {
+  PackFields(record, out, kTable);
+  return true;
+}
 
 // The caller's record size from the first record's leading uint32: 0 when
 // the buffer cannot hold the size word, or the size is 0 or above `len`.

@@ -224,8 +224,9 @@ std::string PackViolation(int k, const std::string& record, uint32_t inLen, uint
   }
   const bool callerSized = sizeWord >= 1 && sizeWord <= inLen;
   if (recordSize != 0 && inLen < recordSize && !callerSized) {
-    if (!PackAcceptsShortInput(k) && r.ret != 0) return "packed an input shorter than one record";
-    if (PackAcceptsShortInput(k) && outLen > 5 && (r.ret == 0 || r.text != "null\n")) {
+    const bool packsNull = PackAcceptsShortInput(k, inLen);
+    if (!packsNull && r.ret != 0) return "packed an input shorter than one record";
+    if (packsNull && outLen > 5 && (r.ret == 0 || r.text != "null\n")) {
       return "an input shorter than one record did not pack as null";
     }
   }

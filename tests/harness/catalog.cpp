@@ -26,13 +26,6 @@ uint32_t PackSizeOrDefault(int k) {
 
 namespace {
 
-// Packers that write an input shorter than one record as null (besides the
-// table driver in array mode, found by its binding). One line per name.
-const char* const kShortInputAsNull[] = {
-    "Encode",
-    "Record",
-};
-
 // Configurations whose records begin with their caller-set size. One line per name.
 const char* const kCallerSizedNames[] = {
     "TemperatureAlarm",
@@ -51,9 +44,10 @@ bool Listed(const char* const (&names)[N], const char* name) {
 
 }  // namespace
 
-bool PackAcceptsShortInput(int k) {
+bool PackAcceptsShortInput(int k, uint32_t inLen) {
   const kova::DriverBinding* b = kova::PackBinding(k);
-  return (b != nullptr && b->packArray != 0) || Listed(kShortInputAsNull, kPackNames[k].name);
+  if (b != nullptr) return b->packArray != 0;
+  return kPackNames[k].shortInputPacksNull;
 }
 
 bool CallerSized(const char* name) { return Listed(kCallerSizedNames, name); }

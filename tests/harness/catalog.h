@@ -28,10 +28,11 @@ uint32_t PackSize(int k);
 uint32_t ParseSizeOrDefault(int i);
 uint32_t PackSizeOrDefault(int k);
 
-// Whether the packer of pack name `k` packs an input shorter than one
-// record as "null" instead of refusing it: the table driver in array mode,
-// and the names listed in catalog.cpp.
-bool PackAcceptsShortInput(int k);
+// Whether the packer of pack name `k` packs an input of `inLen` bytes,
+// shorter than one record, as "null" instead of refusing it: the table
+// driver in array mode and the translators whose list entry says so (any
+// length, none included).
+bool PackAcceptsShortInput(int k, uint32_t inLen);
 
 // Whether `name` has caller-sized records (listed in catalog.cpp): each
 // begins with a uint32 size the caller sets, and the translator steps

@@ -10,15 +10,14 @@ void ParseChannelMask(const Json::Value& channels, ChannelRule rule, uint32_t wo
   ForEachElement(channels, kMaskChannels, [rule, words](uint32_t, const Json::Value& item) {
     const int32_t c = ToInt32(item);
     if (rule == ChannelRule::kInRange) {
-      if (c < 0 || c >= static_cast<int32_t>(kMaskChannels)) return true;
+      if (c < 0 || c >= static_cast<int32_t>(kMaskChannels)) return;
       words[c / 32] |= 1u << (c % 32);
     } else {
       // Truncating division sends -31..-1 to word 0 and the masked signed
       // remainder to bits 1..31: the device reads these sets that way.
-      if (c <= -32 || c / 32 >= static_cast<int32_t>(kMaskWords)) return true;
+      if (c <= -32 || c / 32 >= static_cast<int32_t>(kMaskWords)) return;
       words[c / 32] |= 1u << ((c % 32) & 31);
     }
-    return true;
   });
 }
 

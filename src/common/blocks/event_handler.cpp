@@ -166,7 +166,7 @@ constexpr Field kEventHandlerFields[] = {
     KOVA_CUSTOM(R, videoTitles, "VideoTitle", ParseTitles, PackTitles)
         .Flag(EH_AT(KOVA_EH_VIDEO_TITLE))
         .Count(KOVA_AT(R, videoTitleCount), CountRule::kAll),
-    KOVA_GROUP("MailDetail", kMailDetail).Flag(EH_AT(KOVA_EH_MAIL_DETAIL)).AnyType(),
+    KOVA_GROUP(R, "MailDetail", kMailDetail).Flag(EH_AT(KOVA_EH_MAIL_DETAIL)).AnyType(),
     KOVA_LIST(R, monitorTours, "MonitorTour", kMonitorTour)
         .Flag(EH_AT(KOVA_EH_MONITOR_TOUR))
         .Count(KOVA_AT(R, monitorTourCount), CountRule::kAll)
@@ -180,9 +180,9 @@ constexpr Field kEventHandlerFields[] = {
     KOVA_CUSTOM(R, accessControlOperations, "AccessControls", ParseAccessControls,
                 PackAccessControls)
         .Flag(KOVA_AT(R, accessControlsPresent)),
-    KOVA_GROUP("Voice", kVoice).WhenAnySet(KOVA_AT(R, voicePresent)),
-    KOVA_GROUP("Talkback", kTalkback).Flag(KOVA_AT(R, talkbackPresent)).AnyType(),
-    KOVA_GROUP("PSTNAlarmServer", kPstn).Flag(KOVA_AT(R, pstnAlarmServerPresent)).AnyType(),
+    KOVA_GROUP(R, "Voice", kVoice).WhenAnySet(KOVA_AT(R, voicePresent)),
+    KOVA_GROUP(R, "Talkback", kTalkback).Flag(KOVA_AT(R, talkbackPresent)).AnyType(),
+    KOVA_GROUP(R, "PSTNAlarmServer", kPstn).Flag(KOVA_AT(R, pstnAlarmServerPresent)).AnyType(),
 };
 constexpr FieldTable kEventHandler = KOVA_TABLE(kEventHandlerFields);
 
@@ -190,30 +190,15 @@ constexpr FieldTable kEventHandler = KOVA_TABLE(kEventHandlerFields);
 
 }  // namespace
 
-namespace {
-
 // "TimeSection", the holiday schedule, with its own rules (intended): an
-// object (or any other non-array) leaves the schedule (and a grid read
-// beside it) as the caller left it, a null one clears the schedule, a
-// failed read is ignored; pack always writes it.
-bool ReadsSchedule(const Json::Value& timeSection) {
-  return timeSection.isArray() || timeSection.isNull();
-}
-
-// ParseEventHandler for a cleared record, reading the 7 x 6 week grid beside
-// it from the same texts in the same walk.
-void ParseWithWeek(const Json::Value& obj, EventHandlerRecord* r, WeekSchedule7x6* week) {
-  const Json::Value& timeSection = Member(obj, "TimeSection");
-  if (ReadsSchedule(timeSection)) ParseHolidayScheduleWithWeek(timeSection, &r->schedule, week);
-  ParseFields(obj, r, kEventHandler);
-}
-
-}  // namespace
-
+// object (or any other non-array) leaves the schedule and the week as the
+// caller left them, a null one clears the schedule, a failed read is
+// ignored; pack always writes it.
 bool ParseEventHandler(const Json::Value& obj, EventHandlerRecord* r) {
   if (r == nullptr) return false;
   const Json::Value& timeSection = Member(obj, "TimeSection");
-  if (ReadsSchedule(timeSection)) ParseHolidaySchedule(timeSection, &r->schedule);
+  if (timeSection.isArray() || timeSection.isNull())
+    ParseHolidaySchedule(timeSection, &r->schedule);
   ParseFields(obj, r, kEventHandler);
   return true;
 }
@@ -221,11 +206,28 @@ bool ParseEventHandler(const Json::Value& obj, EventHandlerRecord* r) {
 bool ParseEventHandlerWithGrid(const Json::Value& obj, EventHandlerRecord* r,
                                const SectionGrid& grid) {
   if (r == nullptr) return false;
+  // A "TimeSection" that is not an array reads nothing into the grid.
   const Json::Value& timeSection = Member(obj, "TimeSection");
-  if (ReadsSchedule(timeSection)) ParseHolidayScheduleAndGrid(timeSection, &r->schedule, grid);
+  if (timeSection.isArray() || timeSection.isNull()) {
+    ParseHolidayScheduleAndGrid(timeSection, &r->schedule, grid);
+  }
   ParseFields(obj, r, kEventHandler);
   return true;
 }
+
+namespace {
+
+// ParseEventHandler for a cleared record, reading the 7 x 6 week grid beside
+// it from the same texts in the same walk.
+void ParseWithWeek(const Json::Value& obj, EventHandlerRecord* r, WeekSchedule7x6* week) {
+  const Json::Value& timeSection = Member(obj, "TimeSection");
+  if (timeSection.isArray() || timeSection.isNull()) {
+    ParseHolidayScheduleWithWeek(timeSection, &r->schedule, week);
+  }
+  ParseFields(obj, r, kEventHandler);
+}
+
+}  // namespace
 
 bool ParseEventHandlerWithWeek(const Json::Value& obj, EventHandlerRecord* record,
                                WeekSchedule7x6* week) {

@@ -33,8 +33,6 @@ void WriteFlag(unsigned char* record, const Field& f, int64_t value) {
   StoreInt(record + f.flag.offset, f.flag.size, value);
 }
 
-void SetFlag(unsigned char* record, const Field& f) { WriteFlag(record, f, 1); }
-
 bool AnyByteSet(const unsigned char* p, uint32_t n) {
   for (uint32_t i = 0; i < n; ++i) {
     if (p[i] != 0) return true;
@@ -61,6 +59,7 @@ bool Present(const unsigned char* record, const Field& f) {
   }
   return true;
 }
+
 
 // One scalar of kind f.kind and width f.size.
 bool ParseScalar(const Json::Value& v, unsigned char* p, const Field& f) {
@@ -152,7 +151,8 @@ bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
         return true;
       }
       Unnamed rule = f.unnamed;
-      if (rule == Unnamed::kTable) rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
+      if (rule == Unnamed::kTable)
+        rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
       const char* fallback = nullptr;
       switch (rule) {
         case Unnamed::kOmit:
@@ -303,12 +303,13 @@ uint32_t LoadCount(const unsigned char* record, const Field& f) {
 }
 
 // A list: element i (or the i-th entry taken) into its slot; the count
-// member by the field's rule. A non-array leaves everything as it was,
-// unless the field reads any type (then it is an empty list).
+// member by the field's rule. `record` is where the field's offset and its
+// count's offset count from. A non-array leaves everything as it was, unless
+// the field reads any type (then it is an empty list).
 bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
   if (f.element == nullptr || (!v.isArray() && !ReadsAnyType(f))) return false;
   unsigned char* base = record + f.offset;
-  const uint32_t n = v.isArray() ? Count(v) : 0;
+  const uint32_t n = Count(v);
   uint32_t slots = f.capacity;
   if (f.allocated) {
     ReleaseList(record, f);
@@ -321,6 +322,8 @@ bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
     StorePointer(record + f.offset, base);
   }
   uint32_t looked = 0, taken = 0, nonNull = 0;
+  // Slots are filled in element order; the walk stops at the first element
+  // that has no slot left.
   ForEachElement(v, [&](uint32_t i, const Json::Value& e) {
     const uint32_t slot = f.keepSlots ? i : taken;
     if (slot >= slots) return false;
@@ -354,6 +357,19 @@ bool ParseList(const Json::Value& v, unsigned char* record, const Field& f) {
   return true;
 }
 
+// The list `f` of `record` as a JSON array of its counted entries.
+void PackList(const unsigned char* record, const Field& f, Json::Value* out) {
+  const uint32_t n = LoadCount(record, f);
+  *out = Json::Value(Json::arrayValue);
+  if (f.element == nullptr) return;
+  for (uint32_t k = 0; k < n; ++k) {
+    Json::Value item;
+    const unsigned char* entry =
+        record + f.offset + static_cast<size_t>(k) * f.size + f.element->offset;
+    if (PackValue(entry, *f.element, &item)) out->append(item);
+  }
+}
+
 }  // namespace
 
 bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f) {
@@ -363,7 +379,7 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
     case FieldShape::kNested:
       if (f.table == nullptr || (!value.isObject() && !ReadsAnyType(f))) return false;
       // Member() of anything but an object is null: every member reads as missing.
-      ParseFields(value, member, f.table->fields, f.table->count);
+      ParseFields(value, member, *f.table);
       return true;
     case FieldShape::kTuple: {
       if (!value.isArray() || Count(value) < f.minItems) return false;
@@ -374,11 +390,10 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
       });
       return true;
     }
-    case FieldShape::kList: {
-      // A list entry that is itself a list: member is the start of its slot.
-      // `member` is the list itself; its offset and count sit in the record around it.
+    case FieldShape::kList:
+      // A list entry that is itself a list: `member` is the list itself; its
+      // offset and count sit in the entry's slot around it.
       return ParseList(value, member - f.offset, f);
-    }
     case FieldShape::kCustom:
       return false;
   }
@@ -404,20 +419,10 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
       }
       return true;
     }
-    case FieldShape::kList: {
+    case FieldShape::kList:
       if (f.element == nullptr) return false;
-      const unsigned char* record = member - f.offset;
-      const uint32_t n = LoadCount(record, f);
-      *out = Json::Value(Json::arrayValue);
-      for (uint32_t i = 0; i < n; ++i) {
-        Json::Value item;
-        const unsigned char* entry = member + static_cast<size_t>(i) * f.size + f.element->offset;
-        if (PackValue(entry, *f.element, &item)) {
-          out->append(item);
-        }
-      }
+      PackList(member - f.offset, f, out);  // a list entry that is itself a list, as in ParseValue
       return true;
-    }
     case FieldShape::kCustom:
       return false;
   }
@@ -516,7 +521,7 @@ const char* EnumName(const EnumNames& e, int64_t value) {
   return e.names[i];
 }
 
-void MarkPresent(unsigned char* record, const Field& f) { SetFlag(record, f); }
+void MarkPresent(unsigned char* record, const Field& f) { WriteFlag(record, f, 1); }
 
 uint32_t CutCount(int64_t count, uint32_t capacity) {
   if (count <= 0) return 0;
@@ -525,8 +530,8 @@ uint32_t CutCount(int64_t count, uint32_t capacity) {
 
 namespace {
 
-// One field of a table, given its member's value (null: absent or null).
-void ParseOne(const Json::Value& obj, unsigned char* base, const Field& f, const Json::Value& v) {
+// One field of a parse walk, given the member's value (null when missing).
+void ParseField(const Json::Value& obj, const Json::Value& v, unsigned char* base, const Field& f) {
   if (f.direction == Direction::kPackOnly) return;
   if (f.shape == FieldShape::kCustom) {
     if (f.parse != nullptr) f.parse(obj, base, f);
@@ -545,7 +550,7 @@ void ParseOne(const Json::Value& obj, unsigned char* base, const Field& f, const
   // nothing; a block or list of the wrong JSON type does not (unless it
   // reads any type).
   if (read || f.shape == FieldShape::kScalar || f.alwaysRead) {
-    SetFlag(base, f);
+    WriteFlag(base, f, 1);
   } else if (f.clearsFlag) {
     WriteFlag(base, f, 0);
   }
@@ -561,10 +566,12 @@ void ParseIndexed(const MemberIndex& members, unsigned char* base, const Field* 
       // A block whose members sit in this object: the same index serves it.
       if (!obj.isObject()) continue;
       ParseIndexed(members, base + f.offset, f.table->fields, f.table->count);
-      SetFlag(base, f);
+      WriteFlag(base, f, 1);
       continue;
     }
-    ParseOne(obj, base, f, f.key != nullptr ? members.Find(f.key) : obj);
+    const Json::Value& v =
+        f.shape == FieldShape::kCustom ? Null() : (f.key != nullptr ? members.Find(f.key) : obj);
+    ParseField(obj, v, base, f);
   }
 }
 
@@ -574,7 +581,7 @@ void ParseFields(const Json::Value& obj, void* record, const Field* fields, size
   unsigned char* base = static_cast<unsigned char*>(record);
   if (count == 1 && fields[0].key != nullptr) {
     // One member to look up: no index is worth building.
-    ParseOne(obj, base, fields[0], Member(obj, fields[0].key));
+    ParseField(obj, Member(obj, fields[0].key), base, fields[0]);
     return;
   }
   ParseIndexed(MemberIndex(obj), base, fields, count);
@@ -598,20 +605,9 @@ void PackFields(const void* record, Json::Value& obj, const Field* fields, size_
       continue;
     }
     Json::Value v;
-    bool written;
+    bool written = true;
     if (f.shape == FieldShape::kList) {
-      // The count member lives in the record, not in the list's slots.
-      const uint32_t n = LoadCount(base, f);
-      v = Json::Value(Json::arrayValue);
-      for (uint32_t k = 0; k < n && f.element != nullptr; ++k) {
-        Json::Value item;
-        const unsigned char* entry =
-            base + f.offset + static_cast<size_t>(k) * f.size + f.element->offset;
-        if (PackValue(entry, *f.element, &item)) {
-          v.append(item);
-        }
-      }
-      written = true;
+      PackList(base, f, &v);  // the count member lives in the record, not in the list's slots
     } else {
       written = PackValue(base + f.offset, f, &v);
     }

@@ -38,8 +38,7 @@
 //   PackFields(&fence, table, kFence);    // record -> JSON object
 //
 // A translator runs such a table inside its response frame
-// (drivers/response_frame.h) with the steps of drivers/described_record.h:
-// ParseTableStep<kFence> / PackTableStep<kFence>.
+// (drivers/response_frame.h): ParseTableStep<kFence> / PackTableStep<kFence>.
 //
 // Beside the shape, kind and names, a field takes independent attributes:
 //   presence  .Flag(slot) (KOVA_AT, KOVA_AT_ITEM for present[i]), .Sentinel(v),
@@ -51,7 +50,7 @@
 //   direction .ParseOnly(), .PackOnly()
 //   lists     .Count(slot, rule), .KeepSlots(); tuples .MinItems(n)
 // A JSON object whose members are fields of the record itself is a group:
-// KOVA_GROUP("Sound", kSoundTable).
+// KOVA_GROUP(Rec, "Sound", kSoundTable).
 //
 // Deliberate irregularities stay hand-written beside the table, either as a
 // custom step (KOVA_CUSTOM) that the walker calls in its turn, or as code
@@ -125,11 +124,11 @@ enum class PackAs : uint8_t {
 
 // What pack writes for an enumeration value without a name.
 enum class Unnamed : uint8_t {
-  kTable,      // as the EnumNames table says (omitUnnamed)
-  kEmptyText,  // ""
-  kOmit,       // nothing
-  kFirstName,  // the table's first name
-  kNull,       // null
+  kTable,        // as the EnumNames table says (omitUnnamed)
+  kEmptyText,    // ""
+  kOmit,         // nothing
+  kFirstName,    // the table's first name
+  kNull,         // null
   kUnknownName,  // the name of the value an unknown text reads as (EnumNames::UnknownAs)
 };
 
@@ -162,17 +161,29 @@ struct EnumNames {
     e.count = static_cast<uint32_t>(N);
     return e;
   }
-  constexpr EnumNames Exact() const { EnumNames e = *this; e.exact = true; return e; }
-  constexpr EnumNames FirstValue(int32_t v) const { EnumNames e = *this; e.first = v; return e; }
+  constexpr EnumNames Exact() const {
+    EnumNames e = *this;
+    e.exact = true;
+    return e;
+  }
+  constexpr EnumNames FirstValue(int32_t v) const {
+    EnumNames e = *this;
+    e.first = v;
+    return e;
+  }
   constexpr EnumNames UnknownAs(int32_t v) const {
     EnumNames e = *this;
     e.setOnUnknown = true;
     e.unknownValue = v;
     return e;
   }
-  constexpr EnumNames OmitUnnamed() const { EnumNames e = *this; e.omitUnnamed = true; return e; }
-  // Second texts, index for index with the names (a list of the same
-  // length, else none); read after every name has been tried.
+  constexpr EnumNames OmitUnnamed() const {
+    EnumNames e = *this;
+    e.omitUnnamed = true;
+    return e;
+  }
+  // Second texts, index for index with the names (same count); read after
+  // every name has been tried.
   template <size_t N>
   constexpr EnumNames Aliases(const char* const (&list)[N]) const {
     EnumNames e = *this;
@@ -210,15 +221,15 @@ struct Field {
   Direction direction = Direction::kBoth;
   PackAs packAs = PackAs::kNatural;
   Presence presence = Presence::kAlways;
-  Slot flag = {0, 0};          // Presence::kFlag
-  int64_t sentinel = 0;        // Presence::kSentinel
+  Slot flag = {0, 0};                // Presence::kFlag
+  int64_t sentinel = 0;              // Presence::kSentinel
   const EnumNames* names = nullptr;  // kEnum
   Unnamed unnamed = Unnamed::kTable;
   const FieldTable* table = nullptr;  // kNested: the member type's table
   const Field* element = nullptr;     // kList: one entry, at offset 0 of its slot
-  uint32_t capacity = 0;   // kList: slots; kTuple: items
-  uint32_t minItems = 0;   // kTuple: an array with fewer items leaves the member as it was
-  Slot count = {0, 0};     // kList: count member (size 0: none; pack then writes every slot)
+  uint32_t capacity = 0;              // kList: slots; kTuple: items
+  uint32_t minItems = 0;  // kTuple: an array with fewer items leaves the member as it was
+  Slot count = {0, 0};    // kList: count member (size 0: none; pack then writes every slot)
   CountRule countRule = CountRule::kAll;
   bool keepSlots = false;  // kList: element i goes to slot i, a skipped element leaves its slot
   // kList: the member is a pointer to entries allocated on parse (at most
@@ -236,46 +247,99 @@ struct Field {
   int64_t missingValue = 0;
   bool nullWhenEmpty = false;  // kNested pack: null instead of an object with no members
 
-  constexpr Field Flag(Slot s) const { Field f = *this; f.presence = Presence::kFlag; f.flag = s; return f; }
+  constexpr Field Flag(Slot s) const {
+    Field f = *this;
+    f.presence = Presence::kFlag;
+    f.flag = s;
+    return f;
+  }
   constexpr Field Sentinel(int64_t v) const {
     Field f = *this;
     f.presence = Presence::kSentinel;
     f.sentinel = v;
     return f;
   }
-  constexpr Field NonNegative() const { Field f = *this; f.presence = Presence::kNonNegative; return f; }
-  constexpr Field ParseOnly() const { Field f = *this; f.direction = Direction::kParseOnly; return f; }
-  constexpr Field PackOnly() const { Field f = *this; f.direction = Direction::kPackOnly; return f; }
-  constexpr Field PackBoolEqualsOne() const { Field f = *this; f.packAs = PackAs::kBoolEqualsOne; return f; }
-  constexpr Field PackBool() const { Field f = *this; f.packAs = PackAs::kBoolNonZero; return f; }
-  constexpr Field UnnamedAs(Unnamed u) const { Field f = *this; f.unnamed = u; return f; }
+  constexpr Field NonNegative() const {
+    Field f = *this;
+    f.presence = Presence::kNonNegative;
+    return f;
+  }
+  constexpr Field ParseOnly() const {
+    Field f = *this;
+    f.direction = Direction::kParseOnly;
+    return f;
+  }
+  constexpr Field PackOnly() const {
+    Field f = *this;
+    f.direction = Direction::kPackOnly;
+    return f;
+  }
+  constexpr Field PackBoolEqualsOne() const {
+    Field f = *this;
+    f.packAs = PackAs::kBoolEqualsOne;
+    return f;
+  }
+  constexpr Field PackBool() const {
+    Field f = *this;
+    f.packAs = PackAs::kBoolNonZero;
+    return f;
+  }
+  constexpr Field UnnamedAs(Unnamed u) const {
+    Field f = *this;
+    f.unnamed = u;
+    return f;
+  }
   constexpr Field Count(Slot s, CountRule rule) const {
     Field f = *this;
     f.count = s;
     f.countRule = rule;
     return f;
   }
-  constexpr Field KeepSlots() const { Field f = *this; f.keepSlots = true; return f; }
-  constexpr Field MinItems(uint32_t n) const { Field f = *this; f.minItems = n; return f; }
+  constexpr Field KeepSlots() const {
+    Field f = *this;
+    f.keepSlots = true;
+    return f;
+  }
+  constexpr Field MinItems(uint32_t n) const {
+    Field f = *this;
+    f.minItems = n;
+    return f;
+  }
   constexpr Field NoMemoryReport(const char* text) const {
     Field f = *this;
     f.noMemoryReport = text;
     return f;
   }
-  constexpr Field Names(const EnumNames& e) const { Field f = *this; f.names = &e; return f; }
+  constexpr Field Names(const EnumNames& e) const {
+    Field f = *this;
+    f.names = &e;
+    return f;
+  }
 
   // Parse reads the member even when it is missing or null, as null (a
   // scalar stores its null conversion: 0, false, empty text, an enumeration's
   // unknown value; a nested block reads its table with every member
   // missing), and sets the flag. A nested block or list given with another
   // JSON type reads as empty. List entries: null elements are read too.
-  constexpr Field AlwaysRead() const { Field f = *this; f.alwaysRead = true; return f; }
+  constexpr Field AlwaysRead() const {
+    Field f = *this;
+    f.alwaysRead = true;
+    return f;
+  }
   // A nested block or list given (not null) with another JSON type counts
   // as present (its flag is set) and reads as empty: no member, no element.
-  constexpr Field AnyType() const { Field f = *this; f.anyType = true; return f; }
+  constexpr Field AnyType() const {
+    Field f = *this;
+    f.anyType = true;
+    return f;
+  }
   // Parse writes the flag both ways: 0 when the member is missing, null or
   // not read (for records that parse does not clear first).
-  constexpr Field ClearsFlag() const { Field f = *this; f.clearsFlag = true; return f; }
+  constexpr Field ClearsFlag() const {
+    Field f = *this;
+    f.clearsFlag = true;
+    return f;
+  }
   // Parse stores `v` when the member is missing or null (an integer member).
   constexpr Field MissingAs(int64_t v) const {
     Field f = *this;
@@ -284,7 +348,11 @@ struct Field {
     return f;
   }
   // Pack: a nested block none of whose members is written packs as null.
-  constexpr Field NullWhenEmpty() const { Field f = *this; f.nullWhenEmpty = true; return f; }
+  constexpr Field NullWhenEmpty() const {
+    Field f = *this;
+    f.nullWhenEmpty = true;
+    return f;
+  }
   // Pack: written when any byte of `s` is non-zero (the members' own flags,
   // see KOVA_FLAGS); parse leaves those bytes to the members.
   constexpr Field WhenAnySet(Slot s) const {
@@ -408,7 +476,7 @@ constexpr Slot MakeSlot(size_t offset) {
               std::is_signed<T>::value};
 }
 
-// The bytes from offset `first` up to `end`: a group of one-byte flags.
+// The bytes from member `first` to the end of member `last`: a group of flags.
 constexpr Slot MakeSpan(size_t first, size_t end) {
   return Slot{static_cast<uint32_t>(first), static_cast<uint32_t>(end - first)};
 }
@@ -467,15 +535,14 @@ constexpr Field MakeAllocatedList(const char* key, size_t offset, const Field* e
   return f;
 }
 
-// A JSON object whose members are fields of the enclosing record itself
-// (a flat record read from "RTP": {"StartPort", "EndPort"}): `members`
-// gives offsets in the enclosing record.
-constexpr Field MakeGroup(const char* key, const FieldTable& members) {
+// A JSON object whose members are fields of the enclosing record itself.
+constexpr Field MakeGroup(const char* key, uint32_t recordSize, const FieldTable* table) {
   Field f;
   f.key = key;
+  f.size = recordSize;
   f.kind = FieldKind::kObject;
   f.shape = FieldShape::kNested;
-  f.table = &members;
+  f.table = table;
   return f;
 }
 
@@ -492,11 +559,13 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
   return f;
 }
 
+
 }  // namespace kova
 
 #define KOVA_MEMBER_TYPE(Rec, member) decltype(static_cast<Rec*>(nullptr)->member)
 #define KOVA_MEMBER_T(Rec, member) std::remove_reference_t<KOVA_MEMBER_TYPE(Rec, member)>
-#define KOVA_MEMBER_SIZE(Rec, member) static_cast<uint32_t>(sizeof(static_cast<Rec*>(nullptr)->member))
+#define KOVA_MEMBER_SIZE(Rec, member) \
+  static_cast<uint32_t>(sizeof(static_cast<Rec*>(nullptr)->member))
 
 // A scalar member: KOVA_F(Rec, member, "Key", kInt).
 #define KOVA_F(Rec, member, key, KIND) \
@@ -506,30 +575,32 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
 // A flag or count member, for .Flag() and .Count().
 #define KOVA_AT(Rec, member) ::kova::MakeSlot<KOVA_MEMBER_T(Rec, member)>(offsetof(Rec, member))
 // Element `i` of an integer array member used as flags (present[i]).
-#define KOVA_AT_ITEM(Rec, member, i)                                               \
-  ::kova::MakeSlot<std::remove_extent_t<KOVA_MEMBER_T(Rec, member)>>(              \
+#define KOVA_AT_ITEM(Rec, member, i)                                  \
+  ::kova::MakeSlot<std::remove_extent_t<KOVA_MEMBER_T(Rec, member)>>( \
       offsetof(Rec, member) + (i) * sizeof(std::remove_extent_t<KOVA_MEMBER_T(Rec, member)>))
 // The bytes from `first` through `last` (several one-byte flags), for .WhenAnySet().
 #define KOVA_FLAGS(Rec, first, last) \
   ::kova::MakeSpan(offsetof(Rec, first), offsetof(Rec, last) + KOVA_MEMBER_SIZE(Rec, last))
-// A FieldTable over a constexpr Field array.
-#define KOVA_TABLE(fields) ::kova::FieldTable{fields, sizeof(fields) / sizeof((fields)[0])}
+// A JSON object "key" whose members are fields of Rec itself (a FieldTable,
+// see KOVA_TABLE): KOVA_GROUP(Rec, "Sound", kSoundTable).
+#define KOVA_GROUP(Rec, key, fieldTable) \
+  ::kova::MakeGroup(key, static_cast<uint32_t>(sizeof(Rec)), &(fieldTable))
+// A FieldTable over a constexpr Field array (with static storage).
+#define KOVA_TABLE(fields) \
+  ::kova::FieldTable { fields, sizeof(fields) / sizeof((fields)[0]) }
 // A nested object read with its type's own table (see KOVA_DESCRIBE).
 #define KOVA_NESTED(Rec, member, key) \
   ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
 // A nested block whose members sit in the enclosing object itself (no key of its own).
 #define KOVA_INLINE(Rec, member) \
   ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(nullptr, offsetof(Rec, member))
-// A nested JSON object over members of the same record: KOVA_GROUP("RTP", kRtpTable),
-// kRtpTable a constexpr FieldTable of the record's own fields.
-#define KOVA_GROUP(key, members) ::kova::MakeGroup(key, members)
 // A tuple of n items of type Item ([x, y]: KOVA_TUPLE(Rec, pt, "Point", int32_t, 2)); by
 // default all n items are required, .MinItems(k) lowers that.
-#define KOVA_TUPLE(Rec, member, key, Item, n)                                                    \
-  ::kova::MakeTuple<Item, ::kova::FieldKind::kInt, KOVA_MEMBER_T(Rec, member)>(key,              \
-                                                                              offsetof(Rec, member), n)
-#define KOVA_TUPLE_OF(Rec, member, key, Item, KIND, n)                                           \
-  ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, KOVA_MEMBER_T(Rec, member)>(                  \
+#define KOVA_TUPLE(Rec, member, key, Item, n)                                   \
+  ::kova::MakeTuple<Item, ::kova::FieldKind::kInt, KOVA_MEMBER_T(Rec, member)>( \
+      key, offsetof(Rec, member), n)
+#define KOVA_TUPLE_OF(Rec, member, key, Item, KIND, n)                          \
+  ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, KOVA_MEMBER_T(Rec, member)>( \
       key, offsetof(Rec, member), n)
 // A fixed list: `elementField` (a constexpr Field, see KOVA_ITEM*) describes one entry.
 #define KOVA_LIST(Rec, member, key, elementField) \
@@ -545,17 +616,18 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
 // List entries: a scalar, nested or tuple entry of type Type at offset 0 of its slot.
 #define KOVA_ITEM(Type, KIND) ::kova::MakeField<::kova::FieldKind::KIND, Type>(nullptr, 0)
 #define KOVA_ITEM_NESTED(Type) ::kova::MakeNested<Type>(nullptr, 0)
-#define KOVA_ITEM_TUPLE(Type, Item, KIND, n) ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, Type>(nullptr, 0, n)
+#define KOVA_ITEM_TUPLE(Type, Item, KIND, n) \
+  ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, Type>(nullptr, 0, n)
 
 // Registers `fields` (a constexpr Field array) as the description of Type,
 // for KOVA_NESTED and KOVA_ITEM_NESTED. Use at global scope. A description
 // shared between files lives in a header as an `inline constexpr` array.
-#define KOVA_DESCRIBE(Type, fields)                                                    \
-  namespace kova {                                                                     \
-  template <>                                                                          \
-  struct Description<Type> {                                                           \
-    static constexpr FieldTable table{fields, sizeof(fields) / sizeof((fields)[0])};   \
-  };                                                                                   \
+#define KOVA_DESCRIBE(Type, fields)                         \
+  namespace kova {                                          \
+  template <>                                               \
+  struct Description<Type> {                                \
+    static constexpr FieldTable table = KOVA_TABLE(fields); \
+  };                                                        \
   }
 
 #endif  // KOVA_COMMON_FIELD_TABLE_H_

@@ -10,11 +10,6 @@ namespace kova {
 
 namespace {
 
-const Json::Value& NullValue() {
-  static const Json::Value kNull;
-  return kNull;
-}
-
 // One reader per thread, made on first use: setting a reader up costs more
 // than reading a short device response. The reader starts afresh at every
 // parse, also after one that threw (nesting beyond its limit).
@@ -29,6 +24,11 @@ Json::CharReader& ThreadReader() {
 
 }  // namespace
 
+const Json::Value& Null() {
+  static const Json::Value kNull;
+  return kNull;
+}
+
 bool ReadJson(const char* text, Json::Value* root) {
   if (text == nullptr || root == nullptr) return false;
   try {
@@ -39,9 +39,9 @@ bool ReadJson(const char* text, Json::Value* root) {
 }
 
 const Json::Value& Member(const Json::Value& v, const char* key) {
-  if (!v.isObject()) return NullValue();
+  if (!v.isObject()) return Null();
   const Json::Value* found = v.find(key, key + std::strlen(key));
-  return found != nullptr ? *found : NullValue();
+  return found != nullptr ? *found : Null();
 }
 
 bool HasMember(const Json::Value& v, const char* key) {
@@ -49,13 +49,11 @@ bool HasMember(const Json::Value& v, const char* key) {
 }
 
 const Json::Value& Element(const Json::Value& v, uint64_t i) {
-  if (!v.isArray() || i >= v.size()) return NullValue();
+  if (!v.isArray() || i >= v.size()) return Null();
   return v[static_cast<Json::ArrayIndex>(i)];
 }
 
-uint32_t Count(const Json::Value& v) {
-  return (v.isArray() || v.isObject()) ? v.size() : 0;
-}
+uint32_t Count(const Json::Value& v) { return (v.isArray() || v.isObject()) ? v.size() : 0; }
 
 int32_t ToInt32(const Json::Value& v) {
   switch (v.type()) {
@@ -85,7 +83,7 @@ uint32_t ToUInt32(const Json::Value& v) {
     case Json::intValue: {
       const Json::LargestInt n = v.asLargestInt();
       return (n >= 0 && n <= static_cast<Json::LargestInt>(UINT32_MAX)) ? static_cast<uint32_t>(n)
-                                                                         : 0;
+                                                                        : 0;
     }
     case Json::uintValue: {
       const Json::LargestUInt n = v.asLargestUInt();

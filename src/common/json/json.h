@@ -9,8 +9,10 @@
 
 #include <json/value.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace kova {
@@ -31,6 +33,36 @@ bool HasMember(const Json::Value& v, const char* key);
 const Json::Value& Element(const Json::Value& v, uint64_t i);
 // Number of elements of an array or members of an object; 0 otherwise.
 uint32_t Count(const Json::Value& v);
+
+// The shared null value that Member and Element return for what is missing.
+const Json::Value& Null();
+
+// Calls fn(i, element) for i = 0 .. min(Count(v), limit) - 1 of an array
+// (nothing for any other value), in order: Element(v, i) for each i, but
+// without a lookup per element. A `fn` that returns bool stops the walk by
+// returning false.
+template <typename Fn>
+void ForEachElement(const Json::Value& v, uint32_t limit, Fn&& fn) {
+  if (!v.isArray()) return;
+  const uint32_t size = v.size();
+  const uint32_t n = std::min<uint32_t>(size, limit);
+  // The reader's arrays are dense (an entry for every index below the size)
+  // and are walked entry by entry; an array with missing indices, which
+  // read as null, is walked index by index.
+  const Json::Value::const_iterator begin = v.begin();
+  const Json::Value::const_iterator end = v.end();
+  uint32_t entries = 0;
+  for (Json::Value::const_iterator it = begin; it != end && entries <= size; ++it) ++entries;
+  Json::Value::const_iterator it = begin;
+  for (uint32_t i = 0; i < n; ++i) {
+    const Json::Value& e = entries == size ? *it++ : Element(v, i);
+    if constexpr (std::is_same<decltype(fn(i, e)), bool>::value) {
+      if (!fn(i, e)) return;
+    } else {
+      fn(i, e);
+    }
+  }
+}
 
 // The four conversions every translator relies on. None fails or throws.
 // Signed 32-bit: null 0; an integer its value when it fits in 32 bits and
@@ -54,19 +86,6 @@ std::string ToText(const Json::Value& v);
 // scanning text without copying it.
 const char* TextInPlace(const Json::Value& v);
 
-// Calls visit(i, element) for the elements of array `v` in index order,
-// up to index `limit` (excluded), until visit returns false; nothing for a
-// non-array. Walks the array once instead of looking each index up (arrays
-// read from text have every index; an index never set is not visited).
-template <typename Visit>
-void ForEachElement(const Json::Value& v, uint32_t limit, Visit visit) {
-  if (!v.isArray()) return;
-  const Json::Value::const_iterator end = v.end();
-  for (Json::Value::const_iterator it = v.begin(); it != end; ++it) {
-    const uint32_t i = it.index();
-    if (i >= limit || !visit(i, *it)) return;
-  }
-}
 
 // Calls `visit(name, length, value)` for each member of an object, in the
 // JSON library's member order (ascending by the bytes of the name), until it

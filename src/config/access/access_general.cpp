@@ -5,7 +5,6 @@
 
 #include "common/fields/field_table.h"
 #include "config/access/translators.h"
-#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/access.h"
 
@@ -46,7 +45,7 @@ constexpr FieldTable kABLock = KOVA_TABLE(kABLockFields);
 // The record is not cleared: members the device leaves out keep the
 // caller's values, except the presence flags, written both ways.
 constexpr Field kFields[] = {
-    KOVA_GROUP("Sound", kSound),
+    KOVA_GROUP(R, "Sound", kSound),
     KOVA_F(R, unlockReloadInterval, "UnlockReloadInterval", kInt),
     KOVA_F(R, unlockHoldInterval, "UnlockHoldInterval", kInt),
     KOVA_F(R, projectPassword, "ProjectPassword", kText)
@@ -57,7 +56,7 @@ constexpr Field kFields[] = {
         .ClearsFlag()
         .MissingAs(0),
     // Given with any type, it counts as given.
-    KOVA_GROUP("ABLock", kABLock).Flag(KOVA_AT(R, abLockPresent)).ClearsFlag().AnyType(),
+    KOVA_GROUP(R, "ABLock", kABLock).Flag(KOVA_AT(R, abLockPresent)).ClearsFlag().AnyType(),
 };
 constexpr FieldTable kTable = KOVA_TABLE(kFields);
 
@@ -68,6 +67,13 @@ constexpr ResponseFrame kFrame =
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(AccessControlGeneral, kFrame)
+int ParseAccessControlGeneral(const char* jsonText, void* outBuf, uint32_t outLen,
+                              uint32_t* retLen) {
+  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
+}
+
+int PackAccessControlGeneral(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
+}
 
 }  // namespace kova

@@ -11,7 +11,6 @@
 
 #include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
-#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 
 namespace kova {

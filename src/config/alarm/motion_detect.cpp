@@ -47,7 +47,6 @@ uint32_t ReadChannelGrid(const Json::Value& rows, uint8_t (*region)[32]) {
   ForEachElement(rows, kMaxRows, [region](uint32_t y, const Json::Value& row) {
     const uint32_t bits = ToUInt32(row);
     for (uint32_t c = 0; c < 32; ++c) region[y][c] = static_cast<uint8_t>((bits >> c) & 1u);
-    return true;
   });
   return std::min(Count(rows), kMaxRows);
 }
@@ -74,7 +73,6 @@ uint32_t ReadWindowGrid(const Json::Value& rows, uint8_t (*region)[32]) {
     for (uint32_t c = 0; c < kWindowCells; ++c) {
       region[y][c] = static_cast<uint8_t>((bits >> (kWindowCells - 1 - c)) & 1u);
     }
-    return true;
   });
   return std::min(Count(rows), kMaxRows);
 }
@@ -109,7 +107,6 @@ void ParseWindows(const Json::Value& obj, unsigned char* record, const Field& f)
       r->windowCount = n;
       ParseFields(e, &r->windows[i], kWindow);
     }
-    return true;
   });
 }
 
@@ -173,6 +170,12 @@ constexpr ResponseFrame kFrame = AlarmSourceFrame<R>(ParseMotion, PackTableStep<
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(MotionDetect, kFrame)
+int ParseMotionDetect(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
+}
+
+int PackMotionDetect(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
+}
 
 }  // namespace kova

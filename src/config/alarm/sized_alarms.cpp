@@ -5,7 +5,6 @@
 #include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
 #include "config/alarm/translators.h"
-#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 
 namespace kova {
@@ -63,8 +62,20 @@ constexpr ResponseFrame kFanFrame = SizedListFrame<F, kFanTable>();
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(TemperatureAlarm, kTemperatureFrame)
+int ParseTemperatureAlarm(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  return ParseWithFrame(kTemperatureFrame, jsonText, outBuf, outLen, retLen);
+}
 
-KOVA_FRAME_TRANSLATORS(FanSpeedAlarm, kFanFrame)
+int PackTemperatureAlarm(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  return PackWithFrame(kTemperatureFrame, inBuf, inLen, outJson, outLen);
+}
+
+int ParseFanSpeedAlarm(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  return ParseWithFrame(kFanFrame, jsonText, outBuf, outLen, retLen);
+}
+
+int PackFanSpeedAlarm(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  return PackWithFrame(kFanFrame, inBuf, inLen, outJson, outLen);
+}
 
 }  // namespace kova

@@ -1,11 +1,9 @@
 // "AudioDetect": sound alarms of each channel (unusual sound, sudden change,
 // level above a gate) with their linkage block and a warning light flashed
 // with the alarm.
-#include <cstddef>
-
-#include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
+#include "common/blocks/event_handler.h"
 #include "config/audio/translators.h"
 #include "drivers/described_record.h"
 #include "kova/records/audio.h"
@@ -37,19 +35,15 @@ constexpr Field kInsideHandler[] = {
         .Flag(KOVA_AT(AudioDetectConfig, lightingLinkPresent)),
 };
 
-static_assert(offsetof(AudioDetectConfig, week) ==
-                  offsetof(AudioDetectConfig, eventHandler) + sizeof(EventHandlerRecord),
-              "the week grid follows the linkage block directly");
+constexpr Field kLinkage = KOVA_EVENT_HANDLER_WITH_WEEK(AudioDetectConfig);
 
-// The linkage block with its week grid (the record was cleared before the
-// walk), and the light inside it.
-void ParseLinkage(const Json::Value& obj, unsigned char* record, const Field& f) {
-  kova::ParseEventHandlerWithWeekStep(obj, record, f);
+void ParseLinkage(const Json::Value& obj, unsigned char* record, const Field&) {
+  kova::ParseEventHandlerWithWeekStep(obj, record, kLinkage);
   kova::ParseFields(kova::Member(obj, "EventHandler"), record, kInsideHandler);
 }
 
-void PackLinkage(const unsigned char* record, Json::Value& obj, const Field& f) {
-  kova::PackEventHandlerWithWeekStep(record, obj, f);
+void PackLinkage(const unsigned char* record, Json::Value& obj, const Field&) {
+  kova::PackEventHandlerWithWeekStep(record, obj, kLinkage);
   kova::PackFields(record, kova::SetMember(obj, "EventHandler"), kInsideHandler);
 }
 

@@ -7,7 +7,6 @@
 #include "common/json/json.h"
 #include "config/media/encode_tables.h"
 #include "config/media/translators.h"
-#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
 
@@ -62,7 +61,7 @@ constexpr FieldTable kCap = KOVA_TABLE(kCapFields);
 #undef KOVA_DSP_LIST
 
 // The capability lives under "DspEncodeCap".
-constexpr Field kTableFields[] = {KOVA_GROUP("DspEncodeCap", kCap)};
+constexpr Field kTableFields[] = {KOVA_GROUP(D, "DspEncodeCap", kCap)};
 constexpr FieldTable kTable = KOVA_TABLE(kTableFields);
 
 bool ParseCap(const Json::Value& table, const StepContext& ctx, unsigned char* record) {
@@ -78,6 +77,12 @@ constexpr ResponseFrame kFrame =
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(DspEncodeCap, kFrame)
+int ParseDspEncodeCap(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
+}
+
+int PackDspEncodeCap(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
+}
 
 }  // namespace kova

@@ -9,10 +9,8 @@
 #include <cstdint>
 
 #include "common/fields/field_table.h"
-#include "common/json/json.h"
 #include "config/media/encode_tables.h"
 #include "config/media/translators.h"
-#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
 
@@ -104,18 +102,15 @@ constexpr Field kChannelFields[] = {
 constexpr FieldTable kChannel = KOVA_TABLE(kChannelFields);
 
 bool ParseChannel(const Json::Value& table, const StepContext& ctx, unsigned char* record) {
-  // Written by every parse; neither is packed. A negative root "channel"
-  // asks for every channel: record i is channel i.
-  const int32_t asked = ToInt32(Member(ctx.root, "channel"));
+  // Written by every parse; neither is packed.
   StoreInt(record + offsetof(C, layoutVersion), sizeof(int32_t), kLayoutVersion);
-  StoreInt(record + offsetof(C, channel), sizeof(int32_t),
-           asked < 0 ? static_cast<int32_t>(ctx.index) : asked);
+  StoreInt(record + offsetof(C, channel), sizeof(int32_t), ctx.channel);
   return ParseTableStep<kChannel>(table, ctx, record);
 }
 
 // Pack: exactly one record is an object, anything longer an array (one
-// record and a partial one included), a shorter input (none included)
-// "null"; the text may fill the buffer exactly, without a terminator.
+// record and a partial one included), a shorter input "null"; the text may
+// fill the buffer exactly, without a terminator.
 constexpr ResponseFrame kFrame = ResponseFrame::For<C>(ParseChannel, PackTableStep<kChannel>)
                                      .Walk(RecordWalk::kPerChannel)
                                      .ChannelAtRoot()
@@ -126,6 +121,12 @@ constexpr ResponseFrame kFrame = ResponseFrame::For<C>(ParseChannel, PackTableSt
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(Encode, kFrame)
+int ParseEncode(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
+}
+
+int PackEncode(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
+}
 
 }  // namespace kova

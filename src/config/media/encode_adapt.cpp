@@ -4,7 +4,6 @@
 
 #include "common/fields/field_table.h"
 #include "config/media/translators.h"
-#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
 
@@ -34,6 +33,12 @@ constexpr ResponseFrame kFrame =
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(EncodeAdapt, kFrame)
+int ParseEncodeAdapt(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
+}
+
+int PackEncodeAdapt(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
+}
 
 }  // namespace kova

@@ -9,7 +9,6 @@
 #include "common/fields/field_table.h"
 #include "config/media/encode_tables.h"
 #include "config/media/translators.h"
-#include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
 
@@ -48,6 +47,12 @@ constexpr ResponseFrame kFrame = ResponseFrame::For<P>(ParseEntry, PackEntry)
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(EncodePlan, kFrame)
+int ParseEncodePlan(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
+  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
+}
+
+int PackEncodePlan(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
+  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
+}
 
 }  // namespace kova

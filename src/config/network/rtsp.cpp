@@ -19,19 +19,19 @@ constexpr Field kRtpFields[] = {
     KOVA_F(RtspConfig, rtpStartPort, "StartPort", kInt),
     KOVA_F(RtspConfig, rtpEndPort, "EndPort", kInt),
 };
-constexpr FieldTable kRtp{kRtpFields, std::size(kRtpFields)};
+constexpr FieldTable kRtp = KOVA_TABLE(kRtpFields);
 
 constexpr Field kTunnelFields[] = {
     KOVA_F(RtspConfig, httpTunnelEnable, "Enable", kBool),
     KOVA_F(RtspConfig, httpTunnelPort, "Port", kInt),
 };
-constexpr FieldTable kTunnel{kTunnelFields, std::size(kTunnelFields)};
+constexpr FieldTable kTunnel = KOVA_TABLE(kTunnelFields);
 
 constexpr Field kRtspFields[] = {
     KOVA_F(RtspConfig, enable, "Enable", kBool),
     KOVA_F(RtspConfig, port, "Port", kInt),
-    KOVA_GROUP("RTP", kRtp),
-    KOVA_GROUP("RtspOverHttp", kTunnel),
+    KOVA_GROUP(RtspConfig, "RTP", kRtp),
+    KOVA_GROUP(RtspConfig, "RtspOverHttp", kTunnel),
 };
 
 }  // namespace

@@ -175,13 +175,15 @@ TEST(Encode, PackShapesAndFallbacks) {
 
 TEST(Encode, InputShorterThanOneRecordPacksAsNullReadingNothing) {
   // Every byte set: a record read from it would pack flags and values. The
-  // buffer holds exactly the input (a byte for none), so a read past it is
-  // caught under ASan.
-  for (uint32_t inLen : {0u, 1u, 7u, kRec - 1}) {
-    std::unique_ptr<unsigned char[]> in(new unsigned char[inLen > 0 ? inLen : 1]);
-    std::memset(in.get(), 0xFF, inLen > 0 ? inLen : 1);
+  // buffer holds exactly the input, so a read past it is caught under ASan.
+  for (uint32_t inLen : {1u, 7u, kRec - 1}) {
+    std::unique_ptr<unsigned char[]> in(new unsigned char[inLen]);
+    std::memset(in.get(), 0xFF, inLen);
     EXPECT_EQ("null\n", Pack(in.get(), inLen)) << inLen;
   }
+  // An empty input is shorter than one record too.
+  const unsigned char one = 0xFF;
+  EXPECT_EQ("null\n", Pack(&one, 0));
 }
 
 TEST(Encode, PackCopiesTextThatFillsTheBufferExactly) {
