@@ -64,7 +64,7 @@ typedef struct DoorTimeRange {
   int32_t endSecond;
   // 1 when the device wrote seconds; pack writes them only then. A text
   // that is neither form leaves the whole range 0.
-  int32_t withSeconds;
+  int32_t secondsPresent;
 } DoorTimeRange;
 
 // One period of a newer door's day: how the door opens in it.

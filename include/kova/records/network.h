@@ -33,20 +33,20 @@ typedef struct G3G4AutoChangeRecord {
 // packs as "" (the device takes an empty mode as self-adapting); an unknown
 // text reads as 0; a value outside 1..4 packs as "".
 typedef enum NetworkLinkMode {
-  kNetworkLinkAdapt = 0,
-  kNetworkLinkHalf10M = 1,
-  kNetworkLinkFull10M = 2,
-  kNetworkLinkHalf100M = 3,
-  kNetworkLinkFull100M = 4,
+  KOVA_NETWORK_LINK_ADAPT = 0,
+  KOVA_NETWORK_LINK_HALF_10M = 1,
+  KOVA_NETWORK_LINK_FULL_10M = 2,
+  KOVA_NETWORK_LINK_HALF_100M = 3,
+  KOVA_NETWORK_LINK_FULL_100M = 4,
 } NetworkLinkMode;
 
 // Interface type of "Type" (compared exactly). "" and unknown texts read as
 // 0; 0 and a value outside 1..3 pack as "".
 typedef enum NetworkInterfaceType {
-  kNetworkInterfaceUnnamed = 0,
-  kNetworkInterfaceStandard = 1,
-  kNetworkInterfaceManager = 2,
-  kNetworkInterfaceExtend = 3,
+  KOVA_NETWORK_INTERFACE_UNNAMED = 0,
+  KOVA_NETWORK_INTERFACE_STANDARD = 1,
+  KOVA_NETWORK_INTERFACE_MANAGER = 2,
+  KOVA_NETWORK_INTERFACE_EXTEND = 3,
 } NetworkInterfaceType;
 
 // One interface: a member of the table whose value is a non-empty object,

@@ -160,7 +160,11 @@ bool Covers(const GridRead& g, uint32_t d, uint32_t s) {
 
 // Reads `jsonIn` into every grid of `grids` as ParseTimeSectionGrid reads
 // one, in one walk: a section text that several grids take is scanned once.
-void ReadGrids(const Json::Value& jsonIn, GridRead* grids, uint32_t count) {
+// With `week`, each text of the first 7 days x 6 sections is also read into
+// it as ParseTimeSection reads one (a failure ends no walk there); a text of
+// the devices' fixed form is scanned once for all (the read forms agree on it).
+void ReadGrids(const Json::Value& jsonIn, GridRead* grids, uint32_t count,
+               WeekSchedule7x6* week = nullptr) {
   uint32_t maxDays = 0, maxSections = 0;
   for (uint32_t g = 0; g < count; ++g) {
     GridRead& r = grids[g];
@@ -172,11 +176,18 @@ void ReadGrids(const Json::Value& jsonIn, GridRead* grids, uint32_t count) {
     maxDays = std::max(maxDays, static_cast<uint32_t>(r.grid.maxDays));
     maxSections = std::max(maxSections, static_cast<uint32_t>(r.grid.maxSectionsPerDay));
   }
+  if (week != nullptr) {
+    maxDays = std::max<uint32_t>(maxDays, KOVA_WEEK_DAYS);
+    maxSections = std::max<uint32_t>(maxSections, KOVA_SECTIONS_PER_DAY);
+  }
   auto anyReading = [&] {
     for (uint32_t g = 0; g < count; ++g) {
       if (grids[g].reading) return true;
     }
     return false;
+  };
+  auto inWeek = [week](uint32_t d, uint32_t s) {
+    return week != nullptr && d < KOVA_WEEK_DAYS && s < KOVA_SECTIONS_PER_DAY;
   };
   // A day that is not an array is skipped, not an error: the device sends
   // null for days it has no schedule for.
@@ -184,9 +195,23 @@ void ReadGrids(const Json::Value& jsonIn, GridRead* grids, uint32_t count) {
     ForEachElement(day, maxSections, [&](uint32_t s, const Json::Value& text) {
       bool taken = false;
       for (uint32_t g = 0; g < count; ++g) taken = taken || Covers(grids[g], d, s);
-      if (!taken) return true;
+      const bool weekCell = inWeek(d, s);
+      if (!taken && !weekCell) return true;
       TimeSectionRecord scanned = {};
-      const int fields = ScanRecord(TextInPlace(text), kAnyWidth, &scanned);
+      const char* t = TextInPlace(text);
+      int32_t* fixed[7] = {&scanned.enable,      &scanned.beginHour, &scanned.beginMinute,
+                           &scanned.beginSecond, &scanned.endHour,   &scanned.endMinute,
+                           &scanned.endSecond};
+      const bool fixedForm = ScanCanonicalSection(t, fixed);
+      if (weekCell) {
+        if (fixedForm) {
+          week->sections[d][s] = scanned;
+        } else {
+          ParseTimeSection(text, &week->sections[d][s]);
+        }
+      }
+      if (!taken) return true;
+      const int fields = fixedForm ? 7 : ScanRecord(t, kAnyWidth, &scanned);
       for (uint32_t g = 0; g < count; ++g) {
         if (!Covers(grids[g], d, s)) continue;
         // The numbers that converted, as a scan into the grid would store them.
@@ -194,9 +219,9 @@ void ReadGrids(const Json::Value& jsonIn, GridRead* grids, uint32_t count) {
         std::memcpy(&grids[g].grid.sections[at], &scanned, sizeof(int32_t) * fields);
         if (fields != 7) grids[g].reading = grids[g].read = false;
       }
-      return anyReading();
+      return anyReading() || inWeek(d, s + 1);
     });
-    return anyReading();
+    return anyReading() || inWeek(d + 1, 0);
   });
 }
 
@@ -275,17 +300,13 @@ bool ParseHolidayScheduleAndGrid(const Json::Value& jsonIn, HolidaySchedule* sch
 
 bool ParseHolidayScheduleWithWeek(const Json::Value& jsonIn, HolidaySchedule* schedule,
                                   WeekSchedule7x6* week) {
-  const bool read = ParseHolidaySchedule(jsonIn, schedule);
-  if (week == nullptr || jsonIn.isNull()) return read;
-  for (uint32_t d = 0; d < KOVA_WEEK_DAYS; ++d) {
-    const Json::Value& day = Element(jsonIn, d);
-    for (uint32_t s = 0; s < KOVA_SECTIONS_PER_DAY; ++s) {
-      // A section that does not read keeps what converted; the rest of the
-      // week is still read.
-      ParseTimeSection(Element(day, s), &week->sections[d][s]);
-    }
-  }
-  return read;
+  if (schedule == nullptr) return false;
+  std::memset(schedule, 0, sizeof *schedule);
+  int32_t days = 0;
+  GridRead read = {
+      {&schedule->sections[0][0], kHolidayDays, kHolidaySections, &days}, false, false};
+  ReadGrids(jsonIn, &read, 1, week);
+  return FinishHoliday(read.read, days, schedule);
 }
 
 bool ParseDaySections(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxSections) {

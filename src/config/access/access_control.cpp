@@ -20,9 +20,9 @@ void ParseRange(const Json::Value& obj, unsigned char* record, const Field& f) {
   const std::string text = kova::ToText(kova::Member(obj, f.key));
   DoorTimeRange t = {};
   char rest = 0;
-  if (std::sscanf(text.c_str(), "%d:%d:%d-%d:%d:%d%c", &t.beginHour, &t.beginMinute,
-                  &t.beginSecond, &t.endHour, &t.endMinute, &t.endSecond, &rest) == 6) {
-    t.withSeconds = 1;
+  if (std::sscanf(text.c_str(), "%d:%d:%d-%d:%d:%d%c", &t.beginHour, &t.beginMinute, &t.beginSecond,
+                  &t.endHour, &t.endMinute, &t.endSecond, &rest) == 6) {
+    t.secondsPresent = 1;
     *r = t;
     return;
   }
@@ -36,7 +36,7 @@ void ParseRange(const Json::Value& obj, unsigned char* record, const Field& f) {
 void PackRange(const unsigned char* record, Json::Value& obj, const Field& f) {
   const DoorTimeRange* r = reinterpret_cast<const DoorTimeRange*>(record + f.offset);
   char text[96];
-  if (r->withSeconds != 0) {
+  if (r->secondsPresent != 0) {
     std::snprintf(text, sizeof text, "%02d:%02d:%02d-%02d:%02d:%02d", r->beginHour, r->beginMinute,
                   r->beginSecond, r->endHour, r->endMinute, r->endSecond);
   } else {
@@ -111,7 +111,8 @@ void ParseSchedule(const Json::Value& obj, unsigned char* record, const Field&) 
 void PackSchedule(const unsigned char* record, Json::Value& obj, const Field&) {
   const AccessControlConfig* r = reinterpret_cast<const AccessControlConfig*>(record);
   if (r->timeScheduleForm == KOVA_DOOR_SCHEDULE_LIST) kova::PackFields(record, obj, &kListForm, 1);
-  if (r->timeScheduleForm == KOVA_DOOR_SCHEDULE_BY_DAY) kova::PackFields(record, obj, &kByDayForm, 1);
+  if (r->timeScheduleForm == KOVA_DOOR_SCHEDULE_BY_DAY)
+    kova::PackFields(record, obj, &kByDayForm, 1);
 }
 
 constexpr Field kDoorFields[] = {

@@ -67,13 +67,6 @@ constexpr ResponseFrame kFrame =
 
 }  // namespace
 
-int ParseAccessControlGeneral(const char* jsonText, void* outBuf, uint32_t outLen,
-                              uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackAccessControlGeneral(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(AccessControlGeneral, kFrame)
 
 }  // namespace kova

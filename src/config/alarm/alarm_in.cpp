@@ -46,12 +46,6 @@ constexpr ResponseFrame kFrame = AlarmSourceFrame<R>(ParseInput, PackTableStep<k
 
 }  // namespace
 
-int ParseAlarm(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackAlarm(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(Alarm, kFrame)
 
 }  // namespace kova

@@ -170,12 +170,6 @@ constexpr ResponseFrame kFrame = AlarmSourceFrame<R>(ParseMotion, PackTableStep<
 
 }  // namespace
 
-int ParseMotionDetect(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackMotionDetect(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(MotionDetect, kFrame)
 
 }  // namespace kova

@@ -24,12 +24,6 @@ constexpr ResponseFrame kFrame = AlarmSourceFrame<R, kTable>().OnNullTable(NullT
 
 }  // namespace
 
-int ParseNetAlarm(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackNetAlarm(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(NetAlarm, kFrame)
 
 }  // namespace kova

@@ -62,20 +62,8 @@ constexpr ResponseFrame kFanFrame = SizedListFrame<F, kFanTable>();
 
 }  // namespace
 
-int ParseTemperatureAlarm(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kTemperatureFrame, jsonText, outBuf, outLen, retLen);
-}
+KOVA_FRAME_TRANSLATORS(TemperatureAlarm, kTemperatureFrame)
 
-int PackTemperatureAlarm(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kTemperatureFrame, inBuf, inLen, outJson, outLen);
-}
-
-int ParseFanSpeedAlarm(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFanFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackFanSpeedAlarm(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFanFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(FanSpeedAlarm, kFanFrame)
 
 }  // namespace kova

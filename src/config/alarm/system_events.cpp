@@ -28,20 +28,8 @@ constexpr ResponseFrame kLowSpaceFrame = AlarmSourceFrame<StorageLowSpaceRecord,
 
 }  // namespace
 
-int ParseSystemEvent(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kEventFrame, jsonText, outBuf, outLen, retLen);
-}
+KOVA_FRAME_TRANSLATORS(SystemEvent, kEventFrame)
 
-int PackSystemEvent(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kEventFrame, inBuf, inLen, outJson, outLen);
-}
-
-int ParseStorageLowSpace(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kLowSpaceFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackStorageLowSpace(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kLowSpaceFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(StorageLowSpace, kLowSpaceFrame)
 
 }  // namespace kova

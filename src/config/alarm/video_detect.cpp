@@ -26,20 +26,8 @@ constexpr ResponseFrame kBlindFrame = AlarmSourceFrame<BlindDetectRecord, kBlind
 
 }  // namespace
 
-int ParseLossDetect(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kLossFrame, jsonText, outBuf, outLen, retLen);
-}
+KOVA_FRAME_TRANSLATORS(LossDetect, kLossFrame)
 
-int PackLossDetect(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kLossFrame, inBuf, inLen, outJson, outLen);
-}
-
-int ParseBlindDetect(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kBlindFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackBlindDetect(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kBlindFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(BlindDetect, kBlindFrame)
 
 }  // namespace kova

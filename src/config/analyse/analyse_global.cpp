@@ -160,7 +160,7 @@ void PackNumbered(const unsigned char* record, Json::Value& table) {
 // numbers run on and the array has room.
 void ParsePeriods(const Json::Value& table, G* g) {
   const uint32_t room =
-      g->periods == nullptr ? 0 : std::min<uint32_t>(g->periodCount, KOVA_GLOBAL_MAX_PERIODS);
+      g->periods == nullptr ? 0 : CutCount(g->periodCount, KOVA_GLOBAL_MAX_PERIODS);
   uint32_t found = 0;
   while (found < room) {
     const Json::Value& v = Member(table, NumberedKey("TimePeriod", found + 1).c_str());
@@ -176,7 +176,7 @@ void ParsePeriods(const Json::Value& table, G* g) {
 
 void PackPeriods(const G& g, Json::Value& table) {
   if (g.periods == nullptr) return;
-  const uint32_t n = std::min<uint32_t>(g.periodCount, KOVA_GLOBAL_MAX_PERIODS);
+  const uint32_t n = CutCount(g.periodCount, KOVA_GLOBAL_MAX_PERIODS);
   for (uint32_t i = 0; i < n; ++i) {
     DayNightPeriod p;
     std::memcpy(&p, reinterpret_cast<const unsigned char*>(g.periods) + i * sizeof p, sizeof p);

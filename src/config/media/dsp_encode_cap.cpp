@@ -77,12 +77,6 @@ constexpr ResponseFrame kFrame =
 
 }  // namespace
 
-int ParseDspEncodeCap(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackDspEncodeCap(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(DspEncodeCap, kFrame)
 
 }  // namespace kova

@@ -121,12 +121,6 @@ constexpr ResponseFrame kFrame = ResponseFrame::For<C>(ParseChannel, PackTableSt
 
 }  // namespace
 
-int ParseEncode(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackEncode(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(Encode, kFrame)
 
 }  // namespace kova

@@ -47,12 +47,6 @@ constexpr ResponseFrame kFrame = ResponseFrame::For<P>(ParseEntry, PackEntry)
 
 }  // namespace
 
-int ParseEncodePlan(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {
-  return ParseWithFrame(kFrame, jsonText, outBuf, outLen, retLen);
-}
-
-int PackEncodePlan(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {
-  return PackWithFrame(kFrame, inBuf, inLen, outJson, outLen);
-}
+KOVA_FRAME_TRANSLATORS(EncodePlan, kFrame)
 
 }  // namespace kova

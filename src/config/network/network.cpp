@@ -59,10 +59,8 @@ void ParseInterfaces(const Json::Value& table, unsigned char* record, const Fiel
 
 void PackInterfaces(const unsigned char* record, Json::Value& table, const Field&) {
   const NetworkConfig* config = reinterpret_cast<const NetworkConfig*>(record);
-  const int32_t count = config->interfaceCount;
-  const int32_t n =
-      count < 0 ? 0 : (count > KOVA_NETWORK_MAX_INTERFACES ? KOVA_NETWORK_MAX_INTERFACES : count);
-  for (int32_t i = 0; i < n; ++i) {
+  const uint32_t n = CutCount(config->interfaceCount, KOVA_NETWORK_MAX_INTERFACES);
+  for (uint32_t i = 0; i < n; ++i) {
     const NetworkInterface& nif = config->interfaces[i];
     Json::Value name;
     SetJsonStringBounded(name, nif.name, sizeof nif.name, 1);

@@ -77,7 +77,7 @@ void PackChannelTimes(const unsigned char* record, Json::Value& nas, const Field
   const LegacyNasConfig* r = reinterpret_cast<const LegacyNasConfig*>(record);
   Json::Value& times = SetMember(nas, f.key);
   times = Json::Value(Json::objectValue);
-  const int channels = std::min(std::max(r->channelCount, 0), kChannels);
+  const int channels = static_cast<int>(CutCount(r->channelCount, kChannels));
   for (int c = 0; c < channels; ++c) {
     const ChannelKeys keys(c);
     Json::Value& enable = SetMember(times, keys.enable);

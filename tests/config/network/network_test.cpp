@@ -52,13 +52,13 @@ TEST(Network, DeviceAnswerReadsAndPacksBack) {
   EXPECT_EQ(0, eth0.dhcpEnable);
   EXPECT_EQ(1, eth0.enable);
   EXPECT_EQ(1, eth0.enableDhcpReservedIp);
-  EXPECT_EQ(kNetworkLinkAdapt, eth0.netMode);
-  EXPECT_EQ(kNetworkInterfaceStandard, eth0.type);
+  EXPECT_EQ(KOVA_NETWORK_LINK_ADAPT, eth0.netMode);
+  EXPECT_EQ(KOVA_NETWORK_INTERFACE_STANDARD, eth0.type);
   EXPECT_STREQ("8.8.8.8", eth0.dnsServers[1]);
   const NetworkInterface& eth2 = r->interfaces[1];
   EXPECT_EQ(1500, eth2.mtu);
-  EXPECT_EQ(kNetworkLinkFull100M, eth2.netMode);
-  EXPECT_EQ(kNetworkInterfaceManager, eth2.type);
+  EXPECT_EQ(KOVA_NETWORK_LINK_FULL_100M, eth2.netMode);
+  EXPECT_EQ(KOVA_NETWORK_INTERFACE_MANAGER, eth2.type);
   EXPECT_STREQ("10.0.20.2", eth2.dnsServers[1]);  // the third server is not kept
 
   const std::string packed = Pack(kName, *r);

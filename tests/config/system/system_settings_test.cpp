@@ -212,7 +212,7 @@ TEST(SystemSettings, DoorScheduleFormsAndTimeRanges) {
   EXPECT_EQ(2, d[0].rangeCount);  // a null entry takes no slot; a bad text reads as all zero
   EXPECT_EQ(7, d[0].ranges[0].beginHour);
   EXPECT_EQ(30, d[0].ranges[0].beginMinute);
-  EXPECT_EQ(0, d[0].ranges[0].withSeconds);
+  EXPECT_EQ(0, d[0].ranges[0].secondsPresent);
   EXPECT_EQ(KOVA_DOOR_SCHEDULE_BY_DAY, d[1].timeScheduleForm);
   EXPECT_EQ(2, d[1].dayCount);
   EXPECT_EQ(2, d[1].days[0].sections[0].method);
