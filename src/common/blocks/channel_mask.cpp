@@ -1,6 +1,7 @@
 #include "common/blocks/channel_mask.h"
 
 #include <cstring>
+#include <utility>
 
 #include "common/json/json.h"
 
@@ -49,7 +50,7 @@ void PackChannelSet(const unsigned char* record, Json::Value& obj, const Field& 
   std::memcpy(words, record + f.offset, sizeof words);
   Json::Value channels = PackChannelMask(words);
   if (Count(channels) != 0) {
-    SetMember(obj, f.key) = channels;
+    SetMember(obj, f.key) = std::move(channels);
   } else if (kEmpty == EmptySet::kNull) {
     SetMember(obj, f.key) = Json::Value(Json::nullValue);
   }

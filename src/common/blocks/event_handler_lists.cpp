@@ -1,6 +1,7 @@
 #include "common/blocks/event_handler_lists.h"
 
 #include <cstring>
+#include <utility>
 
 #include "common/fields/fields.h"
 #include "common/json/json.h"
@@ -130,7 +131,7 @@ void PackTitles(const unsigned char* record, Json::Value& obj, const Field& f) {
     SetElement(size, 1) = static_cast<double>(t.size[1]);
     SetMember(item, "FrontColor") = IntArray(t.frontColor, 4);
     SetMember(item, "BackColor") = IntArray(t.backColor, 4);
-    list.append(item);
+    list.append(std::move(item));
   }
 }
 

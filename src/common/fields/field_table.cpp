@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 
 #include "common/base/log.h"
 #include "common/fields/fields.h"
@@ -366,7 +367,7 @@ void PackList(const unsigned char* record, const Field& f, Json::Value* out) {
     Json::Value item;
     const unsigned char* entry =
         record + f.offset + static_cast<size_t>(k) * f.size + f.element->offset;
-    if (PackValue(entry, *f.element, &item)) out->append(item);
+    if (PackValue(entry, *f.element, &item)) out->append(std::move(item));
   }
 }
 
@@ -415,7 +416,7 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
       for (uint32_t i = 0; i < f.capacity; ++i) {
         Json::Value item;
         if (!PackScalar(member + i * f.size, f, &item)) item = "";
-        out->append(item);
+        out->append(std::move(item));
       }
       return true;
     }
@@ -611,7 +612,8 @@ void PackFields(const void* record, Json::Value& obj, const Field* fields, size_
     } else {
       written = PackValue(base + f.offset, f, &v);
     }
-    if (written) SetMember(obj, f.key) = v;
+    // Moved, not copied: a nested block or list is a whole tree.
+    if (written) SetMember(obj, f.key) = std::move(v);
   }
 }
 
