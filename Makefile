@@ -13,7 +13,7 @@ WINDOWS_BUILD ?= build-windows
 BENCH_ARGS ?=
 
 DEB_PACKAGES := cmake make g++ pkg-config libjsoncpp-dev libgtest-dev libgmock-dev \
-	libbenchmark-dev ninja-build clang libclang-rt-dev llvm binutils gcovr dpkg-dev file
+	libbenchmark-dev ninja-build clang clang-format libclang-rt-dev llvm binutils gcovr dpkg-dev file
 
 # The Windows cross-build only (`make windows`, `make windows-test`): MinGW-w64,
 # Wine, GoogleTest's sources, and what `apt-get source` needs to unpack
@@ -21,7 +21,7 @@ DEB_PACKAGES := cmake make g++ pkg-config libjsoncpp-dev libgtest-dev libgmock-d
 WINDOWS_PACKAGES := cmake make ninja-build g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 \
 	wine wine64 googletest dpkg-dev
 
-.PHONY: all deps build test demo fuzz-build fuzz fuzz-short tsan bench coverage \
+.PHONY: all deps format format-check build test demo fuzz-build fuzz fuzz-short tsan bench coverage \
 	package package-check windows windows-test windows-deps clean
 
 all: build
@@ -42,11 +42,18 @@ endef
 deps:
 	$(call install-missing,$(DEB_PACKAGES))
 
+# Every C and C++ file of the tree, in the checked-in .clang-format.
+format: deps
+	@sh tools/format.sh --write
+
+format-check: deps
+	@sh tools/format.sh --check
+
 build: deps
 	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 	cmake --build $(BUILD) -j $(JOBS)
 
-test: build
+test: format-check build
 	cmake -S . -B $(ASAN_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DKOVA_SANITIZE=ON >/dev/null
 	cmake --build $(ASAN_BUILD) -j $(JOBS)
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)

@@ -26,7 +26,8 @@ int KOVA_CALL Count(uint32_t, const void*, uint32_t, const void*, uint32_t, void
 
 void Rates(benchmark::State& state, int64_t delivered) {
   const double iterations = static_cast<double>(state.iterations());
-  state.counters["events/s"] = benchmark::Counter(kEvents * iterations, benchmark::Counter::kIsRate);
+  state.counters["events/s"] =
+      benchmark::Counter(kEvents * iterations, benchmark::Counter::kIsRate);
   state.counters["delivered/s"] =
       benchmark::Counter(static_cast<double>(delivered), benchmark::Counter::kIsRate);
 }

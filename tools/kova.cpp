@@ -52,13 +52,15 @@ namespace {
 constexpr uint32_t kDefaultSize = 8u << 20;
 
 int Usage() {
-  std::fprintf(stderr,
-               "usage: kova names\n"
-               "       kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] [--rule-buffer N]\n"
-               "       kova pack NAME RECORD.bin [--size N]\n"
-               "       kova roundtrip NAME FILE [--size N] [--sized] [--channel N] [--rule-buffer N]\n"
-               "       kova events FILE [--by-callback]\n"
-               "option: --log FILE  append the library's error reports to FILE\n");
+  std::fprintf(
+      stderr,
+      "usage: kova names\n"
+      "       kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] "
+      "[--rule-buffer N]\n"
+      "       kova pack NAME RECORD.bin [--size N]\n"
+      "       kova roundtrip NAME FILE [--size N] [--sized] [--channel N] [--rule-buffer N]\n"
+      "       kova events FILE [--by-callback]\n"
+      "option: --log FILE  append the library's error reports to FILE\n");
   return 2;
 }
 
@@ -360,7 +362,8 @@ int Run(int argc, char** argv) {
   const Options o = ParseOptions(argc, argv);
   if (!o.ok) return Usage();
   if (cmd == "names" && o.args.empty() && !o.hasChannel) return Names();
-  if (cmd == "events" && o.args.size() == 1 && !o.hasChannel) return Events(o.args[0], o.byCallback);
+  if (cmd == "events" && o.args.size() == 1 && !o.hasChannel)
+    return Events(o.args[0], o.byCallback);
 
   if (cmd == "parse" && o.args.size() == 2) {
     std::vector<unsigned char> record(o.size);

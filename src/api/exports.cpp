@@ -1,11 +1,10 @@
 // The four exported functions: argument checks, then dispatch. Nothing
 // thrown inside the library (the JSON library throws on some misuse,
 // allocation can fail) leaves through them.
-#include "kova/kova.h"
-
 #include "api/dispatch.h"
 #include "events/document_readers.h"
 #include "events/event_stream.h"
+#include "kova/kova.h"
 
 extern "C" {
 

@@ -117,7 +117,7 @@ const PackName kPackNames[] = {
     {"Snap", PackSnap, sizeof(SnapConfig)},
     {"SpecialDirectoryDefine", nullptr, 0},
     {"AutoStartupDelay", nullptr, 0},
-    {"VideoDiagnosisRealProject", nullptr, 0}, // pack only
+    {"VideoDiagnosisRealProject", nullptr, 0},  // pack only
     {"CANFilter", nullptr, 0},
     {"VideoInFocus", PackVideoInFocus, sizeof(VideoInFocusConfig)},
     {"EncodeAdapt", PackEncodeAdapt, sizeof(EncodeAdaptConfig)},
@@ -224,8 +224,7 @@ const PackName kPackNames[] = {
     {"AudioOutSuppression", nullptr, 0},
     {"AudioInControl", nullptr, 0},
     // The table-driver names close the list (driver_names.h).
-    KOVA_DRIVER_NAMES(KOVA_DRIVER_NAME_ENTRY)
-};
+    KOVA_DRIVER_NAMES(KOVA_DRIVER_NAME_ENTRY)};
 
 #undef KOVA_DRIVER_NAME_ENTRY
 

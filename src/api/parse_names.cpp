@@ -30,37 +30,37 @@ const ParseName kParseNames[] = {
     {"VideoAnalyseGlobal", ParseVideoAnalyseGlobal, sizeof(VideoAnalyseGlobalConfig)},
     {"VideoAnalyseModule", ParseVideoAnalyseModule, sizeof(VideoAnalyseModuleConfig)},
     {"VideoAnalyseRule", ParseVideoAnalyseRule, sizeof(VideoAnalyseRuleList)},
-    {"devVideoAnalyse.getCaps", nullptr, 0}, // parse only
+    {"devVideoAnalyse.getCaps", nullptr, 0},  // parse only
     {"VideoAnalyseSource", nullptr, 0},
     {"RainBrush", nullptr, 0},
     {"TrafficSnapshot", ParseTrafficSnapshot, sizeof(TrafficSnapshotConfig)},
     {"TrafficGlobal", nullptr, 0},
     {"General", ParseGeneral, sizeof(GeneralConfig)},
     {"FetchMoneyOverTime", nullptr, 0},
-    {"DeviceStatus", nullptr, 0}, // parse only
+    {"DeviceStatus", nullptr, 0},  // parse only
     {"HardDiskTank", nullptr, 0},
     {"RaidGroup", nullptr, 0},
-    {"StoragePoolGroup", nullptr, 0}, // parse only
-    {"StoragePositionGroup", nullptr, 0}, // parse only
-    {"VideoInDevGroup", nullptr, 0}, // parse only
-    {"DevRecordGroup", nullptr, 0}, // parse only
-    {"IpsServer", nullptr, 0}, // parse only
+    {"StoragePoolGroup", nullptr, 0},      // parse only
+    {"StoragePositionGroup", nullptr, 0},  // parse only
+    {"VideoInDevGroup", nullptr, 0},       // parse only
+    {"DevRecordGroup", nullptr, 0},        // parse only
+    {"IpsServer", nullptr, 0},             // parse only
     {"SnapSource", nullptr, 0},
-    {"netApp.getRemoteDeviceStatus", nullptr, 0}, // parse only
-    {"intelli.getVideoAnalyseDeviceChannels", nullptr, 0}, // parse only
-    {"devVideoAnalyse.factory.getCollect", nullptr, 0}, // parse only
+    {"netApp.getRemoteDeviceStatus", nullptr, 0},           // parse only
+    {"intelli.getVideoAnalyseDeviceChannels", nullptr, 0},  // parse only
+    {"devVideoAnalyse.factory.getCollect", nullptr, 0},     // parse only
     {"SplitTour", nullptr, 0},
     {"SpotMatrix", nullptr, 0},
     {"DspEncodeCap", ParseDspEncodeCap, sizeof(DspEncodeCapRecord)},
     {"VideoEncodeROI", ParseVideoEncodeRoi, sizeof(EncodeRoiConfig)},
     {"VideoInMetering", nullptr, 0},
-    {"devVideoInput.getCaps", nullptr, 0}, // parse only
+    {"devVideoInput.getCaps", nullptr, 0},  // parse only
     {"TrafficFlowStat", nullptr, 0},
     {"VideoInOptions", ParseVideoInOptions, sizeof(VideoInOptionsConfig)},
     {"RTSP", ParseRtsp, sizeof(RtspConfig)},
     {"Multicast", ParseMulticast, sizeof(MulticastConfig)},
-    {"userManager.getActiveUserInfoAll", nullptr, 0}, // parse only
-    {"videoStatServer.getSummary", nullptr, 0}, // parse only
+    {"userManager.getActiveUserInfoAll", nullptr, 0},  // parse only
+    {"videoStatServer.getSummary", nullptr, 0},        // parse only
     {"TrafficSnapshotNew", nullptr, 0},
     {"ChannelTitle", ParseChannelTitle, sizeof(ChannelTitleConfig)},
     {"RecordMode", ParseRecordMode, sizeof(RecordModeConfig)},
@@ -86,8 +86,8 @@ const ParseName kParseNames[] = {
     {"VideoDiagnosisTask.x", nullptr, 0},
     {"VideoDiagnosisProject", nullptr, 0},
     {"VideoDiagnosisGlobal", nullptr, 0},
-    {"videoDiagnosisServer.factory.getCollect", nullptr, 0}, // parse only
-    {"videoDiagnosisServer.getState", nullptr, 0}, // parse only
+    {"videoDiagnosisServer.factory.getCollect", nullptr, 0},  // parse only
+    {"videoDiagnosisServer.getState", nullptr, 0},            // parse only
     {"MonitorWall", nullptr, 0},
     {"VideoOutputComposite", nullptr, 0},
     {"RecordBackupRestore", nullptr, 0},
@@ -97,38 +97,38 @@ const ParseName kParseNames[] = {
     {"StorageDevGroup", nullptr, 0},
     {"RemoteStorageLimit", nullptr, 0},
     {"RecordToGroup", nullptr, 0},
-    {"IVSFramRule", nullptr, 0}, // parse only
+    {"IVSFramRule", nullptr, 0},  // parse only
     {"Comm", nullptr, 0},
     {"Network", ParseNetwork, sizeof(NetworkConfig)},
     {"NAS", ParseNas, sizeof(NasConfig)},
     {"RecordStoragePoint", nullptr, 0},
     {"IntelliTrackScene", nullptr, 0},
     {"MetaDataServer", nullptr, 0},
-    {"trafficSnap.getDeviceStatus", nullptr, 0}, // parse only
-    {"system.listService", nullptr, 0}, // parse only
-    {"capsManager.get&EventManagerEventHandler", nullptr, 0}, // parse only
-    {"alarm.getAlarmCaps", nullptr, 0}, // parse only
+    {"trafficSnap.getDeviceStatus", nullptr, 0},               // parse only
+    {"system.listService", nullptr, 0},                        // parse only
+    {"capsManager.get&EventManagerEventHandler", nullptr, 0},  // parse only
+    {"alarm.getAlarmCaps", nullptr, 0},                        // parse only
     {"FlashLight", nullptr, 0},
     {"AudioAnalyseRule", ParseVideoAnalyseRule, sizeof(VideoAnalyseRuleList)},
-    {"devAudioAnalyse.getCaps", nullptr, 0}, // parse only
+    {"devAudioAnalyse.getCaps", nullptr, 0},  // parse only
     {"Judicature", nullptr, 0},
     {"CQDTSet", nullptr, 0},
     {"VideoIn", nullptr, 0},
     {"EncodePlan", ParseEncodePlan, sizeof(EncodePlanEntry)},
     {"PicInPic", nullptr, 0},
-    {"masterSlaveTracker.factory.getCollect", nullptr, 0}, // parse only
+    {"masterSlaveTracker.factory.getCollect", nullptr, 0},  // parse only
     {"MasterSlaveTrackerGlobal", nullptr, 0},
-    {"capsManager.get&MasterSlaveTracker", nullptr, 0}, // parse only
+    {"capsManager.get&MasterSlaveTracker", nullptr, 0},  // parse only
     {"VideoAnalyseWhole", nullptr, 0},
     {"AnalogMatrix", nullptr, 0},
     {"MonitorWallCollection", nullptr, 0},
     {"VideoInBoundary", nullptr, 0},
     {"AnalogMatrixProtocol", nullptr, 0},
     {"VideoOutputTitle", nullptr, 0},
-    {"netApp.getCaps", nullptr, 0}, // parse only
+    {"netApp.getCaps", nullptr, 0},  // parse only
     {"BurnFull", nullptr, 0},
-    {"devVideoInput.getFocusStatus", nullptr, 0}, // parse only
-    {"ptz.factory.instance", nullptr, 0}, // parse only
+    {"devVideoInput.getFocusStatus", nullptr, 0},  // parse only
+    {"ptz.factory.instance", nullptr, 0},          // parse only
     {"DiskFluxAlarm", nullptr, 0},
     {"NetFluxAlarm", nullptr, 0},
     {"HolidaySchedule", nullptr, 0},
@@ -136,21 +136,21 @@ const ParseName kParseNames[] = {
     {"ParkingSpaceScreen", nullptr, 0},
     {"ParkingSpaceCellStatus", nullptr, 0},
     {"ClientCustomData", nullptr, 0},
-    {"recordManager.getCaps", nullptr, 0}, // parse only
+    {"recordManager.getCaps", nullptr, 0},  // parse only
     {"BurnRecordFormat", nullptr, 0},
     {"MultiBurn", nullptr, 0},
-    {"BurnManager.getCaps", nullptr, 0}, // parse only
+    {"BurnManager.getCaps", nullptr, 0},  // parse only
     {"EncodeEncrypt", nullptr, 0},
     {"VideoInZoom", ParseVideoInZoom, sizeof(VideoInZoomConfig)},
     {"Snap", ParseSnap, sizeof(SnapConfig)},
-    {"ptz.getCurrentProtocolCaps", nullptr, 0}, // parse only
-    {"encode.getCaps", nullptr, 0}, // parse only
+    {"ptz.getCurrentProtocolCaps", nullptr, 0},  // parse only
+    {"encode.getCaps", nullptr, 0},              // parse only
     {"SpecialDirectoryDefine", nullptr, 0},
     {"AutoStartupDelay", nullptr, 0},
-    {"devVideoInput.getCapsEx", nullptr, 0}, // parse only
+    {"devVideoInput.getCapsEx", nullptr, 0},  // parse only
     {"CANFilter", nullptr, 0},
     {"VideoInFocus", ParseVideoInFocus, sizeof(VideoInFocusConfig)},
-    {"intelli.getCaps.AnalyseMode", nullptr, 0}, // parse only
+    {"intelli.getCaps.AnalyseMode", nullptr, 0},  // parse only
     {"EncodeAdapt", ParseEncodeAdapt, sizeof(EncodeAdaptConfig)},
     {"VideoAnalyseCalibrate", nullptr, 0},
     {"PtzPreset", nullptr, 0},
@@ -182,22 +182,22 @@ const ParseName kParseNames[] = {
     {"AudioInputVolume", ParseAudioVolume, sizeof(AudioVolumeConfig)},
     {"AudioMixVolume", nullptr, 0},
     {"AlarmKeyboard", nullptr, 0},
-    {"FileManager.getCaps", nullptr, 0}, // parse only
-    {"eventManager.getCaps", nullptr, 0}, // parse only
+    {"FileManager.getCaps", nullptr, 0},   // parse only
+    {"eventManager.getCaps", nullptr, 0},  // parse only
     {"PowerFault", nullptr, 0},
     {"ChassisIntrusion", nullptr, 0},
     {"ExAlarmBox", nullptr, 0},
     {"ExAlarmOut", nullptr, 0},
     {"ExAlarm", nullptr, 0},
-    {"log.getCaps", nullptr, 0}, // parse only
-    {"speak.getCaps", nullptr, 0}, // parse only
-    {"accessControlManager.getCaps", nullptr, 0}, // parse only
-    {"alarm.getExAlarmBoxCaps", nullptr, 0}, // parse only
-    {"alarm.getExAlarmCaps", nullptr, 0}, // parse only
+    {"log.getCaps", nullptr, 0},                   // parse only
+    {"speak.getCaps", nullptr, 0},                 // parse only
+    {"accessControlManager.getCaps", nullptr, 0},  // parse only
+    {"alarm.getExAlarmBoxCaps", nullptr, 0},       // parse only
+    {"alarm.getExAlarmCaps", nullptr, 0},          // parse only
     {"AccessTimeSchedule", nullptr, 0},
-    {"RecordFinder.getCaps", nullptr, 0}, // parse only
+    {"RecordFinder.getCaps", nullptr, 0},  // parse only
     {"Emergency", nullptr, 0},
-    {"AnalogAlarm.getCaps", nullptr, 0}, // parse only
+    {"AnalogAlarm.getCaps", nullptr, 0},  // parse only
     {"SensorSampling", nullptr, 0},
     {"STP", nullptr, 0},
     {"AlarmSubSystem", nullptr, 0},
@@ -236,7 +236,7 @@ const ParseName kParseNames[] = {
     {"BurnPlan", nullptr, 0},
     {"SCADADev", nullptr, 0},
     {"VSP_GAYS", nullptr, 0},
-    {"LowRateWPAN.getCaps", nullptr, 0}, // parse only
+    {"LowRateWPAN.getCaps", nullptr, 0},  // parse only
     {"AudioDetect", ParseAudioDetect, sizeof(AudioDetectConfig)},
     {"GuideScreen", nullptr, 0},
     {"VTSCallInfo", nullptr, 0},
@@ -265,8 +265,7 @@ const ParseName kParseNames[] = {
     {"AudioOutSuppression", nullptr, 0},
     {"AudioInControl", nullptr, 0},
     // The table-driver names close the list (driver_names.h).
-    KOVA_DRIVER_NAMES(KOVA_DRIVER_NAME_ENTRY)
-};
+    KOVA_DRIVER_NAMES(KOVA_DRIVER_NAME_ENTRY)};
 
 #undef KOVA_DRIVER_NAME_ENTRY
 

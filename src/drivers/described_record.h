@@ -21,8 +21,7 @@ namespace kova {
 // Reads the record from its element; an element of the wrong JSON type
 // leaves the record cleared. Never fails.
 template <const Field& kWhole>
-bool ParseDescribed(const Json::Value& element, const StepContext& /*ctx*/,
-                    unsigned char* record) {
+bool ParseDescribed(const Json::Value& element, const StepContext& /*ctx*/, unsigned char* record) {
   static_assert(kWhole.offset == 0, "the whole record's field starts the record");
   ParseValue(element, record, kWhole);
   return true;
@@ -52,8 +51,9 @@ bool ParseDescribedSized(const Json::Value& element, const StepContext& ctx,
 // table as channels only when its elements are arrays.
 template <typename Rec, const Field& kWhole>
 constexpr ResponseFrame DescribedFrame() {
-  constexpr ResponseFrame frame = ResponseFrame::For<Rec>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
-                                       .Walk(RecordWalk::kPerChannel);
+  constexpr ResponseFrame frame =
+      ResponseFrame::For<Rec>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
+          .Walk(RecordWalk::kPerChannel);
   return kWhole.shape == FieldShape::kList ? frame.ArrayRecords() : frame;
 }
 

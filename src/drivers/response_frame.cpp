@@ -70,11 +70,12 @@ int ParseObjectMembers(const ResponseFrame& f, const Json::Value& root, const Js
       if (filled >= slots) break;
       const Json::Value& element = Member(table, name.c_str());
       if (!element.isObject()) continue;
-      const StepContext ctx{root, Member(root, "params"), filled, f.recordSize, name.c_str(),
-                            static_cast<int32_t>(filled)};
+      const StepContext ctx{root,         Member(root, "params"), filled,
+                            f.recordSize, name.c_str(),           static_cast<int32_t>(filled)};
       unsigned char* record = out + static_cast<size_t>(filled) * f.recordSize;
       if (!f.parse(element, ctx, record)) {
-        if (f.clearing != Clearing::kNone) std::memset(out, 0, static_cast<size_t>(slots) * f.recordSize);
+        if (f.clearing != Clearing::kNone)
+          std::memset(out, 0, static_cast<size_t>(slots) * f.recordSize);
         return 0;
       }
       ++filled;
@@ -126,7 +127,6 @@ namespace {
 bool NeedsCopy(const ResponseFrame& f, const unsigned char* slot, uint32_t stride) {
   return stride < f.recordSize || reinterpret_cast<uintptr_t>(slot) % f.recordAlign != 0;
 }
-
 
 }  // namespace
 
@@ -204,8 +204,9 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
         record = copy.data();
       }
       const int32_t channel = perElement ? static_cast<int32_t>(i) : rootChannel;
-      const StepContext ctx{root, params, i, f.recordSize, nullptr,
-                            f.channelAtRoot ? channel : static_cast<int32_t>(i)};
+      const StepContext ctx{root,    params,
+                            i,       f.recordSize,
+                            nullptr, f.channelAtRoot ? channel : static_cast<int32_t>(i)};
       if (!f.parse(element, ctx, record)) {
         if (f.clearing != Clearing::kNone) ClearOutput(f, out, outLen, stride);
         return 0;

@@ -112,7 +112,8 @@ struct ResponseFrame {
   NullTable nullTable = NullTable::kSucceedEmpty;
   Clearing clearing = Clearing::kWholeBuffer;
   RecordWalk walk = RecordWalk::kOne;
-  bool skipNullElements = false;  // per-channel: a null element leaves its record and is not counted
+  bool skipNullElements =
+      false;  // per-channel: a null element leaves its record and is not counted
   // A record's own JSON is an array (a channel's profiles): a per-channel
   // table lists channels only when its first non-null element is an array;
   // otherwise the table is one record.
@@ -147,36 +148,100 @@ struct ResponseFrame {
     f.pack = k;
     return f;
   }
-  constexpr ResponseFrame Result(ResultRule r) const { auto f = *this; f.result = r; return f; }
-  constexpr ResponseFrame IgnoreResult() const { auto f = *this; f.result = ResultRule::kIgnored; return f; }
-  constexpr ResponseFrame Table(TableAt t) const { auto f = *this; f.tableAt = t; return f; }
-  constexpr ResponseFrame OnNullTable(NullTable n) const { auto f = *this; f.nullTable = n; return f; }
-  constexpr ResponseFrame Clear(Clearing c) const { auto f = *this; f.clearing = c; return f; }
+  constexpr ResponseFrame Result(ResultRule r) const {
+    auto f = *this;
+    f.result = r;
+    return f;
+  }
+  constexpr ResponseFrame IgnoreResult() const {
+    auto f = *this;
+    f.result = ResultRule::kIgnored;
+    return f;
+  }
+  constexpr ResponseFrame Table(TableAt t) const {
+    auto f = *this;
+    f.tableAt = t;
+    return f;
+  }
+  constexpr ResponseFrame OnNullTable(NullTable n) const {
+    auto f = *this;
+    f.nullTable = n;
+    return f;
+  }
+  constexpr ResponseFrame Clear(Clearing c) const {
+    auto f = *this;
+    f.clearing = c;
+    return f;
+  }
   constexpr ResponseFrame Walk(RecordWalk w) const {
     auto f = *this;
     f.walk = w;
-    f.packWalk = w == RecordWalk::kOne             ? PackWalk::kOne
-                 : w == RecordWalk::kPerChannel   ? PackWalk::kPerChannel
-                 : w == RecordWalk::kCallerSized  ? PackWalk::kCallerSized
-                                                  : PackWalk::kObjectMembers;
+    f.packWalk = w == RecordWalk::kOne           ? PackWalk::kOne
+                 : w == RecordWalk::kPerChannel  ? PackWalk::kPerChannel
+                 : w == RecordWalk::kCallerSized ? PackWalk::kCallerSized
+                                                 : PackWalk::kObjectMembers;
     return f;
   }
-  constexpr ResponseFrame SkipNullElements() const { auto f = *this; f.skipNullElements = true; return f; }
-  constexpr ResponseFrame ArrayRecords() const { auto f = *this; f.arrayRecords = true; return f; }
-  constexpr ResponseFrame Returned(ReturnedLength r) const { auto f = *this; f.returned = r; return f; }
-  constexpr ResponseFrame Copy(CopyRule c) const { auto f = *this; f.copy = c; return f; }
-  constexpr ResponseFrame Pack(PackWalk w) const { auto f = *this; f.packWalk = w; return f; }
-  constexpr ResponseFrame PackArrayAlways() const { auto f = *this; f.packArrayAlways = true; return f; }
-  constexpr ResponseFrame ChannelAtRoot() const { auto f = *this; f.channelAtRoot = true; return f; }
-  constexpr ResponseFrame ShortInputAsNull() const { auto f = *this; f.shortInputAsNull = true; return f; }
+  constexpr ResponseFrame SkipNullElements() const {
+    auto f = *this;
+    f.skipNullElements = true;
+    return f;
+  }
+  constexpr ResponseFrame ArrayRecords() const {
+    auto f = *this;
+    f.arrayRecords = true;
+    return f;
+  }
+  constexpr ResponseFrame Returned(ReturnedLength r) const {
+    auto f = *this;
+    f.returned = r;
+    return f;
+  }
+  constexpr ResponseFrame Copy(CopyRule c) const {
+    auto f = *this;
+    f.copy = c;
+    return f;
+  }
+  constexpr ResponseFrame Pack(PackWalk w) const {
+    auto f = *this;
+    f.packWalk = w;
+    return f;
+  }
+  constexpr ResponseFrame PackArrayAlways() const {
+    auto f = *this;
+    f.packArrayAlways = true;
+    return f;
+  }
+  constexpr ResponseFrame ChannelAtRoot() const {
+    auto f = *this;
+    f.channelAtRoot = true;
+    return f;
+  }
+  constexpr ResponseFrame ShortInputAsNull() const {
+    auto f = *this;
+    f.shortInputAsNull = true;
+    return f;
+  }
   constexpr ResponseFrame ArrayUnlessExactlyOne() const {
     auto f = *this;
     f.arrayUnlessExactlyOne = true;
     return f;
   }
-  constexpr ResponseFrame MinTextPerRecord(uint32_t n) const { auto f = *this; f.minTextPerRecord = n; return f; }
-  constexpr ResponseFrame RefuseEmptyText() const { auto f = *this; f.refuseEmptyText = true; return f; }
-  constexpr ResponseFrame NonArray(NonArrayTable n) const { auto f = *this; f.nonArray = n; return f; }
+  constexpr ResponseFrame MinTextPerRecord(uint32_t n) const {
+    auto f = *this;
+    f.minTextPerRecord = n;
+    return f;
+  }
+  constexpr ResponseFrame RefuseEmptyText() const {
+    auto f = *this;
+    f.refuseEmptyText = true;
+    return f;
+  }
+  constexpr ResponseFrame NonArray(NonArrayTable n) const {
+    auto f = *this;
+    f.nonArray = n;
+    return f;
+  }
 };
 
 // 1 on success, 0 on failure. Never writes past `outLen`; on failure the
@@ -218,12 +283,12 @@ int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRul
 
 // Defines the entry points Parse<Name> and Pack<Name> of a configuration
 // served by `frame` alone (inside namespace kova).
-#define KOVA_FRAME_TRANSLATORS(Name, frame)                                                   \
-  int Parse##Name(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) {    \
-    return ParseWithFrame(frame, jsonText, outBuf, outLen, retLen);                           \
-  }                                                                                           \
-  int Pack##Name(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {         \
-    return PackWithFrame(frame, inBuf, inLen, outJson, outLen);                               \
+#define KOVA_FRAME_TRANSLATORS(Name, frame)                                                \
+  int Parse##Name(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) { \
+    return ParseWithFrame(frame, jsonText, outBuf, outLen, retLen);                        \
+  }                                                                                        \
+  int Pack##Name(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {      \
+    return PackWithFrame(frame, inBuf, inLen, outJson, outLen);                            \
   }
 
 #endif  // KOVA_DRIVERS_RESPONSE_FRAME_H_

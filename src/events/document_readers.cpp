@@ -95,8 +95,7 @@ constexpr RecordReader Reader(uint32_t code) {
 }
 
 constexpr RecordReader kPtzStatusReader = Reader<PtzStatusRecord>(KOVA_CALLBACK_PTZ_STATUS);
-constexpr RecordReader kFocusStatusReader =
-    Reader<FocusStatusRecord>(KOVA_CALLBACK_FOCUS_STATUS);
+constexpr RecordReader kFocusStatusReader = Reader<FocusStatusRecord>(KOVA_CALLBACK_FOCUS_STATUS);
 constexpr RecordReader kStatSummaryReader =
     Reader<VideoStatSummaryRecord>(KOVA_CALLBACK_VIDEO_STAT_SUMMARY);
 constexpr RecordReader kTrafficFlowReader =

@@ -18,7 +18,7 @@ constexpr Field kPointItem = KOVA_ITEM_TUPLE(EventPoint, int32_t, kInt, 2);
 // not [x, y] keeps its slot, the count counts the points taken).
 constexpr Field Polyline(const char* key, size_t offset) {
   return MakeList<decltype(EventPolyline::points)>(key, offset + offsetof(EventPolyline, points),
-                                                  &kPointItem)
+                                                   &kPointItem)
       .Count(Slot{static_cast<uint32_t>(offset + offsetof(EventPolyline, pointCount)),
                   sizeof(uint32_t)},
              CountRule::kTaken)
@@ -27,8 +27,8 @@ constexpr Field Polyline(const char* key, size_t offset) {
 #define KOVA_POLYLINE(Rec, member, key) Polyline(key, offsetof(Rec, member))
 
 // "Track": the points taken, without holes.
-#define KOVA_TRACK(Rec)                                                           \
-  KOVA_ALLOCATED_LIST(Rec, track, "Track", kPointItem, KOVA_EVENT_MAX_TRACK)      \
+#define KOVA_TRACK(Rec)                                                      \
+  KOVA_ALLOCATED_LIST(Rec, track, "Track", kPointItem, KOVA_EVENT_MAX_TRACK) \
       .Count(KOVA_AT(Rec, trackCount), CountRule::kTaken)
 
 // ---- Blocks, innermost first: a table that nests a block needs its
@@ -107,7 +107,7 @@ KOVA_DESCRIBE(TrafficDriverSeat, kDriverSeatFields)
 namespace kova {
 namespace {
 
-constexpr const char* kObjectActionNames[] = {"Appear", "Move",  "Stay",  "Remove",
+constexpr const char* kObjectActionNames[] = {"Appear",    "Move",  "Stay",  "Remove",
                                               "Disappear", "Split", "Merge", "Rename"};
 constexpr EnumNames kObjectActions = EnumNames::Of(kObjectActionNames).FirstValue(1);
 
@@ -154,9 +154,9 @@ namespace {
 constexpr Field kObjectItem = KOVA_ITEM_NESTED(EventObject);
 
 // "Objects", "Faces": entries that are objects, without holes.
-#define KOVA_OBJECTS(Rec, member, key, countMember)                                      \
-  KOVA_ALLOCATED_LIST(Rec, member, key, kObjectItem, KOVA_EVENT_MAX_OBJECTS)             \
-      .Count(KOVA_AT(Rec, countMember), CountRule::kTaken)                               \
+#define KOVA_OBJECTS(Rec, member, key, countMember)                          \
+  KOVA_ALLOCATED_LIST(Rec, member, key, kObjectItem, KOVA_EVENT_MAX_OBJECTS) \
+      .Count(KOVA_AT(Rec, countMember), CountRule::kTaken)                   \
       .NoMemoryReport("New pstObjectInfo Failed")
 
 constexpr Field kCandidateItem = KOVA_ITEM_NESTED(FaceCandidate);
@@ -259,7 +259,8 @@ constexpr Field kFaceFields[] = {
 
 constexpr Field kTrafficFields[] = {
     KOVA_INLINE(TrafficEventInfo, common),
-    KOVA_NESTED(TrafficEventInfo, vehicle, "Vehicle").Flag(KOVA_AT(TrafficEventInfo, vehiclePresent)),
+    KOVA_NESTED(TrafficEventInfo, vehicle, "Vehicle")
+        .Flag(KOVA_AT(TrafficEventInfo, vehiclePresent)),
     KOVA_F(TrafficEventInfo, lane, "Lane", kInt),
     KOVA_F(TrafficEventInfo, speed, "Speed", kInt),
     KOVA_F(TrafficEventInfo, sequence, "Sequence", kUInt),
@@ -326,10 +327,9 @@ constexpr FamilyCodes kFamilyCodes[] = {
     {kPresence, {4, 5, 6, 7, 8, 277, 278, 286, 297, 341, 342, 343, 359}},
     {kCrowd, {9, 10, 11, 14, 15, 16, 274, 291}},
     {kFace, {26, 279}},
-    {kTraffic, {21,  22,  23,  24,  25,  27,  256, 257, 258, 259, 260, 261, 262, 263, 264, 265,
-                266, 267, 268, 270, 271, 273, 280, 281, 282, 283, 288, 292, 293, 295, 298, 299,
-                300, 301, 302, 303, 308, 310, 311, 312, 313, 314, 315, 316, 355, 360, 361, 368,
-                514}},
+    {kTraffic, {21,  22,  23,  24,  25,  27,  256, 257, 258, 259, 260, 261, 262, 263, 264, 265, 266,
+                267, 268, 270, 271, 273, 280, 281, 282, 283, 288, 292, 293, 295, 298, 299, 300, 301,
+                302, 303, 308, 310, 311, 312, 313, 314, 315, 316, 355, 360, 361, 368, 514}},
     {kAbnormality, {17, 18, 19, 20, 290, 294, 339, 340, 349}},
 };
 

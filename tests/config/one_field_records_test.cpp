@@ -25,10 +25,18 @@ TEST(AlarmLamp, ModeValuesAndFallbacks) {
   struct Case {
     const char* table;
     int32_t mode;
-  } cases[] = {{R"({"Mode":0})", 0},      {R"({"Mode":2})", 2},       {R"({"Mode":3})", -1},
-               {R"({"Mode":-1})", 0},    {R"({"Mode":null})", 0},    {R"({"Mode":"1"})", 0},
-               {R"({"Mode":1.9})", 1},    {R"({"Mode":true})", 1},    {R"({})", -1},
-               {R"({"mode":1})", -1},     {R"(7)", -1},               {R"([{"Mode":1}])", -1}};
+  } cases[] = {{R"({"Mode":0})", 0},
+               {R"({"Mode":2})", 2},
+               {R"({"Mode":3})", -1},
+               {R"({"Mode":-1})", 0},
+               {R"({"Mode":null})", 0},
+               {R"({"Mode":"1"})", 0},
+               {R"({"Mode":1.9})", 1},
+               {R"({"Mode":true})", 1},
+               {R"({})", -1},
+               {R"({"mode":1})", -1},
+               {R"(7)", -1},
+               {R"([{"Mode":1}])", -1}};
   for (const Case& c : cases) {
     AlarmLampRecord r{99};
     uint32_t ret = 0;
@@ -67,7 +75,8 @@ TEST(OneFieldRecords, BooleanRecordsRoundTrip) {
   const std::string packed = PackOf("G3G4AutoChange", g, &rc);
   EXPECT_EQ("{ \"Enable\" : true }\n", packed);
   G3G4AutoChangeRecord again{9};
-  ASSERT_EQ(1, KOVA_ParseData("G3G4AutoChange", Doc(packed).c_str(), &again, sizeof again, nullptr));
+  ASSERT_EQ(1,
+            KOVA_ParseData("G3G4AutoChange", Doc(packed).c_str(), &again, sizeof again, nullptr));
   EXPECT_EQ(g.enable, again.enable);
 }
 

@@ -92,12 +92,13 @@ TEST(ParseTableDriver, RetLenIsAddedTo) {
   const std::string json = Envelope("true", R"([{"A":1},{"A":2}])");
   ASSERT_EQ(1, kova::ParseTableDriver(json.c_str(), recs.data(), 16, &ret, ParsePair, 8, 0, 1, 1));
   EXPECT_EQ(1016u, ret);
-  ASSERT_EQ(1, kova::ParseTableDriver(json.c_str(), recs.data(), 16, nullptr, ParsePair, 8, 0, 1, 1));
+  ASSERT_EQ(1,
+            kova::ParseTableDriver(json.c_str(), recs.data(), 16, nullptr, ParsePair, 8, 0, 1, 1));
 }
 
 TEST(ParseTableDriver, ResultTruthRules) {
-  for (const char* yes : {"true", "1", "-3", "0.5", "\"ok\"", "[0]", "{\"a\":0}",
-                          "18446744073709551615"}) {
+  for (const char* yes :
+       {"true", "1", "-3", "0.5", "\"ok\"", "[0]", "{\"a\":0}", "18446744073709551615"}) {
     EXPECT_EQ(1, Parse(Envelope(yes, R"({"A":1})"), 1).rc) << yes;
   }
   for (const char* no : {"false", "0", "0.0", "\"\"", "[]", "{}", "null"}) {
@@ -124,8 +125,9 @@ TEST(ParseTableDriver, FailureRowsLeaveTheDocumentedState) {
   ParseRun keep = Parse("nonsense", 1, 0, 1, 0);
   EXPECT_EQ(-7, keep.recs[0].a);
   // Missing params or table: success, nothing written, retLen unchanged.
-  for (const char* doc : {R"({"result":true})", R"({"result":true,"params":{}})",
-                          R"({"result":true,"params":5})", R"({"result":true,"params":{"table":null}})"}) {
+  for (const char* doc :
+       {R"({"result":true})", R"({"result":true,"params":{}})", R"({"result":true,"params":5})",
+        R"({"result":true,"params":{"table":null}})"}) {
     ParseRun r = Parse(doc, 2);
     EXPECT_EQ(1, r.rc) << doc;
     EXPECT_EQ(0u, r.ret) << doc;
@@ -209,7 +211,8 @@ TEST(PackTableDriver, OneRecordIsAnObjectSeveralAnArray) {
   int rc = 0;
   EXPECT_EQ("{ \"A\" : 1, \"B\" : 2 }\n", Pack(recs, 8, 1, 256, &rc));
   EXPECT_EQ(1, rc);
-  EXPECT_EQ("[ { \"A\" : 1, \"B\" : 2 }, { \"A\" : 3, \"B\" : 4 } ]\n", Pack(recs, 20, 1, 256, &rc));
+  EXPECT_EQ("[ { \"A\" : 1, \"B\" : 2 }, { \"A\" : 3, \"B\" : 4 } ]\n",
+            Pack(recs, 20, 1, 256, &rc));
   EXPECT_EQ(1, rc);
   // Array mode off: exactly one record whatever inLen holds.
   EXPECT_EQ("{ \"A\" : 1, \"B\" : 2 }\n", Pack(recs, 24, 0, 256, &rc));

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "config/analyse/rule_types.h"
 #include "events/event_test_util.h"
 #include "kova/kova.h"
-#include "config/analyse/rule_types.h"
 #include "kova/records/analyse.h"
 #include "kova/records/events.h"
 
@@ -26,15 +26,19 @@ TEST(ParseByCallback, MembersSelectTheirReadersInNameOrder) {
       {"no known member", R"({"Alarm":{"Enable":true}})", {}},
       {"Event", "{\"Event\":[" + event + "]}", {5}},
       {"Event and EventList read once, Event first",
-       "{\"EventList\":[" + event + "],\"Event\":[{\"Code\":\"VideoBlind\"}]}", {339}},
+       "{\"EventList\":[" + event + "],\"Event\":[{\"Code\":\"VideoBlind\"}]}",
+       {339}},
       {"notification", Notification(event), {5}},
       {"Ptz", R"({"Ptz":{"Channel":0}})", {KOVA_CALLBACK_PTZ_STATUS}},
-      {"FocusStatus", R"({"FocusStatus":[{"Focus":0.5},{"Focus":0.25}]})",
+      {"FocusStatus",
+       R"({"FocusStatus":[{"Focus":0.5},{"Focus":0.25}]})",
        {KOVA_CALLBACK_FOCUS_STATUS, KOVA_CALLBACK_FOCUS_STATUS}},
       {"VideoStatSummary", R"({"VideoStatSummary":{}})", {KOVA_CALLBACK_VIDEO_STAT_SUMMARY}},
-      {"ObjectList skips entries that are not objects", R"({"ObjectList":[{},null,3,{}]})",
+      {"ObjectList skips entries that are not objects",
+       R"({"ObjectList":[{},null,3,{}]})",
        {KOVA_CALLBACK_OBJECT, KOVA_CALLBACK_OBJECT}},
-      {"both flow members", R"({"TrafficFlowStatInfo":{},"TrafficFlowStat":[{}]})",
+      {"both flow members",
+       R"({"TrafficFlowStatInfo":{},"TrafficFlowStat":[{}]})",
        {KOVA_CALLBACK_TRAFFIC_FLOW_STAT, KOVA_CALLBACK_TRAFFIC_FLOW_STAT}},
       {"the three rule members",
        R"({"VideoSynopsisAnalyseRule":{"Type":"HeatMap"},"VideoAnalyse":[{"Type":"FlowStat"}],)"
@@ -154,7 +158,9 @@ TEST(ParseByCallback, AnalysisRulesComeAsTheirTypesRecords) {
       [&](uint32_t code, const void* info, uint32_t size) {
         codes.push_back(code);
         // Every rule record begins with RuleHead; its size is the type's own.
-        ASSERT_EQ(code == (kRule | 2) ? sizeof(CrossLineRule) : static_cast<uint32_t>(kova::RuleBodySize(code & 0xFFFF)), size);
+        ASSERT_EQ(code == (kRule | 2) ? sizeof(CrossLineRule)
+                                      : static_cast<uint32_t>(kova::RuleBodySize(code & 0xFFFF)),
+                  size);
         const RuleHead& r = *static_cast<const RuleHead*>(info);
         if (code == (kRule | 2)) {
           EXPECT_STREQ("Gate line", r.name);

@@ -17,13 +17,22 @@ TEST(EventCodeDictionary, HoldsEveryNameAndKeepsTheFirstNameOfACode) {
     const char* name;
     uint32_t code;
   } rows[] = {
-      {"TrafficFlowInfo", 0x3009},   {"GPSStatus", 0x2143},        {"GPS", 0x2143},
-      {"AudioAnomaly", 0x2178},      {"AudioAbnormalDetection", 0x2178},
-      {"FinaceScheme", 0x31a9},      {"AroudWifiSearch", 0x31c7},  {"DCSSwtich", 0x31d0},
-      {"DrivingWithoutCard", 0x31e7}, {"TemperStatisticsInfo", 0x3300},
+      {"TrafficFlowInfo", 0x3009},
+      {"GPSStatus", 0x2143},
+      {"GPS", 0x2143},
+      {"AudioAnomaly", 0x2178},
+      {"AudioAbnormalDetection", 0x2178},
+      {"FinaceScheme", 0x31a9},
+      {"AroudWifiSearch", 0x31c7},
+      {"DCSSwtich", 0x31d0},
+      {"DrivingWithoutCard", 0x31e7},
+      {"TemperStatisticsInfo", 0x3300},
       // Exact comparison: letter case counts, and nothing is trimmed.
-      {"gps", 0},                    {"GPS ", 0},                  {"", 0},
-      {"CrossLineDetection", 0x2188},  {"crosslinedetection", 0},
+      {"gps", 0},
+      {"GPS ", 0},
+      {"", 0},
+      {"CrossLineDetection", 0x2188},
+      {"crosslinedetection", 0},
   };
   for (const auto& r : rows) EXPECT_EQ(r.code, d.CodeOf(r.name)) << r.name;
   EXPECT_EQ(0u, d.CodeOf(nullptr));

@@ -40,15 +40,20 @@ TEST(EventStream, SelectsTheEventListAndTheEventsItDelivers) {
       {"empty list", R"({"Event":[]})", {}},
       {"not JSON", "{\"Event\":[" + line, {}},
       {"Event", "{\"Event\":[" + line + "," + region + "]}", {2, 3}},
-      {"Event wins over EventList", "{\"Event\":[" + line + "],\"EventList\":[" + region + "]}", {2}},
+      {"Event wins over EventList",
+       "{\"Event\":[" + line + "],\"EventList\":[" + region + "]}",
+       {2}},
       {"EventList when Event is null", "{\"Event\":null,\"EventList\":[" + region + "]}", {3}},
       {"EventList when Event is missing", "{\"EventList\":[" + region + "]}", {3}},
       {"an Event that is no array gives nothing",
-       "{\"Event\":" + line + ",\"EventList\":[" + region + "]}", {}},
+       "{\"Event\":" + line + ",\"EventList\":[" + region + "]}",
+       {}},
       {"notification", Notification(line + "," + region), {2, 3}},
       {"notification ignored beside EventList",
-       R"({"EventList":[)" + region + R"(],"params":{"eventList":[)" + line + "]}}", {3}},
-      {"notification list that is no array", R"({"params":{"eventList":{"Code":"VideoBlind"}}})",
+       R"({"EventList":[)" + region + R"(],"params":{"eventList":[)" + line + "]}}",
+       {3}},
+      {"notification list that is no array",
+       R"({"params":{"eventList":{"Code":"VideoBlind"}}})",
        {}},
       {"VideoBlind and SnapByTime come without data",
        Notification(Event("VideoBlind", "") + "," + Event("SnapByTime", R"("Action":"Start")")),
@@ -57,12 +62,15 @@ TEST(EventStream, SelectsTheEventListAndTheEventsItDelivers) {
        Notification(Event("CrossLineDetection", "") + "," + Event("NoSuchEvent", "") + "," +
                     Event("VideoLoss", R"("Data":null)")),
        {}},
-      {"unknown code with data", Notification(Event("NoSuchEvent") + "," + "{" + kData + "}"), {0, 0}},
+      {"unknown code with data",
+       Notification(Event("NoSuchEvent") + "," + "{" + kData + "}"),
+       {0, 0}},
       {"code compared without regard to case", Notification(Event("crosslineDETECTION")), {2}},
       {"code that is not text", Notification(R"({"Code":2,)" + kData + "}"), {0}},
       {"null and non-object entries", Notification("null,7,\"x\",[]," + line), {2}},
       {"a code longer than 128 characters is cut",
-       Notification(Event("CrossLineDetection" + std::string(200, ' '))), {0}},
+       Notification(Event("CrossLineDetection" + std::string(200, ' '))),
+       {0}},
   };
   for (const Case& c : cases) {
     int ret = 0;
@@ -83,7 +91,8 @@ TEST(EventStream, DataLessEventsComeWithANullRecordOfSizeZero) {
 TEST(EventStream, AtMost128EntriesAreLookedAtInDocumentOrder) {
   std::string many;
   for (int i = 0; i < 129; ++i) {
-    many += (i == 0 ? "" : ",") + Event("LeftDetection", "\"Index\":" + std::to_string(i) + "," + kData);
+    many += (i == 0 ? "" : ",") +
+            Event("LeftDetection", "\"Index\":" + std::to_string(i) + "," + kData);
   }
   std::vector<int32_t> channels;
   ReadEvents(Notification(many), [&](uint32_t, const void* info, uint32_t) {
@@ -93,7 +102,8 @@ TEST(EventStream, AtMost128EntriesAreLookedAtInDocumentOrder) {
   for (int i = 0; i < 128; ++i) EXPECT_EQ(i, channels[i]);
 
   // Null entries and dropped events count toward the 128.
-  const std::string skipped = Repeat("null", 64) + "," + Repeat(Event("CrossLineDetection", ""), 64);
+  const std::string skipped =
+      Repeat("null", 64) + "," + Repeat(Event("CrossLineDetection", ""), 64);
   EXPECT_TRUE(Codes(Notification(skipped + "," + Event("LeftDetection"))).empty());
   EXPECT_EQ(std::vector<uint32_t>{5},
             Codes(Notification(Repeat("null", 127) + "," + Event("LeftDetection"))));
@@ -104,7 +114,8 @@ TEST(EventStream, TheTextIsReadUpToItsTerminatorWhateverTheLength) {
   int calls = 0;
   const Visit count = [&](uint32_t, const void*, uint32_t) { ++calls; };
   for (uint32_t len : {0u, 5u, static_cast<uint32_t>(doc.size())}) {
-    EXPECT_EQ(1, KOVA_ParseAnalyzerEventData(doc.c_str(), len, CallVisit, const_cast<Visit*>(&count)));
+    EXPECT_EQ(1,
+              KOVA_ParseAnalyzerEventData(doc.c_str(), len, CallVisit, const_cast<Visit*>(&count)));
   }
   EXPECT_EQ(3, calls);
 }
@@ -118,10 +129,11 @@ TEST(EventStream, ActionIndexAndDictionaryCodeLeadEveryRecord) {
                        {"\"Begin\"", KOVA_EVENT_PULSE}, {"2", KOVA_EVENT_PULSE}};
   for (const ActionCase& a : actions) {
     int32_t action = -1;
-    ReadEvents(Notification(Event("LeftDetection", std::string("\"Action\":") + a.action + "," + kData)),
-               [&](uint32_t, const void* info, uint32_t) {
-                 action = static_cast<const EventCommon*>(info)->action;
-               });
+    ReadEvents(
+        Notification(Event("LeftDetection", std::string("\"Action\":") + a.action + "," + kData)),
+        [&](uint32_t, const void* info, uint32_t) {
+          action = static_cast<const EventCommon*>(info)->action;
+        });
     EXPECT_EQ(a.value, action) << a.action;
   }
   std::vector<uint32_t> dictionary;
@@ -135,80 +147,81 @@ TEST(EventStream, ActionIndexAndDictionaryCodeLeadEveryRecord) {
 
 TEST(EventStream, LineCrossingRecordHoldsEveryMemberOfItsData) {
   int seen = 0;
-  ReadEvents(ReadSample("notify-crossing.json"), [&](uint32_t code, const void* info, uint32_t size) {
-    const CrossingEventInfo& e = *static_cast<const CrossingEventInfo*>(info);
-    ASSERT_EQ(sizeof(CrossingEventInfo), size);
-    ++seen;
-    if (code == 2) {
-      const EventCommon& c = e.common;
-      EXPECT_EQ(KOVA_EVENT_START, c.action);
-      EXPECT_EQ(0, c.channel);
-      EXPECT_EQ(0x2188u, c.dictionaryCode);
-      EXPECT_STREQ("Gate line", c.name);
-      EXPECT_DOUBLE_EQ(43204980000.0, c.pts);
-      EXPECT_EQ(4301u, c.eventId);
-      EXPECT_EQ(1716537610u, c.utc);
-      EXPECT_EQ(380u, c.utcMs);
-      EXPECT_EQ(1716537610u, c.initialUtc);
-      EXPECT_EQ(1, c.count);
-      EXPECT_EQ(4301u, c.groupId);
-      EXPECT_EQ(1, c.countInGroup);
-      EXPECT_EQ(1, c.indexInGroup);
-      EXPECT_EQ(1u, c.ruleId);
-      EXPECT_EQ(1u, c.objectPresent);
-      const EventObject& o = c.object;
-      EXPECT_EQ(4193, o.objectId);
-      EXPECT_STREQ("Human", o.objectType);
-      EXPECT_EQ(KOVA_OBJECT_APPEAR, o.action);
-      EXPECT_EQ(232, o.confidence);
-      EXPECT_EQ(3480, o.boundingBox.left);
-      EXPECT_EQ(4480, o.boundingBox.bottom);
-      EXPECT_EQ(3800, o.center.x);
-      EXPECT_EQ(3448, o.center.y);
-      EXPECT_EQ(771204u, o.frameSequence);
-      EXPECT_EQ(4, o.speed);
-      EXPECT_EQ(96, o.mainColor[2]);
-      EXPECT_EQ(48211u, o.image.length);
-      EXPECT_EQ(640u, o.image.height);
-      ASSERT_EQ(1u, c.objectCount);
-      EXPECT_EQ(4193, c.objects[0].objectId);
-      EXPECT_EQ(KOVA_CROSS_LEFT_TO_RIGHT, e.direction);
-      ASSERT_EQ(2u, e.detectLine.pointCount);
-      EXPECT_EQ(6890, e.detectLine.points[1].x);
-      EXPECT_EQ(3102, e.detectLine.points[1].y);
-      ASSERT_EQ(3u, e.trackCount);
-      EXPECT_EQ(3610, e.track[0].x);
-      EXPECT_EQ(3448, e.track[2].y);
-    } else if (code == 3) {
-      EXPECT_EQ(1, e.common.channel);
-      EXPECT_EQ(3u, e.common.ruleId);  // written "RuleID"
-      EXPECT_EQ(1716537611u, e.common.utc);  // a real number, truncated
-      EXPECT_EQ(KOVA_CROSS_ENTER, e.direction);
-      EXPECT_EQ(KOVA_REGION_APPEAR, e.regionAction);
-      EXPECT_EQ(4u, e.detectRegion.pointCount);
-      EXPECT_STREQ("Truck", e.common.object.category);
-      ASSERT_EQ(2u, e.common.objectCount);
-      EXPECT_STREQ("Human", e.common.objects[1].objectType);
-      EXPECT_EQ(0u, e.trackCount);  // "Track": null
-      EXPECT_EQ(nullptr, e.track);
-    } else {
-      EXPECT_EQ(287u, code);
-      EXPECT_EQ(KOVA_EVENT_STOP, e.common.action);
-      EXPECT_EQ(KOVA_CROSS_RIGHT_TO_LEFT, e.direction);
-      EXPECT_EQ(0u, e.common.objectCount);  // "Objects": []
-      EXPECT_EQ(nullptr, e.common.objects);
-      EXPECT_EQ(0u, e.trackCount);  // "Track": []
-    }
-  });
+  ReadEvents(ReadSample("notify-crossing.json"),
+             [&](uint32_t code, const void* info, uint32_t size) {
+               const CrossingEventInfo& e = *static_cast<const CrossingEventInfo*>(info);
+               ASSERT_EQ(sizeof(CrossingEventInfo), size);
+               ++seen;
+               if (code == 2) {
+                 const EventCommon& c = e.common;
+                 EXPECT_EQ(KOVA_EVENT_START, c.action);
+                 EXPECT_EQ(0, c.channel);
+                 EXPECT_EQ(0x2188u, c.dictionaryCode);
+                 EXPECT_STREQ("Gate line", c.name);
+                 EXPECT_DOUBLE_EQ(43204980000.0, c.pts);
+                 EXPECT_EQ(4301u, c.eventId);
+                 EXPECT_EQ(1716537610u, c.utc);
+                 EXPECT_EQ(380u, c.utcMs);
+                 EXPECT_EQ(1716537610u, c.initialUtc);
+                 EXPECT_EQ(1, c.count);
+                 EXPECT_EQ(4301u, c.groupId);
+                 EXPECT_EQ(1, c.countInGroup);
+                 EXPECT_EQ(1, c.indexInGroup);
+                 EXPECT_EQ(1u, c.ruleId);
+                 EXPECT_EQ(1u, c.objectPresent);
+                 const EventObject& o = c.object;
+                 EXPECT_EQ(4193, o.objectId);
+                 EXPECT_STREQ("Human", o.objectType);
+                 EXPECT_EQ(KOVA_OBJECT_APPEAR, o.action);
+                 EXPECT_EQ(232, o.confidence);
+                 EXPECT_EQ(3480, o.boundingBox.left);
+                 EXPECT_EQ(4480, o.boundingBox.bottom);
+                 EXPECT_EQ(3800, o.center.x);
+                 EXPECT_EQ(3448, o.center.y);
+                 EXPECT_EQ(771204u, o.frameSequence);
+                 EXPECT_EQ(4, o.speed);
+                 EXPECT_EQ(96, o.mainColor[2]);
+                 EXPECT_EQ(48211u, o.image.length);
+                 EXPECT_EQ(640u, o.image.height);
+                 ASSERT_EQ(1u, c.objectCount);
+                 EXPECT_EQ(4193, c.objects[0].objectId);
+                 EXPECT_EQ(KOVA_CROSS_LEFT_TO_RIGHT, e.direction);
+                 ASSERT_EQ(2u, e.detectLine.pointCount);
+                 EXPECT_EQ(6890, e.detectLine.points[1].x);
+                 EXPECT_EQ(3102, e.detectLine.points[1].y);
+                 ASSERT_EQ(3u, e.trackCount);
+                 EXPECT_EQ(3610, e.track[0].x);
+                 EXPECT_EQ(3448, e.track[2].y);
+               } else if (code == 3) {
+                 EXPECT_EQ(1, e.common.channel);
+                 EXPECT_EQ(3u, e.common.ruleId);        // written "RuleID"
+                 EXPECT_EQ(1716537611u, e.common.utc);  // a real number, truncated
+                 EXPECT_EQ(KOVA_CROSS_ENTER, e.direction);
+                 EXPECT_EQ(KOVA_REGION_APPEAR, e.regionAction);
+                 EXPECT_EQ(4u, e.detectRegion.pointCount);
+                 EXPECT_STREQ("Truck", e.common.object.category);
+                 ASSERT_EQ(2u, e.common.objectCount);
+                 EXPECT_STREQ("Human", e.common.objects[1].objectType);
+                 EXPECT_EQ(0u, e.trackCount);  // "Track": null
+                 EXPECT_EQ(nullptr, e.track);
+               } else {
+                 EXPECT_EQ(287u, code);
+                 EXPECT_EQ(KOVA_EVENT_STOP, e.common.action);
+                 EXPECT_EQ(KOVA_CROSS_RIGHT_TO_LEFT, e.direction);
+                 EXPECT_EQ(0u, e.common.objectCount);  // "Objects": []
+                 EXPECT_EQ(nullptr, e.common.objects);
+                 EXPECT_EQ(0u, e.trackCount);  // "Track": []
+               }
+             });
   EXPECT_EQ(3, seen);
 }
 
 TEST(EventStream, PointEntriesFollowThePointRule) {
   // A region entry that is not [x, y] keeps its slot; a track entry is skipped.
-  const std::string doc = Notification(Event(
-      "CrossRegionDetection",
-      R"("Data":{"DetectRegion":[[1,2],[5],null,[7,8,9]],"Track":[[1,2],[5],"x",[3,4]],)"
-      R"("Objects":[{"ObjectID":1},3,{"ObjectID":2}]})"));
+  const std::string doc = Notification(
+      Event("CrossRegionDetection",
+            R"("Data":{"DetectRegion":[[1,2],[5],null,[7,8,9]],"Track":[[1,2],[5],"x",[3,4]],)"
+            R"("Objects":[{"ObjectID":1},3,{"ObjectID":2}]})"));
   ReadEvents(doc, [&](uint32_t, const void* info, uint32_t) {
     const CrossingEventInfo& e = *static_cast<const CrossingEventInfo*>(info);
     EXPECT_EQ(2u, e.detectRegion.pointCount);
@@ -223,57 +236,58 @@ TEST(EventStream, PointEntriesFollowThePointRule) {
 
 TEST(EventStream, TrafficRecordCarriesVehiclePlateLaneSpeedAndTheViolation) {
   int seen = 0;
-  ReadEvents(ReadSample("notify-traffic.json"), [&](uint32_t code, const void* info, uint32_t size) {
-    ASSERT_EQ(sizeof(TrafficEventInfo), size);
-    const TrafficEventInfo& e = *static_cast<const TrafficEventInfo*>(info);
-    ++seen;
-    switch (code) {
-      case 23:
-        EXPECT_STREQ("A12345", e.common.object.text);
-        EXPECT_EQ(5002, e.common.object.relativeId);
-        EXPECT_EQ(1u, e.vehiclePresent);
-        EXPECT_STREQ("SaloonCar", e.vehicle.category);
-        EXPECT_EQ(255, e.vehicle.mainColor[0]);
-        EXPECT_EQ(2, e.lane);
-        EXPECT_EQ(47, e.speed);
-        EXPECT_EQ(1u, e.sequence);
-        EXPECT_STREQ("Blue", e.trafficCar.plateColor);
-        EXPECT_EQ(60, e.trafficCar.upperSpeedLimit);
-        EXPECT_STREQ("Ring Rd / 5th Ave, northbound", e.trafficCar.deviceAddress);
-        EXPECT_EQ(0u, e.commInfo.seatCount);
-        break;
-      case 262:
-        EXPECT_EQ(0, e.speedLimit[0]);
-        EXPECT_EQ(60, e.speedLimit[1]);
-        EXPECT_EQ(83, e.trafficCar.speed);
-        EXPECT_STREQ("1303", e.trafficCar.violationCode);
-        EXPECT_STREQ("Speeding 20-50%", e.trafficCar.violationDesc);
-        break;
-      case 312:
-        ASSERT_EQ(2u, e.commInfo.seatCount);
-        EXPECT_EQ(KOVA_SEAT_MAIN, e.commInfo.seats[0].type);
-        EXPECT_EQ(KOVA_BELT_UNFASTENED, e.commInfo.seats[0].safeBelt);
-        EXPECT_EQ(1u, e.commInfo.seats[0].calling);
-        EXPECT_EQ(0u, e.commInfo.seats[0].smoking);
-        EXPECT_EQ(KOVA_BELT_FASTENED, e.commInfo.seats[1].safeBelt);
-        EXPECT_EQ(1u, e.commInfo.seats[1].sunShade);
-        break;
-      case 256:
-        EXPECT_DOUBLE_EQ(1716550004.5, e.redLightUtc);
-        EXPECT_STREQ("Bus", e.vehicle.category);
-        break;
-      case 264:
-        EXPECT_EQ(240u, e.parkingTime);
-        EXPECT_EQ(0u, e.vehiclePresent);
-        break;
-      case 27:
-        EXPECT_EQ(180, e.jamLength);
-        EXPECT_EQ(0u, e.common.objectPresent);
-        break;
-      default:
-        ADD_FAILURE() << "unexpected code " << code;
-    }
-  });
+  ReadEvents(ReadSample("notify-traffic.json"),
+             [&](uint32_t code, const void* info, uint32_t size) {
+               ASSERT_EQ(sizeof(TrafficEventInfo), size);
+               const TrafficEventInfo& e = *static_cast<const TrafficEventInfo*>(info);
+               ++seen;
+               switch (code) {
+                 case 23:
+                   EXPECT_STREQ("A12345", e.common.object.text);
+                   EXPECT_EQ(5002, e.common.object.relativeId);
+                   EXPECT_EQ(1u, e.vehiclePresent);
+                   EXPECT_STREQ("SaloonCar", e.vehicle.category);
+                   EXPECT_EQ(255, e.vehicle.mainColor[0]);
+                   EXPECT_EQ(2, e.lane);
+                   EXPECT_EQ(47, e.speed);
+                   EXPECT_EQ(1u, e.sequence);
+                   EXPECT_STREQ("Blue", e.trafficCar.plateColor);
+                   EXPECT_EQ(60, e.trafficCar.upperSpeedLimit);
+                   EXPECT_STREQ("Ring Rd / 5th Ave, northbound", e.trafficCar.deviceAddress);
+                   EXPECT_EQ(0u, e.commInfo.seatCount);
+                   break;
+                 case 262:
+                   EXPECT_EQ(0, e.speedLimit[0]);
+                   EXPECT_EQ(60, e.speedLimit[1]);
+                   EXPECT_EQ(83, e.trafficCar.speed);
+                   EXPECT_STREQ("1303", e.trafficCar.violationCode);
+                   EXPECT_STREQ("Speeding 20-50%", e.trafficCar.violationDesc);
+                   break;
+                 case 312:
+                   ASSERT_EQ(2u, e.commInfo.seatCount);
+                   EXPECT_EQ(KOVA_SEAT_MAIN, e.commInfo.seats[0].type);
+                   EXPECT_EQ(KOVA_BELT_UNFASTENED, e.commInfo.seats[0].safeBelt);
+                   EXPECT_EQ(1u, e.commInfo.seats[0].calling);
+                   EXPECT_EQ(0u, e.commInfo.seats[0].smoking);
+                   EXPECT_EQ(KOVA_BELT_FASTENED, e.commInfo.seats[1].safeBelt);
+                   EXPECT_EQ(1u, e.commInfo.seats[1].sunShade);
+                   break;
+                 case 256:
+                   EXPECT_DOUBLE_EQ(1716550004.5, e.redLightUtc);
+                   EXPECT_STREQ("Bus", e.vehicle.category);
+                   break;
+                 case 264:
+                   EXPECT_EQ(240u, e.parkingTime);
+                   EXPECT_EQ(0u, e.vehiclePresent);
+                   break;
+                 case 27:
+                   EXPECT_EQ(180, e.jamLength);
+                   EXPECT_EQ(0u, e.common.objectPresent);
+                   break;
+                 default:
+                   ADD_FAILURE() << "unexpected code " << code;
+               }
+             });
   EXPECT_EQ(6, seen);
 }
 

@@ -40,7 +40,8 @@ inline std::vector<Delivery> Deliveries(const std::string& doc, bool byCallback 
                                         int* ret = nullptr) {
   std::vector<Delivery> out;
   const int r = ReadEvents(
-      doc, [&](uint32_t code, const void* info, uint32_t size) {
+      doc,
+      [&](uint32_t code, const void* info, uint32_t size) {
         out.push_back({code, size, info != nullptr});
       },
       byCallback);

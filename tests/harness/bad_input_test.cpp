@@ -219,8 +219,8 @@ TEST_P(CallerSizedPackBadInput, ReadsNoFurtherThanTheCallersSize) {
         for (uint32_t outLen : {1u, 64u << 10, 4u << 20}) {
           const PackResult r = CallPack(name, record, inLen, outLen, record);
           EXPECT_EQ("", PackViolation(k, record, inLen, outLen, r, record, false))
-              << kFillNames[f] << " record (stride " << stride << ", inLen " << inLen
-              << ", outLen " << outLen << ")";
+              << kFillNames[f] << " record (stride " << stride << ", inLen " << inLen << ", outLen "
+              << outLen << ")";
         }
       }
     }

@@ -46,7 +46,8 @@ uint64_t Outcome(const Task& t) {
       uint64_t h = Digest(&ret, sizeof ret, out.GuardsIntact());
       h = Digest(&retLen, sizeof retLen, h);
       std::string bytes(out.chars(), out.size());
-      ClearPointerFields(name, reinterpret_cast<uint8_t*>(&bytes[0]), bytes.size(), ParseSize(t.index));
+      ClearPointerFields(name, reinterpret_cast<uint8_t*>(&bytes[0]), bytes.size(),
+                         ParseSize(t.index));
       h = Digest(bytes.data(), bytes.size(), h);
       const std::string contents = pointed.Contents();
       return Digest(contents.data(), contents.size(), h);

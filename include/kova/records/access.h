@@ -75,15 +75,15 @@ typedef struct DoorMethodSection {
 
 // One day of a newer door's schedule.
 typedef struct DoorDaySchedule {
-  int32_t count;                   // periods taken, at most 4
-  DoorMethodSection sections[4];   // the day's {"Method", "TimeSection"} objects
+  int32_t count;                  // periods taken, at most 4
+  DoorMethodSection sections[4];  // the day's {"Method", "TimeSection"} objects
 } DoorDaySchedule;
 
 // Forms of "TimeSchedule".
 enum {
-  KOVA_DOOR_SCHEDULE_NONE = 0,     // absent, or neither form: nothing is written back
-  KOVA_DOOR_SCHEDULE_LIST = 1,     // [{"TimeSection": "..."}, ...]: `rangeCount`/`ranges`
-  KOVA_DOOR_SCHEDULE_BY_DAY = 2,   // [[{"Method", "TimeSection"}, ...], ...]: `dayCount`/`days`
+  KOVA_DOOR_SCHEDULE_NONE = 0,    // absent, or neither form: nothing is written back
+  KOVA_DOOR_SCHEDULE_LIST = 1,    // [{"TimeSection": "..."}, ...]: `rangeCount`/`ranges`
+  KOVA_DOOR_SCHEDULE_BY_DAY = 2,  // [[{"Method", "TimeSection"}, ...], ...]: `dayCount`/`days`
 };
 
 // "AutoRemoteCheck": a remote confirmation before the door opens.
@@ -106,8 +106,8 @@ typedef struct DoorRemoteDetail {
 } DoorRemoteDetail;
 
 typedef struct AccessControlConfig {
-  char state[32];                // "State": "Normal", "CloseAlways", "OpenAlways", ... (kept as text)
-  char accessProtocol[32];       // "AccessProtocol": how the lock is driven, e.g. "Local" (kept as text)
+  char state[32];           // "State": "Normal", "CloseAlways", "OpenAlways", ... (kept as text)
+  char accessProtocol[32];  // "AccessProtocol": how the lock is driven, e.g. "Local" (kept as text)
   int32_t entranceLockChannel;   // "EntranceLockChannel"
   int32_t openAlwaysTime;        // "OpenAlwaysTime": index of the schedule keeping the door open
   int32_t closeAlwaysTime;       // "CloseAlwaysTime": index of the schedule keeping it closed

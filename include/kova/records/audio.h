@@ -32,12 +32,12 @@ typedef struct AudioLightingLink {
 
 // "AudioDetect": sound alarms of one channel.
 typedef struct AudioDetectConfig {
-  int32_t enable;                // "Enable", 0 or 1
-  int32_t anomalyDetect;         // "AnomalyDetect", 0 or 1: unusual sound
-  int32_t anomalySensitive;      // "AnomalySensitive": 1 to 100
-  int32_t mutationDetect;        // "MutationDetect", 0 or 1: sudden change of intensity
-  int32_t mutationThreold;       // "MutationThreold" (the device's spelling): the change that alarms
-  int32_t intensityDetect;       // "IntensityDetect", 0 or 1: level above a gate
+  int32_t enable;            // "Enable", 0 or 1
+  int32_t anomalyDetect;     // "AnomalyDetect", 0 or 1: unusual sound
+  int32_t anomalySensitive;  // "AnomalySensitive": 1 to 100
+  int32_t mutationDetect;    // "MutationDetect", 0 or 1: sudden change of intensity
+  int32_t mutationThreold;   // "MutationThreold" (the device's spelling): the change that alarms
+  int32_t intensityDetect;   // "IntensityDetect", 0 or 1: level above a gate
   int32_t intensityDecibelGate;  // "IntensityDecibelGate": dB
   int32_t minVolume;             // "MinVolume"
   int32_t maxVolume;             // "MaxVolume"

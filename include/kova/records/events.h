@@ -86,20 +86,20 @@ enum {
 // "Vehicle" of traffic events, and delivered alone by the "ObjectList"
 // reader of KOVA_ParseDataByCallback.
 typedef struct EventObject {
-  int32_t objectId;         // "ObjectID"
-  int32_t relativeId;       // "RelativeID": the object this one belongs to (a plate's vehicle)
-  char objectType[32];      // "ObjectType": "Human", "Vehicle", "NonMotor", "Plate", "Face", ...
-  int32_t confidence;       // "Confidence", 0-255
-  int32_t action;           // "Action": KOVA_OBJECT_*
-  EventRect boundingBox;    // "BoundingBox"
-  EventPoint center;        // "Center": [x, y]
-  int32_t speed;            // "Speed", km/h
-  uint32_t frameSequence;   // "FrameSequence": the video frame the object was seen in
-  int32_t age;              // "Age", years (faces and people)
-  uint8_t mainColor[4];     // "MainColor": [r, g, b, a]; fewer than four numbers leave all 0
-  char text[128];           // "Text": what is written on the object (a plate's number)
-  char category[32];        // "Category": the kind within the type ("Normal", "Truck", ...)
-  EventImage image;         // "Image"
+  int32_t objectId;        // "ObjectID"
+  int32_t relativeId;      // "RelativeID": the object this one belongs to (a plate's vehicle)
+  char objectType[32];     // "ObjectType": "Human", "Vehicle", "NonMotor", "Plate", "Face", ...
+  int32_t confidence;      // "Confidence", 0-255
+  int32_t action;          // "Action": KOVA_OBJECT_*
+  EventRect boundingBox;   // "BoundingBox"
+  EventPoint center;       // "Center": [x, y]
+  int32_t speed;           // "Speed", km/h
+  uint32_t frameSequence;  // "FrameSequence": the video frame the object was seen in
+  int32_t age;             // "Age", years (faces and people)
+  uint8_t mainColor[4];    // "MainColor": [r, g, b, a]; fewer than four numbers leave all 0
+  char text[128];          // "Text": what is written on the object (a plate's number)
+  char category[32];       // "Category": the kind within the type ("Normal", "Truck", ...)
+  EventImage image;        // "Image"
 } EventObject;
 
 // ---------------------------------------------------------------------------
@@ -116,27 +116,27 @@ enum {
 // (everything else). An event whose code is 0 (a "Code" no analysis type
 // has) but that carries "Data" is delivered with this record alone.
 typedef struct EventCommon {
-  int32_t action;           // "Action" of the event: KOVA_EVENT_*
-  int32_t channel;          // "Index" of the event: the video channel, from 0
+  int32_t action;   // "Action" of the event: KOVA_EVENT_*
+  int32_t channel;  // "Index" of the event: the video channel, from 0
   // The event's "Code" in the event-code dictionary (exact names: alarm
   // and device events such as "StorageLowSpace" 0x2145); 0 when the
   // dictionary has no such name.
   uint32_t dictionaryCode;
-  char name[128];           // "Name": the rule that raised the event
-  double pts;               // "PTS": presentation time of the frame, ms
-  uint32_t eventId;         // "EventID"
-  uint32_t utc;             // "UTC": seconds since 1970 (a real number is truncated)
-  uint32_t utcMs;           // "UTCMS": milliseconds within that second
-  uint32_t initialUtc;      // "InitialUTC": when the event first began, seconds since 1970
-  int32_t sourceIndex;      // "SourceIndex": the input the event came from
-  char sourceDevice[64];    // "SourceDevice"
-  int32_t count;            // "Count": pictures the event comes with
-  uint32_t groupId;         // "GroupID": events of one incident share it
-  int32_t countInGroup;     // "CountInGroup"
-  int32_t indexInGroup;     // "IndexInGroup", from 1
-  uint32_t ruleId;          // "RuleId" (or "RuleID", as some devices write it)
-  uint32_t objectPresent;   // 1 when "Object" is an object
-  EventObject object;       // "Object": the object the event is about
+  char name[128];              // "Name": the rule that raised the event
+  double pts;                  // "PTS": presentation time of the frame, ms
+  uint32_t eventId;            // "EventID"
+  uint32_t utc;                // "UTC": seconds since 1970 (a real number is truncated)
+  uint32_t utcMs;              // "UTCMS": milliseconds within that second
+  uint32_t initialUtc;         // "InitialUTC": when the event first began, seconds since 1970
+  int32_t sourceIndex;         // "SourceIndex": the input the event came from
+  char sourceDevice[64];       // "SourceDevice"
+  int32_t count;               // "Count": pictures the event comes with
+  uint32_t groupId;            // "GroupID": events of one incident share it
+  int32_t countInGroup;        // "CountInGroup"
+  int32_t indexInGroup;        // "IndexInGroup", from 1
+  uint32_t ruleId;             // "RuleId" (or "RuleID", as some devices write it)
+  uint32_t objectPresent;      // 1 when "Object" is an object
+  EventObject object;          // "Object": the object the event is about
   const EventObject* objects;  // "Objects": every object involved, at most KOVA_EVENT_MAX_OBJECTS
   uint32_t objectCount;        //   entries that are objects (other entries are skipped)
 } EventCommon;
@@ -184,7 +184,7 @@ typedef struct PresenceEventInfo {
   EventPolyline detectRegion;  // "DetectRegion"
   const EventPoint* track;     // "Track", as in CrossingEventInfo
   uint32_t trackCount;
-  uint32_t stayTime;           // "StayTime": seconds the object stayed (stay, wander, parking)
+  uint32_t stayTime;  // "StayTime": seconds the object stayed (stay, wander, parking)
 } PresenceEventInfo;
 
 // Movement and crowds: "MoveDetection" 9, "TailDetection" 10,
@@ -195,14 +195,14 @@ typedef struct CrowdEventInfo {
   EventPolyline detectRegion;  // "DetectRegion"
   const EventPoint* track;     // "Track", as in CrossingEventInfo
   uint32_t trackCount;
-  int32_t speed;               // "Speed": of the moving object, km/h
-  int32_t number;              // "Number": people counted now (number statistics)
-  int32_t upperLimit;          // "UpperLimit": the count that raises the event
-  int32_t enteredNumber;       // "EnteredNumber": people who came in
-  int32_t exitedNumber;        // "ExitedNumber": people who went out
-  int32_t numberLeft;          // "NumberLeft": people who passed leftward (flow statistics)
-  int32_t numberRight;         // "NumberRight": people who passed rightward
-  char statType[32];           // "Type": which limit was passed ("EnterOver", "ExitOver", "InsideOver")
+  int32_t speed;          // "Speed": of the moving object, km/h
+  int32_t number;         // "Number": people counted now (number statistics)
+  int32_t upperLimit;     // "UpperLimit": the count that raises the event
+  int32_t enteredNumber;  // "EnteredNumber": people who came in
+  int32_t exitedNumber;   // "ExitedNumber": people who went out
+  int32_t numberLeft;     // "NumberLeft": people who passed leftward (flow statistics)
+  int32_t numberRight;    // "NumberRight": people who passed rightward
+  char statType[32];      // "Type": which limit was passed ("EnterOver", "ExitOver", "InsideOver")
 } CrowdEventInfo;
 
 // "Sex" of a face or person.
@@ -213,12 +213,12 @@ enum {
 
 // What the device saw of a face: "Face" of a face event.
 typedef struct FaceAttributes {
-  int32_t sex;         // "Sex": KOVA_SEX_*
-  int32_t age;         // "Age", years
-  char glasses[16];    // "Glass": "Normal", "Sun", "No", ...
-  char mask[16];       // "Mask": "Wearing", "NoMask", ...
-  char beard[16];      // "Beard"
-  char emotion[16];    // "Emotion": "Smile", "Calm", ...
+  int32_t sex;       // "Sex": KOVA_SEX_*
+  int32_t age;       // "Age", years
+  char glasses[16];  // "Glass": "Normal", "Sun", "No", ...
+  char mask[16];     // "Mask": "Wearing", "NoMask", ...
+  char beard[16];    // "Beard"
+  char emotion[16];  // "Emotion": "Smile", "Calm", ...
 } FaceAttributes;
 
 // A person of a face database, "Person" of a candidate.
@@ -243,12 +243,13 @@ typedef struct FaceCandidate {
 // `common.object` is the face.
 typedef struct FaceEventInfo {
   EventCommon common;
-  FaceAttributes face;                // "Face"
-  const EventObject* faces;           // "Faces": every face in the picture, at most KOVA_EVENT_MAX_OBJECTS
+  FaceAttributes face;       // "Face"
+  const EventObject* faces;  // "Faces": every face in the picture, at most KOVA_EVENT_MAX_OBJECTS
   uint32_t faceCount;
-  const FaceCandidate* candidates;    // "Candidates": best match first, at most KOVA_EVENT_MAX_CANDIDATES
+  const FaceCandidate*
+      candidates;  // "Candidates": best match first, at most KOVA_EVENT_MAX_CANDIDATES
   uint32_t candidateCount;
-  EventPolyline detectRegion;         // "DetectRegion"
+  EventPolyline detectRegion;  // "DetectRegion"
 } FaceEventInfo;
 
 // The vehicle and violation as the traffic application sums them up,
@@ -285,11 +286,11 @@ enum {
 
 // One seat of the vehicle's cab, an entry of "CommInfo"."Seat".
 typedef struct TrafficDriverSeat {
-  int32_t type;      // "Type": KOVA_SEAT_*
-  int32_t safeBelt;  // "SafeBelt": KOVA_BELT_*
-  uint32_t smoking;  // "Smoking": 1 when the occupant smokes
-  uint32_t calling;  // "Calling": 1 when the occupant is on the phone
-  uint32_t sunShade; // "SunShade": 1 when the sun shade is down
+  int32_t type;       // "Type": KOVA_SEAT_*
+  int32_t safeBelt;   // "SafeBelt": KOVA_BELT_*
+  uint32_t smoking;   // "Smoking": 1 when the occupant smokes
+  uint32_t calling;   // "Calling": 1 when the occupant is on the phone
+  uint32_t sunShade;  // "SunShade": 1 when the sun shade is down
 } TrafficDriverSeat;
 
 // "CommInfo" of a traffic event: what was seen inside the cab.
@@ -306,18 +307,18 @@ typedef struct TrafficCommInfo {
 // `common.object` is the plate.
 typedef struct TrafficEventInfo {
   EventCommon common;
-  uint32_t vehiclePresent;    // 1 when "Vehicle" is an object
-  EventObject vehicle;        // "Vehicle"
-  int32_t lane;               // "Lane": from 1, counted from the left
-  int32_t speed;              // "Speed", km/h
-  uint32_t sequence;          // "Sequence": which picture of the violation this is
-  int32_t speedLimit[2];      // "SpeedLimit": [lower, upper], km/h
-  double redLightUtc;         // "RedLightUTC": when the light turned red, seconds since 1970
-  int32_t jamLength;          // "JamLength": queue length of a jam, metres
-  uint32_t parkingTime;       // "ParkingTime": seconds parked
-  TrafficCarInfo trafficCar;  // "TrafficCar"
-  TrafficCommInfo commInfo;   // "CommInfo"
-  EventPolyline detectRegion; // "DetectRegion"
+  uint32_t vehiclePresent;     // 1 when "Vehicle" is an object
+  EventObject vehicle;         // "Vehicle"
+  int32_t lane;                // "Lane": from 1, counted from the left
+  int32_t speed;               // "Speed", km/h
+  uint32_t sequence;           // "Sequence": which picture of the violation this is
+  int32_t speedLimit[2];       // "SpeedLimit": [lower, upper], km/h
+  double redLightUtc;          // "RedLightUTC": when the light turned red, seconds since 1970
+  int32_t jamLength;           // "JamLength": queue length of a jam, metres
+  uint32_t parkingTime;        // "ParkingTime": seconds parked
+  TrafficCarInfo trafficCar;   // "TrafficCar"
+  TrafficCommInfo commInfo;    // "CommInfo"
+  EventPolyline detectRegion;  // "DetectRegion"
 } TrafficEventInfo;
 
 // Audio and video abnormality: "VideoAbnormalDetection" 19,
@@ -327,9 +328,9 @@ typedef struct TrafficEventInfo {
 // delivered with no record at all.)
 typedef struct AbnormalityEventInfo {
   EventCommon common;
-  char type[32];      // "Type": what is wrong ("VideoLoss", "VideoCover", "Frozen", "Mutation", ...)
-  int32_t value;      // "Value": how far off, as the detector measures it
-  int32_t decibel;    // "Decibel": sound intensity, dB
+  char type[32];    // "Type": what is wrong ("VideoLoss", "VideoCover", "Frozen", "Mutation", ...)
+  int32_t value;    // "Value": how far off, as the detector measures it
+  int32_t decibel;  // "Decibel": sound intensity, dB
   int32_t frequency;  // "Frequency": sound frequency, Hz
 } AbnormalityEventInfo;
 
@@ -346,20 +347,20 @@ typedef struct GeneralEventInfo {
 
 // The PTZ head's state, from "Ptz".
 typedef struct PtzStatusRecord {
-  int32_t channel;       // "Channel", from 0
-  int32_t position[3];   // "Position": [pan, tilt, zoom]; fewer than three numbers leave all 0
-  int32_t presetId;      // "PresetID": the preset reached last
-  char moveStatus[16];   // "MoveStatus": "Idle", "Moving"
-  char zoomStatus[16];   // "ZoomStatus": "Idle", "Zooming"
-  uint32_t utc;          // "UTC", seconds since 1970
+  int32_t channel;      // "Channel", from 0
+  int32_t position[3];  // "Position": [pan, tilt, zoom]; fewer than three numbers leave all 0
+  int32_t presetId;     // "PresetID": the preset reached last
+  char moveStatus[16];  // "MoveStatus": "Idle", "Moving"
+  char zoomStatus[16];  // "ZoomStatus": "Idle", "Zooming"
+  uint32_t utc;         // "UTC", seconds since 1970
 } PtzStatusRecord;
 
 // The lens's state, from "FocusStatus".
 typedef struct FocusStatusRecord {
-  int32_t channel;      // "Channel", from 0
-  double focus;         // "Focus": focus position, 0 to 1
-  double zoom;          // "Zoom": zoom position, 0 to 1
-  char status[16];      // "Status": "Normal", "AutoFocusing", ...
+  int32_t channel;  // "Channel", from 0
+  double focus;     // "Focus": focus position, 0 to 1
+  double zoom;      // "Zoom": zoom position, 0 to 1
+  char status[16];  // "Status": "Normal", "AutoFocusing", ...
 } FocusStatusRecord;
 
 // People counted over a period, "EnteredSubtotal" and "ExitedSubtotal".
@@ -371,29 +372,28 @@ typedef struct StatSubtotal {
 
 // The number-statistics summary of a rule, from "VideoStatSummary".
 typedef struct VideoStatSummaryRecord {
-  int32_t channel;         // "Channel", from 0
-  char ruleName[128];      // "RuleName"
-  uint32_t utc;            // "UTC", seconds since 1970
-  int32_t insideNumber;    // "InsideSubtotal": people inside now
-  StatSubtotal entered;    // "EnteredSubtotal"
-  StatSubtotal exited;     // "ExitedSubtotal"
+  int32_t channel;       // "Channel", from 0
+  char ruleName[128];    // "RuleName"
+  uint32_t utc;          // "UTC", seconds since 1970
+  int32_t insideNumber;  // "InsideSubtotal": people inside now
+  StatSubtotal entered;  // "EnteredSubtotal"
+  StatSubtotal exited;   // "ExitedSubtotal"
 } VideoStatSummaryRecord;
 
 // Traffic flow of one lane over one period, from "TrafficFlowStat" and
 // "TrafficFlowStatInfo".
 typedef struct TrafficFlowStatRecord {
-  int32_t lane;               // "Lane": from 1
-  uint32_t utc;               // "UTC": end of the period, seconds since 1970
-  int32_t period;             // "Period": minutes
-  int32_t vehicles;           // "Vehicles": vehicles that passed
-  double averageSpeed;        // "AverageSpeed", km/h
-  double timeOccupyRatio;     // "TimeOccupyRatio": share of the time the lane was occupied, 0 to 1
-  double spaceOccupyRatio;    // "SpaceOccupyRatio": share of the lane's length occupied, 0 to 1
-  double timeHeadway;         // "TimeHeadway": seconds between vehicles
-  double spaceHeadway;        // "SpaceHeadway": metres between vehicles
-  int32_t state;              // "State": 1 free flow, 2 slow, 3 congested, as the device counts
+  int32_t lane;             // "Lane": from 1
+  uint32_t utc;             // "UTC": end of the period, seconds since 1970
+  int32_t period;           // "Period": minutes
+  int32_t vehicles;         // "Vehicles": vehicles that passed
+  double averageSpeed;      // "AverageSpeed", km/h
+  double timeOccupyRatio;   // "TimeOccupyRatio": share of the time the lane was occupied, 0 to 1
+  double spaceOccupyRatio;  // "SpaceOccupyRatio": share of the lane's length occupied, 0 to 1
+  double timeHeadway;       // "TimeHeadway": seconds between vehicles
+  double spaceHeadway;      // "SpaceHeadway": metres between vehicles
+  int32_t state;            // "State": 1 free flow, 2 slow, 3 congested, as the device counts
 } TrafficFlowStatRecord;
-
 
 #ifdef __cplusplus
 }

@@ -253,7 +253,7 @@ typedef struct DspEncodeCapRecord {
   uint32_t imageSizeAssiCount;                 // names held in `imageSizeAssi`
   // "ImageSize_Assi": extra-stream sizes by name
   int32_t imageSizeAssi[KOVA_DSP_IMAGE_SIZE_MAX];
-  int32_t resolutionNum;    // "ResolutionNum", as the device gives it
+  int32_t resolutionNum;     // "ResolutionNum", as the device gives it
   uint32_t resolutionCount;  // elements held in `resolution`
   // "Resolution": main-stream resolutions
   EncodeResolution resolution[KOVA_DSP_RESOLUTION_MAX];

@@ -61,7 +61,7 @@ typedef struct RecordConfig {
   // 1 when "TimeSection" had at least 8 rows (row 7 is the holiday), else
   // 0. On pack, non-zero writes "HolidayEnable" and row 7.
   int32_t holidayValid;
-  int32_t holidayEnable;                  // "HolidayEnable": 0 or 1; read only with holidayValid
+  int32_t holidayEnable;                 // "HolidayEnable": 0 or 1; read only with holidayValid
   TimeSectionRecord holidaySections[6];  // "TimeSection" row 7
 } RecordConfig;
 
@@ -92,12 +92,12 @@ typedef struct RecordConfig {
 
 // Enumerations of NasServer (and LegacyNasConfig "Protocol").
 enum {
-  KOVA_NAS_FTP = 0,  // "FTP"
-  KOVA_NAS_SMB = 1,  // "SMB"
-  KOVA_NAS_ISCSI = 2,  // "ISCSI"
-  KOVA_NAS_NFS = 3,  // "NFS"
-  KOVA_NAS_UTF8 = 0,    // "UTF-8"
-  KOVA_NAS_GB2312 = 1,  // "GB2312"
+  KOVA_NAS_FTP = 0,           // "FTP"
+  KOVA_NAS_SMB = 1,           // "SMB"
+  KOVA_NAS_ISCSI = 2,         // "ISCSI"
+  KOVA_NAS_NFS = 3,           // "NFS"
+  KOVA_NAS_UTF8 = 0,          // "UTF-8"
+  KOVA_NAS_GB2312 = 1,        // "GB2312"
   KOVA_NAS_NO_CLOUD = 0,      // "CloudProtocol" absent or unknown
   KOVA_NAS_BAIDU_CLOUD = 1,   // "BaiduCloud"
   KOVA_NAS_GOOGLE_DRIVE = 2,  // "GoogleDrive"
@@ -124,7 +124,7 @@ typedef struct NasServer {
   // "2024-05-06 07:08:09.0" with the year from 1984 to 2047 that has the
   // kept bits.
   uint32_t updateTime;
-  int32_t cloudProtocol;  // "CloudProtocol": KOVA_NAS_NO_CLOUD .. KOVA_NAS_DROPBOX
+  int32_t cloudProtocol;   // "CloudProtocol": KOVA_NAS_NO_CLOUD .. KOVA_NAS_DROPBOX
   char subDirectory[256];  // "SubDirectory": directory on the cloud drive
 } NasServer;
 
@@ -137,16 +137,16 @@ typedef struct NasServer {
 // text "08:00:00-18:00:00" (read as "%d:%d:%d-%d:%d:%d", each number cut to
 // 8 bits; text that does not give all six numbers leaves the times 0).
 typedef struct LegacyNasConfig {
-  int32_t enable;      // "En": 0 or 1 (written as a boolean)
-  int32_t version;     // "Version": protocol version of the server
-  int32_t protocol;    // "Protocol": KOVA_NAS_FTP .. KOVA_NAS_NFS, exact texts as for NasServer
-  char address[256];   // "Address"
-  int32_t port;        // "Port"
-  char userName[64];   // "UserName"
-  char password[64];   // "Password"
+  int32_t enable;       // "En": 0 or 1 (written as a boolean)
+  int32_t version;      // "Version": protocol version of the server
+  int32_t protocol;     // "Protocol": KOVA_NAS_FTP .. KOVA_NAS_NFS, exact texts as for NasServer
+  char address[256];    // "Address"
+  int32_t port;         // "Port"
+  char userName[64];    // "UserName"
+  char password[64];    // "Password"
   char directory[256];  // "Directory": remote directory
-  int32_t fileLength;  // "FileLen": size of one uploaded file, in megabytes
-  int32_t interval;    // "Interval": seconds between uploads
+  int32_t fileLength;   // "FileLen": size of one uploaded file, in megabytes
+  int32_t interval;     // "Interval": seconds between uploads
   // One more than the highest channel c for which "En<c>" or "Time<c>" was
   // present and not null (at most 256); pack writes channels 0 to
   // channelCount - 1.
@@ -188,13 +188,13 @@ typedef struct StorageGroupChannel {
 
 // "StorageGroup": one named storage group.
 typedef struct StorageGroupRecord {
-  uint32_t size;                // the record's size, set by the caller
-  char name[64];                // "Name"
-  char memo[128];               // "Memo"
-  int32_t fileHoldTime;         // "FileHoldTime": days files are kept (0: no limit)
-  int32_t overWrite;            // "OverWrite": 0 or 1 (written as a boolean)
-  char recordPathRule[260];     // "RecordPathRule": path pattern of recorded files
-  char picturePathRule[260];    // "PicturePathRule": path pattern of pictures
+  uint32_t size;              // the record's size, set by the caller
+  char name[64];              // "Name"
+  char memo[128];             // "Memo"
+  int32_t fileHoldTime;       // "FileHoldTime": days files are kept (0: no limit)
+  int32_t overWrite;          // "OverWrite": 0 or 1 (written as a boolean)
+  char recordPathRule[260];   // "RecordPathRule": path pattern of recorded files
+  char picturePathRule[260];  // "PicturePathRule": path pattern of pictures
   // Elements of "Channels" read (at most 1024; more are ignored). Element i
   // fills channels[i]; an element that is not an object leaves it zero but
   // is counted. Pack writes the first channelCount entries.
@@ -204,14 +204,14 @@ typedef struct StorageGroupRecord {
 
 // "Raid": one disk array.
 typedef struct RaidRecord {
-  uint32_t size;            // the record's size, set by the caller
-  char name[64];            // "Name": the array's device name
-  int32_t level;            // "Level": RAID level (0, 1, 5, 6, 10, ...), signed
+  uint32_t size;  // the record's size, set by the caller
+  char name[64];  // "Name": the array's device name
+  int32_t level;  // "Level": RAID level (0, 1, 5, 6, 10, ...), signed
   // Elements of "Members" read (at most 32; more are ignored). An element
   // that is not a string leaves its name empty but is counted. Pack writes
   // the first memberCount names.
   int32_t memberCount;
-  char members[32][260];    // "Members": the member disks' names
+  char members[32][260];  // "Members": the member disks' names
 } RaidRecord;
 
 // ---------------------------------------------------------------------------

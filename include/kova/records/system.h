@@ -35,37 +35,38 @@ extern "C" {
 
 // "General": the device's identity and login policy. One object.
 typedef struct GeneralConfig {
-  char machineName[256];         // "MachineName": the device name shown to users
-  int32_t localNo;               // "LocalNo": the number of the device for a remote control
-  int32_t lockLoginEnable;       // "LockLoginEnable", 0 or 1: lock an account after failed logins
-  int32_t lockLoginTimes;        // "LockLoginTimes": failed logins before the lock
-  int32_t loginFailLockTime;     // "LoginFailLockTime": seconds an account stays locked
-  int32_t maxOnlineTime;         // "MaxOnlineTime": seconds a session may stay logged in
-  char machineID[64];            // "MachineID" (presence flag)
-  char activationTime[32];       // "ActivationTime", "YYYY-MM-DD hh:mm:ss" as sent (presence flag)
-  int32_t checkDuration;         // "CheckDuration" (presence flag)
-  uint8_t machineIDPresent;      // 1 when "MachineID" was given
+  char machineName[256];          // "MachineName": the device name shown to users
+  int32_t localNo;                // "LocalNo": the number of the device for a remote control
+  int32_t lockLoginEnable;        // "LockLoginEnable", 0 or 1: lock an account after failed logins
+  int32_t lockLoginTimes;         // "LockLoginTimes": failed logins before the lock
+  int32_t loginFailLockTime;      // "LoginFailLockTime": seconds an account stays locked
+  int32_t maxOnlineTime;          // "MaxOnlineTime": seconds a session may stay logged in
+  char machineID[64];             // "MachineID" (presence flag)
+  char activationTime[32];        // "ActivationTime", "YYYY-MM-DD hh:mm:ss" as sent (presence flag)
+  int32_t checkDuration;          // "CheckDuration" (presence flag)
+  uint8_t machineIDPresent;       // 1 when "MachineID" was given
   uint8_t activationTimePresent;  // 1 when "ActivationTime" was given
-  uint8_t checkDurationPresent;  // 1 when "CheckDuration" was given
-  uint8_t reserved;              // never read or written
+  uint8_t checkDurationPresent;   // 1 when "CheckDuration" was given
+  uint8_t reserved;               // never read or written
 } GeneralConfig;
 
 // "NTP": clock synchronisation. One object.
 typedef struct NtpConfig {
-  char address[256];      // "Address": the time server's host name or IP address
-  int32_t enable;         // "Enable", 0 or 1
-  int32_t port;           // "Port"
-  int32_t timeZone;       // "TimeZone": the device's index of the time zone
-  int32_t updatePeriod;   // "UpdatePeriod": minutes between synchronisations
+  char address[256];       // "Address": the time server's host name or IP address
+  int32_t enable;          // "Enable", 0 or 1
+  int32_t port;            // "Port"
+  int32_t timeZone;        // "TimeZone": the device's index of the time zone
+  int32_t updatePeriod;    // "UpdatePeriod": minutes between synchronisations
   char timeZoneDesc[128];  // "TimeZoneDesc": the zone as text, e.g. "Beijing"
 } NtpConfig;
 
 // One daylight-saving switch point of "Locales".
 typedef struct DstPoint {
-  int32_t year;    // "Year"
-  int32_t month;   // "Month", 1 to 12
-  int32_t week;    // "Week": 0 = `day` is a day of the month; 1 to 5 (or -1, last) = week of the month
-  int32_t day;     // "Day": day of the month, or weekday 0 (Sunday) to 6 when `week` is not 0
+  int32_t year;   // "Year"
+  int32_t month;  // "Month", 1 to 12
+  int32_t
+      week;     // "Week": 0 = `day` is a day of the month; 1 to 5 (or -1, last) = week of the month
+  int32_t day;  // "Day": day of the month, or weekday 0 (Sunday) to 6 when `week` is not 0
   int32_t hour;    // "Hour"
   int32_t minute;  // "Minute"
 } DstPoint;
@@ -110,36 +111,36 @@ typedef struct RemoteVideoInput {
 // holds. Pack writes the object back keyed by `id`; a record whose `id` is
 // empty is written under "" .
 typedef struct RemoteDeviceConfig {
-  char id[128];               // the member name identifying the device
-  int32_t enable;             // "Enable", 0 or 1
-  char address[64];           // "Address": IP address or host name
-  int32_t port;               // "Port": the private protocol port
-  int32_t httpPort;           // "HttpPort"
-  int32_t httpsPort;          // "HttpsPort"
-  int32_t rtspPort;           // "RtspPort"
-  char name[128];             // "Name"
-  char deviceType[64];        // "DeviceType", e.g. "NC-200"
-  char serialNo[64];          // "SerialNo"
-  char mac[32];               // "Mac", e.g. "02:00:5e:10:00:01"
-  char userName[64];          // "UserName"
-  char password[64];          // "Password"
-  char protocolType[32];      // "ProtocolType", e.g. "Private", "Onvif" (kept as text)
-  char vendor[32];            // "Vendor" (kept as text)
-  char version[64];           // "Version": firmware version
-  int32_t encryption;         // "Encryption"
+  char id[128];                // the member name identifying the device
+  int32_t enable;              // "Enable", 0 or 1
+  char address[64];            // "Address": IP address or host name
+  int32_t port;                // "Port": the private protocol port
+  int32_t httpPort;            // "HttpPort"
+  int32_t httpsPort;           // "HttpsPort"
+  int32_t rtspPort;            // "RtspPort"
+  char name[128];              // "Name"
+  char deviceType[64];         // "DeviceType", e.g. "NC-200"
+  char serialNo[64];           // "SerialNo"
+  char mac[32];                // "Mac", e.g. "02:00:5e:10:00:01"
+  char userName[64];           // "UserName"
+  char password[64];           // "Password"
+  char protocolType[32];       // "ProtocolType", e.g. "Private", "Onvif" (kept as text)
+  char vendor[32];             // "Vendor" (kept as text)
+  char version[64];            // "Version": firmware version
+  int32_t encryption;          // "Encryption"
   int32_t videoInputChannels;  // "VideoInputChannels"
   int32_t audioInputChannels;  // "AudioInputChannels"
-  int32_t alarmInChannels;    // "AlarmInChannels"
-  int32_t videoInputCount;    // entries of `videoInputs` taken from "VideoInputs", at most 16
+  int32_t alarmInChannels;     // "AlarmInChannels"
+  int32_t videoInputCount;     // entries of `videoInputs` taken from "VideoInputs", at most 16
   RemoteVideoInput videoInputs[16];  // "VideoInputs"
 } RemoteDeviceConfig;
 
 // "AlarmOut": one alarm output port.
 typedef struct AlarmOutConfig {
-  int32_t mode;        // "Mode": 0 automatic (driven by alarms), 1 forced on, 2 off
-  char name[128];      // "Name"
-  int32_t outputType;  // "OutputType": 0 switch (relay), 1 level output (presence flag)
-  int32_t pulseDelay;  // "PulseDelay": seconds a pulse output stays on (presence flag)
+  int32_t mode;               // "Mode": 0 automatic (driven by alarms), 1 forced on, 2 off
+  char name[128];             // "Name"
+  int32_t outputType;         // "OutputType": 0 switch (relay), 1 level output (presence flag)
+  int32_t pulseDelay;         // "PulseDelay": seconds a pulse output stays on (presence flag)
   uint8_t outputTypePresent;  // 1 when "OutputType" was given
   uint8_t pulseDelayPresent;  // 1 when "PulseDelay" was given
   uint8_t reserved[2];        // never read or written
@@ -158,30 +159,31 @@ typedef struct EmailHealthReport {
 
 // "Email": the mail account alarms are sent from. One object.
 typedef struct EmailConfig {
-  int32_t enable;           // "Enable", 0 or 1
-  char address[128];        // "Address": the SMTP server
-  int32_t port;             // "Port"
-  char userName[64];        // "UserName"
-  char password[64];        // "Password"
-  int32_t anonymous;        // "Anonymous", 0 or 1
-  int32_t sslEnable;        // "SslEnable", 0 or 1
-  int32_t tlsEnable;        // "TlsEnable", 0 or 1
-  char sendAddress[128];    // "SendAddress": the sender's address
-  int32_t receiverCount;    // entries of `receivers` taken from "Receivers", at most 8
-  char receivers[8][128];   // "Receivers": the recipients' addresses
-  char title[256];          // "Title": the subject line
-  int32_t attachEnable;     // "AttachEnable", 0 or 1: attach snapshots
-  int32_t sendInterv;       // "SendInterv": seconds between two mails
+  int32_t enable;                  // "Enable", 0 or 1
+  char address[128];               // "Address": the SMTP server
+  int32_t port;                    // "Port"
+  char userName[64];               // "UserName"
+  char password[64];               // "Password"
+  int32_t anonymous;               // "Anonymous", 0 or 1
+  int32_t sslEnable;               // "SslEnable", 0 or 1
+  int32_t tlsEnable;               // "TlsEnable", 0 or 1
+  char sendAddress[128];           // "SendAddress": the sender's address
+  int32_t receiverCount;           // entries of `receivers` taken from "Receivers", at most 8
+  char receivers[8][128];          // "Receivers": the recipients' addresses
+  char title[256];                 // "Title": the subject line
+  int32_t attachEnable;            // "AttachEnable", 0 or 1: attach snapshots
+  int32_t sendInterv;              // "SendInterv": seconds between two mails
   EmailHealthReport healthReport;  // "HealthReport" (presence flag)
   int32_t healthReportPresent;     // 1 when "HealthReport" was given as an object
 } EmailConfig;
 
 // "AutoMaintain": automatic reboot and file clean-up. One object.
 typedef struct AutoMaintainConfig {
-  int32_t autoRebootDay;        // "AutoRebootDay": -1 never, 0 every day, 1 to 7 a weekday
-  int32_t autoRebootHour;       // "AutoRebootHour"
-  int32_t autoRebootMinute;     // "AutoRebootMinute"
-  int32_t autoDeleteFilesTime;  // "AutoDeleteFilesTime": days after which files are deleted, 0 never
+  int32_t autoRebootDay;     // "AutoRebootDay": -1 never, 0 every day, 1 to 7 a weekday
+  int32_t autoRebootHour;    // "AutoRebootHour"
+  int32_t autoRebootMinute;  // "AutoRebootMinute"
+  int32_t
+      autoDeleteFilesTime;  // "AutoDeleteFilesTime": days after which files are deleted, 0 never
 } AutoMaintainConfig;
 
 // "Language": the interface language; "table" is the text itself.

@@ -37,24 +37,24 @@ extern "C" {
 #endif
 
 enum {
-  KOVA_VIDEO_IN_PROFILES = 4,       // profile slots of a profile record
-  KOVA_DAY_NIGHT_PROFILES = 3,      // profiles of a "VideoInDayNight" record
-  KOVA_LIGHTING_LIGHTS = 4,         // entries of each light list of a lighting profile
-  KOVA_VIDEO_WIDGET_COVERS = 8,     // privacy masks of a "VideoWidget" record
-  KOVA_VIDEO_WIDGET_TITLES = 8,     // entries of each title list of a "VideoWidget" record
-  KOVA_VIDEO_IN_TEXT = 32,          // capacity of the enumeration-like texts
-  KOVA_TITLE_TEXT = 128,            // capacity of title texts
+  KOVA_VIDEO_IN_PROFILES = 4,    // profile slots of a profile record
+  KOVA_DAY_NIGHT_PROFILES = 3,   // profiles of a "VideoInDayNight" record
+  KOVA_LIGHTING_LIGHTS = 4,      // entries of each light list of a lighting profile
+  KOVA_VIDEO_WIDGET_COVERS = 8,  // privacy masks of a "VideoWidget" record
+  KOVA_VIDEO_WIDGET_TITLES = 8,  // entries of each title list of a "VideoWidget" record
+  KOVA_VIDEO_IN_TEXT = 32,       // capacity of the enumeration-like texts
+  KOVA_TITLE_TEXT = 128,         // capacity of title texts
 };
 
 // ---------------------------------------------------------------------------
 // "VideoColor": picture colour per profile.
 typedef struct VideoColorProfile {
-  int32_t brightness;      // "Brightness", 0-100
-  int32_t contrast;        // "Contrast", 0-100
-  int32_t saturation;      // "Saturation", 0-100
-  int32_t hue;             // "Hue", 0-100
-  int32_t gamma;           // "Gamma"
-  int32_t chromaSuppress;  // "ChromaSuppress": chroma suppression level
+  int32_t brightness;              // "Brightness", 0-100
+  int32_t contrast;                // "Contrast", 0-100
+  int32_t saturation;              // "Saturation", 0-100
+  int32_t hue;                     // "Hue", 0-100
+  int32_t gamma;                   // "Gamma"
+  int32_t chromaSuppress;          // "ChromaSuppress": chroma suppression level
   char style[KOVA_VIDEO_IN_TEXT];  // "Style": "Standard", "Gentle", "Flamboyant", ...
   // "TimeSection": when the profile applies, one section text such as
   // "1 00:00:00-24:00:00" (each time field at most two digits). A text that
@@ -74,24 +74,24 @@ typedef struct VideoColorConfig {
 // ---------------------------------------------------------------------------
 // "VideoInExposure": exposure per profile.
 typedef struct VideoInExposureProfile {
-  int32_t mode;              // "Mode": 0 automatic, 1 gain priority, 2 shutter priority, ...
-  int32_t antiFlicker;       // "AntiFlicker": 0 outdoor, 1 50 Hz, 2 60 Hz
-  int32_t compensation;      // "Compensation": exposure compensation level
-  int32_t doubleExposure;    // "DoubleExposure"
-  int32_t gain;              // "Gain", 0-100
-  int32_t gainMin;           // "GainMin"
-  int32_t gainMax;           // "GainMax"
-  int32_t iris;              // "Iris": iris opening, 0-100
-  int32_t irisMin;           // "IrisMin"
-  int32_t irisMax;           // "IrisMax"
-  int32_t recoveryTime;      // "RecoveryTime": seconds before automatic exposure resumes
-  int32_t slowAutoExposure;  // "SlowAutoExposure"
-  int32_t slowSpeed;         // "SlowSpeed"
-  int32_t speed;             // "Speed": shutter speed level
-  int32_t irisAuto;          // "IrisAuto": 0 or 1 (a JSON boolean)
-  int32_t slowShutter;       // "SlowShutter": 0 or 1 (a JSON boolean)
-  double value1;             // "Value1": shortest shutter, milliseconds (0.1, 33.33, ...)
-  double value2;             // "Value2": longest shutter, milliseconds
+  int32_t mode;                     // "Mode": 0 automatic, 1 gain priority, 2 shutter priority, ...
+  int32_t antiFlicker;              // "AntiFlicker": 0 outdoor, 1 50 Hz, 2 60 Hz
+  int32_t compensation;             // "Compensation": exposure compensation level
+  int32_t doubleExposure;           // "DoubleExposure"
+  int32_t gain;                     // "Gain", 0-100
+  int32_t gainMin;                  // "GainMin"
+  int32_t gainMax;                  // "GainMax"
+  int32_t iris;                     // "Iris": iris opening, 0-100
+  int32_t irisMin;                  // "IrisMin"
+  int32_t irisMax;                  // "IrisMax"
+  int32_t recoveryTime;             // "RecoveryTime": seconds before automatic exposure resumes
+  int32_t slowAutoExposure;         // "SlowAutoExposure"
+  int32_t slowSpeed;                // "SlowSpeed"
+  int32_t speed;                    // "Speed": shutter speed level
+  int32_t irisAuto;                 // "IrisAuto": 0 or 1 (a JSON boolean)
+  int32_t slowShutter;              // "SlowShutter": 0 or 1 (a JSON boolean)
+  double value1;                    // "Value1": shortest shutter, milliseconds (0.1, 33.33, ...)
+  double value2;                    // "Value2": longest shutter, milliseconds
   uint8_t doubleExposurePresent;    // "DoubleExposure" given; written only then
   uint8_t gainMinPresent;           // "GainMin" given; written only then
   uint8_t gainMaxPresent;           // "GainMax" given; written only then
@@ -118,9 +118,9 @@ typedef struct VideoInFocusProfile {
   int32_t irCorrection;    // "IRCorrection": infrared focus correction
   int32_t sensitivity;     // "Sensitivity": 0 high, 1 default, 2 low
   char focusLimitSelectMode[KOVA_VIDEO_IN_TEXT];  // "FocusLimitSelectMode": "Auto", "Manual", ...
-  uint8_t autoFocusTracePresent;        // "AutoFocusTrace" given; written only then
-  uint8_t focusLimitPresent;            // "FocusLimit" given; written only then
-  uint8_t focusLimitSelectModePresent;  // "FocusLimitSelectMode" given; written only then
+  uint8_t autoFocusTracePresent;                  // "AutoFocusTrace" given; written only then
+  uint8_t focusLimitPresent;                      // "FocusLimit" given; written only then
+  uint8_t focusLimitSelectModePresent;            // "FocusLimitSelectMode" given; written only then
 } VideoInFocusProfile;
 
 typedef struct VideoInFocusConfig {
@@ -144,14 +144,14 @@ typedef struct VideoInZoomConfig {
 // ---------------------------------------------------------------------------
 // "VideoInDefog": optical and electronic defog per profile.
 typedef struct VideoInDefogProfile {
-  int32_t camDefogEnable;       // "CamDefogEnable": 0 or 1 (a JSON boolean)
-  int32_t intensity;            // "Intensity": defog strength
-  int32_t lightIntensityLevel;  // "LightIntensityLevel": atmospheric light level
+  int32_t camDefogEnable;                       // "CamDefogEnable": 0 or 1 (a JSON boolean)
+  int32_t intensity;                            // "Intensity": defog strength
+  int32_t lightIntensityLevel;                  // "LightIntensityLevel": atmospheric light level
   char mode[KOVA_VIDEO_IN_TEXT];                // "Mode": "Off", "Auto", "Manual", ...
   char lightIntensityMode[KOVA_VIDEO_IN_TEXT];  // "LightIntensityMode": "Auto", "Manual", ...
-  uint8_t camDefogEnablePresent;       // "CamDefogEnable" given; written only then
-  uint8_t lightIntensityLevelPresent;  // "LightIntensityLevel" given; written only then
-  uint8_t lightIntensityModePresent;   // "LightIntensityMode" given; written only then
+  uint8_t camDefogEnablePresent;                // "CamDefogEnable" given; written only then
+  uint8_t lightIntensityLevelPresent;           // "LightIntensityLevel" given; written only then
+  uint8_t lightIntensityModePresent;            // "LightIntensityMode" given; written only then
 } VideoInDefogProfile;
 
 typedef struct VideoInDefogConfig {
@@ -224,59 +224,60 @@ typedef struct VideoInDayNightConfig {
 
 // The option members, read from the channel's object or from a nested block.
 typedef struct VideoInOptionSet {
-  int32_t brightness;             // "Brightness", 0-100
-  int32_t contrast;               // "Contrast", 0-100
-  int32_t saturation;             // "Saturation", 0-100
-  int32_t hue;                    // "Hue", 0-100
-  int32_t gamma;                  // "Gamma"
-  int32_t exposureMode;           // "ExposureMode": 0 automatic, 1 low noise, 2 anti-smear, ...
-  int32_t exposureSpeed;          // "ExposureSpeed": shutter level, 0 automatic
-  int32_t exposureCompensation;   // "ExposureCompensation"
-  double exposureValue1;          // "ExposureValue1": shortest shutter, milliseconds
-  double exposureValue2;          // "ExposureValue2": longest shutter, milliseconds
-  int32_t exposureIris;           // "ExposureIris": iris opening, 0-100
-  int32_t gain;                   // "Gain", 0-100
-  int32_t gainAuto;               // "GainAuto": 0 or 1 (a JSON boolean)
-  int32_t gainMin;                // "GainMin"
-  int32_t gainMax;                // "GainMax"
-  int32_t gainRed;                // "GainRed": white balance red gain
-  int32_t gainGreen;              // "GainGreen": white balance green gain
-  int32_t gainBlue;               // "GainBlue": white balance blue gain
-  int32_t irisAuto;               // "IrisAuto": 0 or 1 (a JSON boolean)
-  int32_t irisAutoSensitivity;    // "IrisAutoSensitivity"
-  char whiteBalance[KOVA_VIDEO_IN_TEXT];  // "WhiteBalance": "Auto", "Disable", "Custom", "Sunny", ...
-  int32_t whiteBalanceDatumRect[4];  // "WhiteBalanceDatumRect": [left, top, right, bottom]
-  int32_t colorTemperatureLevel;  // "ColorTemperatureLevel"
-  int32_t dayNightColor;          // "DayNightColor": 0 always colour, 1 automatic, 2 always black-white
-  int32_t dayNightSensitivity;    // "DayNightSensitivity"
-  int32_t dayNightSwitchDelay;    // "DayNightSwitchDelay": seconds
+  int32_t brightness;            // "Brightness", 0-100
+  int32_t contrast;              // "Contrast", 0-100
+  int32_t saturation;            // "Saturation", 0-100
+  int32_t hue;                   // "Hue", 0-100
+  int32_t gamma;                 // "Gamma"
+  int32_t exposureMode;          // "ExposureMode": 0 automatic, 1 low noise, 2 anti-smear, ...
+  int32_t exposureSpeed;         // "ExposureSpeed": shutter level, 0 automatic
+  int32_t exposureCompensation;  // "ExposureCompensation"
+  double exposureValue1;         // "ExposureValue1": shortest shutter, milliseconds
+  double exposureValue2;         // "ExposureValue2": longest shutter, milliseconds
+  int32_t exposureIris;          // "ExposureIris": iris opening, 0-100
+  int32_t gain;                  // "Gain", 0-100
+  int32_t gainAuto;              // "GainAuto": 0 or 1 (a JSON boolean)
+  int32_t gainMin;               // "GainMin"
+  int32_t gainMax;               // "GainMax"
+  int32_t gainRed;               // "GainRed": white balance red gain
+  int32_t gainGreen;             // "GainGreen": white balance green gain
+  int32_t gainBlue;              // "GainBlue": white balance blue gain
+  int32_t irisAuto;              // "IrisAuto": 0 or 1 (a JSON boolean)
+  int32_t irisAutoSensitivity;   // "IrisAutoSensitivity"
+  char whiteBalance[KOVA_VIDEO_IN_TEXT];  // "WhiteBalance": "Auto", "Disable", "Custom", "Sunny",
+                                          // ...
+  int32_t whiteBalanceDatumRect[4];       // "WhiteBalanceDatumRect": [left, top, right, bottom]
+  int32_t colorTemperatureLevel;          // "ColorTemperatureLevel"
+  int32_t dayNightColor;  // "DayNightColor": 0 always colour, 1 automatic, 2 always black-white
+  int32_t dayNightSensitivity;     // "DayNightSensitivity"
+  int32_t dayNightSwitchDelay;     // "DayNightSwitchDelay": seconds
   int32_t alarmDayNightColorMode;  // "AlarmDayNightColorMode": colour mode while an alarm lasts
-  int32_t switchMode;             // "SwitchMode": how day and night alternate (by light, by time, ...)
-  int32_t sunriseHour;            // "SunriseHour"
-  int32_t sunriseMinute;          // "SunriseMinute"
-  int32_t sunriseSecond;          // "SunriseSecond"
-  int32_t sunsetHour;             // "SunsetHour"
-  int32_t sunsetMinute;           // "SunsetMinute"
-  int32_t sunsetSecond;           // "SunsetSecond"
-  int32_t backlight;              // "Backlight": 0 off, 1 on, 2 by region, ...
-  int32_t backlightRegion[4];     // "BacklightRegion": [left, top, right, bottom]
-  int32_t wideDynamicRange;       // "WideDynamicRange": level
-  int32_t wideDynamicRangeMode;   // "WideDynamicRangeMode": 0 off, 1 manual, 2 automatic
-  int32_t glareInhibition;        // "GlareInhibition": level, 0 off
-  int32_t antiFlicker;            // "AntiFlicker": 0 outdoor, 1 50 Hz, 2 60 Hz
-  int32_t doubleExposure;         // "DoubleExposure"
-  int32_t mirror;                 // "Mirror": 0 or 1 (a JSON boolean)
-  int32_t flip;                   // "Flip": 0 or 1 (a JSON boolean)
-  int32_t rotate90;               // "Rotate90": 0 none, 1 clockwise, 2 anticlockwise
-  int32_t infraRed;               // "InfraRed": 0 or 1 (a JSON boolean)
-  int32_t infraRedLevel;          // "InfraRedLevel"
-  int32_t focusMode;              // "FocusMode": 0 off, 1 assisted, 2 automatic, ...
-  int32_t focusRect[4];           // "FocusRect": [left, top, right, bottom]
+  int32_t switchMode;          // "SwitchMode": how day and night alternate (by light, by time, ...)
+  int32_t sunriseHour;         // "SunriseHour"
+  int32_t sunriseMinute;       // "SunriseMinute"
+  int32_t sunriseSecond;       // "SunriseSecond"
+  int32_t sunsetHour;          // "SunsetHour"
+  int32_t sunsetMinute;        // "SunsetMinute"
+  int32_t sunsetSecond;        // "SunsetSecond"
+  int32_t backlight;           // "Backlight": 0 off, 1 on, 2 by region, ...
+  int32_t backlightRegion[4];  // "BacklightRegion": [left, top, right, bottom]
+  int32_t wideDynamicRange;    // "WideDynamicRange": level
+  int32_t wideDynamicRangeMode;           // "WideDynamicRangeMode": 0 off, 1 manual, 2 automatic
+  int32_t glareInhibition;                // "GlareInhibition": level, 0 off
+  int32_t antiFlicker;                    // "AntiFlicker": 0 outdoor, 1 50 Hz, 2 60 Hz
+  int32_t doubleExposure;                 // "DoubleExposure"
+  int32_t mirror;                         // "Mirror": 0 or 1 (a JSON boolean)
+  int32_t flip;                           // "Flip": 0 or 1 (a JSON boolean)
+  int32_t rotate90;                       // "Rotate90": 0 none, 1 clockwise, 2 anticlockwise
+  int32_t infraRed;                       // "InfraRed": 0 or 1 (a JSON boolean)
+  int32_t infraRedLevel;                  // "InfraRedLevel"
+  int32_t focusMode;                      // "FocusMode": 0 off, 1 assisted, 2 automatic, ...
+  int32_t focusRect[4];                   // "FocusRect": [left, top, right, bottom]
   char signalFormat[KOVA_VIDEO_IN_TEXT];  // "SignalFormat": "Inside", "BT656", "720p", ...
-  int32_t referenceLevel;         // "ReferenceLevel"
-  int32_t referenceLevelEnable;   // "ReferenceLevelEnable": 0 or 1 (a JSON boolean)
-  int32_t externalSync;           // "ExternalSync"
-  int32_t externalSyncPhase;      // "ExternalSyncPhase"
+  int32_t referenceLevel;                 // "ReferenceLevel"
+  int32_t referenceLevelEnable;           // "ReferenceLevelEnable": 0 or 1 (a JSON boolean)
+  int32_t externalSync;                   // "ExternalSync"
+  int32_t externalSyncPhase;              // "ExternalSyncPhase"
   // One flag per member above, in the same order: the key was given (a
   // rectangle: as an array of at least 4 numbers); pack writes it only then.
   uint8_t brightnessPresent;
@@ -343,15 +344,15 @@ typedef struct VideoInFlashControl {
 } VideoInFlashControl;
 
 typedef struct VideoInOptionsConfig {
-  VideoInOptionSet options;        // the members at the top of the channel's object
-  VideoInOptionSet nightOptions;   // "NightOptions"
-  VideoInOptionSet normalOptions;  // "NormalOptions"
-  VideoInOptionSet duskOptions;    // "DuskOptions"
+  VideoInOptionSet options;          // the members at the top of the channel's object
+  VideoInOptionSet nightOptions;     // "NightOptions"
+  VideoInOptionSet normalOptions;    // "NormalOptions"
+  VideoInOptionSet duskOptions;      // "DuskOptions"
   VideoInFlashControl flashControl;  // "FlashControl"
-  uint8_t nightOptionsPresent;   // "NightOptions" given as an object; written only then
-  uint8_t normalOptionsPresent;  // "NormalOptions" given as an object; written only then
-  uint8_t duskOptionsPresent;    // "DuskOptions" given as an object; written only then
-  uint8_t flashControlPresent;   // "FlashControl" given as an object; written only then
+  uint8_t nightOptionsPresent;       // "NightOptions" given as an object; written only then
+  uint8_t normalOptionsPresent;      // "NormalOptions" given as an object; written only then
+  uint8_t duskOptionsPresent;        // "DuskOptions" given as an object; written only then
+  uint8_t flashControlPresent;       // "FlashControl" given as an object; written only then
 } VideoInOptionsConfig;
 
 // ---------------------------------------------------------------------------
@@ -367,15 +368,15 @@ typedef struct ChannelTitleConfig {
 // One overlay: the channel title, the time title, a custom or user-defined
 // title, or a privacy mask.
 typedef struct VideoWidgetBlock {
-  int32_t encodeBlend;   // "EncodeBlend": 0 or 1, drawn into the encoded stream (a JSON boolean)
-  int32_t previewBlend;  // "PreviewBlend": 0 or 1, drawn on the local preview (a JSON boolean)
+  int32_t encodeBlend;    // "EncodeBlend": 0 or 1, drawn into the encoded stream (a JSON boolean)
+  int32_t previewBlend;   // "PreviewBlend": 0 or 1, drawn on the local preview (a JSON boolean)
   int32_t frontColor[4];  // "FrontColor": [red, green, blue, alpha], 0-255 each
   int32_t backColor[4];   // "BackColor": [red, green, blue, alpha], 0-255 each
   int32_t rect[4];        // "Rect": [left, top, right, bottom] on a 0-8191 grid
   int32_t showWeek;       // "ShowWeek": 0 or 1, the time title shows the weekday (a JSON boolean)
   char text[KOVA_TITLE_TEXT];  // "Text": a title's text, "|" separating its lines
-  uint8_t showWeekPresent;  // "ShowWeek" given (the time title); written only then
-  uint8_t textPresent;      // "Text" given (the titles of the lists); written only then
+  uint8_t showWeekPresent;     // "ShowWeek" given (the time title); written only then
+  uint8_t textPresent;         // "Text" given (the titles of the lists); written only then
 } VideoWidgetBlock;
 
 typedef struct VideoWidgetConfig {
@@ -383,9 +384,9 @@ typedef struct VideoWidgetConfig {
   VideoWidgetBlock timeTitle;     // "TimeTitle"
   // Each list keeps the entries that are objects, in order, up to its
   // capacity; the count is the entries kept, and pack writes that many.
-  VideoWidgetBlock covers[KOVA_VIDEO_WIDGET_COVERS];                // "Covers": privacy masks
-  VideoWidgetBlock customTitles[KOVA_VIDEO_WIDGET_TITLES];          // "CustomTitle"
-  VideoWidgetBlock userDefinedTitles[KOVA_VIDEO_WIDGET_TITLES];     // "UserDefinedTitle"
+  VideoWidgetBlock covers[KOVA_VIDEO_WIDGET_COVERS];             // "Covers": privacy masks
+  VideoWidgetBlock customTitles[KOVA_VIDEO_WIDGET_TITLES];       // "CustomTitle"
+  VideoWidgetBlock userDefinedTitles[KOVA_VIDEO_WIDGET_TITLES];  // "UserDefinedTitle"
   int32_t coverCount;
   int32_t customTitleCount;
   int32_t userDefinedTitleCount;

@@ -61,7 +61,6 @@ bool Present(const unsigned char* record, const Field& f) {
   return true;
 }
 
-
 // One scalar of kind f.kind and width f.size.
 bool ParseScalar(const Json::Value& v, unsigned char* p, const Field& f) {
   switch (f.kind) {
@@ -429,7 +428,6 @@ bool PackValue(const unsigned char* member, const Field& f, Json::Value* out) {
   }
   return false;
 }
-
 
 uint32_t AllocatedSlots(const void* entries) {
   uint64_t n;

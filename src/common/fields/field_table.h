@@ -236,8 +236,8 @@ struct Field {
   // `capacity`), freed by ReleaseFields; pack leaves such a list out.
   bool allocated = false;
   const char* noMemoryReport = nullptr;  // allocated kList: reported when its entries cannot be had
-  CustomParse parse = nullptr;  // kCustom
-  CustomPack pack = nullptr;    // kCustom
+  CustomParse parse = nullptr;           // kCustom
+  CustomPack pack = nullptr;             // kCustom
   // Parse rules for a member that is missing, null or of another JSON type
   // (see the builders below).
   bool alwaysRead = false;
@@ -559,7 +559,6 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
   return f;
 }
 
-
 }  // namespace kova
 
 #define KOVA_MEMBER_TYPE(Rec, member) decltype(static_cast<Rec*>(nullptr)->member)
@@ -607,8 +606,9 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
   ::kova::MakeList<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member), &(elementField))
 // A list of at most `cap` entries allocated on parse: `member` points at them,
 // .Count(...) names the count member. Freed by ReleaseFields.
-#define KOVA_ALLOCATED_LIST(Rec, member, key, elementField, cap) \
-  ::kova::MakeAllocatedList<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member), &(elementField), cap)
+#define KOVA_ALLOCATED_LIST(Rec, member, key, elementField, cap)                    \
+  ::kova::MakeAllocatedList<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member), \
+                                                        &(elementField), cap)
 // A hand-written step over a member (or over the whole record: offset 0, size 0).
 #define KOVA_CUSTOM(Rec, member, key, parseFn, packFn) \
   ::kova::MakeCustom(key, offsetof(Rec, member), KOVA_MEMBER_SIZE(Rec, member), parseFn, packFn)

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "common/json/json.h"
 #include "common/base/log.h"
 #include "common/base/platform.h"
+#include "common/json/json.h"
 
 namespace kova {
 

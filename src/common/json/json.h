@@ -86,7 +86,6 @@ std::string ToText(const Json::Value& v);
 // scanning text without copying it.
 const char* TextInPlace(const Json::Value& v);
 
-
 // Calls `visit(name, length, value)` for each member of an object, in the
 // JSON library's member order (ascending by the bytes of the name), until it
 // returns false; does nothing for any other value. `name` (which may hold

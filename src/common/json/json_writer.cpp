@@ -12,15 +12,33 @@ void WriteString(const char* begin, const char* end, std::string* out) {
   out->push_back('"');
   for (const char* p = begin; p != end; ++p) {
     switch (*p) {
-      case '\b': out->append("\\b"); break;
-      case '\t': out->append("\\t"); break;
-      case '\n': out->append("\\n"); break;
-      case '\f': out->append("\\f"); break;
-      case '\r': out->append("\\r"); break;
-      case '"': out->append("\\\""); break;
-      case '/': out->append("\\/"); break;
-      case '\\': out->append("\\\\"); break;
-      default: out->push_back(*p); break;
+      case '\b':
+        out->append("\\b");
+        break;
+      case '\t':
+        out->append("\\t");
+        break;
+      case '\n':
+        out->append("\\n");
+        break;
+      case '\f':
+        out->append("\\f");
+        break;
+      case '\r':
+        out->append("\\r");
+        break;
+      case '"':
+        out->append("\\\"");
+        break;
+      case '/':
+        out->append("\\/");
+        break;
+      case '\\':
+        out->append("\\\\");
+        break;
+      default:
+        out->push_back(*p);
+        break;
     }
   }
   out->push_back('"');

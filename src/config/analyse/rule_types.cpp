@@ -157,9 +157,21 @@ const char* RuleTypeName(uint32_t code) {
 
 // SceneClassNames: index order. Packing uses the first 15 names only.
 const char* const kSceneClassNames[] = {
-    "",           "Normal",          "Traffic",    "TrafficPatrol", "FaceDetection",
-    "ATM",        "Indoor",          "FaceRecognition", "Prison",   "NumberStat",
-    "HeatMap",    "VideoDiagnosis",  "VehicleAnalyse",  "CourseRecord", "Vehicle",
+    "",
+    "Normal",
+    "Traffic",
+    "TrafficPatrol",
+    "FaceDetection",
+    "ATM",
+    "Indoor",
+    "FaceRecognition",
+    "Prison",
+    "NumberStat",
+    "HeatMap",
+    "VideoDiagnosis",
+    "VehicleAnalyse",
+    "CourseRecord",
+    "Vehicle",
     "StandUpDetection",
 };
 constexpr uint32_t kSceneClassCount = sizeof kSceneClassNames / sizeof kSceneClassNames[0];

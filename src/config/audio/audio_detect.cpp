@@ -1,9 +1,9 @@
 // "AudioDetect": sound alarms of each channel (unusual sound, sudden change,
 // level above a gate) with their linkage block and a warning light flashed
 // with the alarm.
+#include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "common/blocks/event_handler.h"
 #include "config/audio/translators.h"
 #include "drivers/described_record.h"
 #include "kova/records/audio.h"

@@ -6,8 +6,8 @@
 #include <cstdio>
 #include <string>
 
-#include "common/fields/fields.h"
 #include "common/fields/field_table.h"
+#include "common/fields/fields.h"
 #include "common/fields/text_forms.h"
 #include "common/json/json.h"
 #include "config/storage/nas_forms.h"
@@ -29,7 +29,8 @@ constexpr const char* kEncodingNames[] = {"UTF-8", "GB2312"};
 constexpr EnumNames kEncodings = EnumNames::Of(kEncodingNames).Exact();
 constexpr const char* kCloudNames[] = {"BaiduCloud", "GoogleDrive", "Dropbox"};
 // No cloud (0) has no name: it is not written back.
-constexpr EnumNames kClouds = EnumNames::Of(kCloudNames).Exact().FirstValue(1).UnknownAs(0).OmitUnnamed();
+constexpr EnumNames kClouds =
+    EnumNames::Of(kCloudNames).Exact().FirstValue(1).UnknownAs(0).OmitUnnamed();
 
 // "UpdateTime" is text on the device and the packed date-time in the record.
 void ParseUpdateTime(const Json::Value& server, unsigned char* record, const Field& f) {
@@ -38,7 +39,8 @@ void ParseUpdateTime(const Json::Value& server, unsigned char* record, const Fie
   const std::string text = ToText(v);
   uint32_t packed = 0;
   const int32_t len = static_cast<int32_t>(std::min<size_t>(text.size(), INT32_MAX));
-  if (ParseDateTimePacked(text.c_str(), len, &packed) == 0) StoreInt(record + f.offset, f.size, packed);
+  if (ParseDateTimePacked(text.c_str(), len, &packed) == 0)
+    StoreInt(record + f.offset, f.size, packed);
 }
 
 void PackUpdateTime(const unsigned char* record, Json::Value& server, const Field& f) {

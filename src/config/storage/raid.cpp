@@ -31,8 +31,7 @@ namespace {
 // An empty array packs as { "Level" : 0, "Members" : [  ], "Name" : "" }.
 constexpr uint32_t kMinRaidText = 40;
 
-constexpr ResponseFrame kFrame = DescribedObject<RaidRecord>::kFrame
-                                     .Walk(RecordWalk::kCallerSized)
+constexpr ResponseFrame kFrame = DescribedObject<RaidRecord>::kFrame.Walk(RecordWalk::kCallerSized)
                                      .PackArrayAlways()
                                      .MinTextPerRecord(kMinRaidText);
 

@@ -47,10 +47,10 @@ namespace {
 // well over this many bytes.
 constexpr uint32_t kMinGroupText = 120;
 
-constexpr ResponseFrame kFrame = DescribedObject<StorageGroupRecord>::kFrame
-                                     .Walk(RecordWalk::kCallerSized)
-                                     .PackArrayAlways()
-                                     .MinTextPerRecord(kMinGroupText);
+constexpr ResponseFrame kFrame =
+    DescribedObject<StorageGroupRecord>::kFrame.Walk(RecordWalk::kCallerSized)
+        .PackArrayAlways()
+        .MinTextPerRecord(kMinGroupText);
 
 }  // namespace
 

@@ -11,8 +11,10 @@ using kova::Field;
 constexpr Field kAlarmOutFields[] = {
     KOVA_F(AlarmOutConfig, mode, "Mode", kInt),
     KOVA_F(AlarmOutConfig, name, "Name", kText),
-    KOVA_F(AlarmOutConfig, outputType, "OutputType", kInt).Flag(KOVA_AT(AlarmOutConfig, outputTypePresent)),
-    KOVA_F(AlarmOutConfig, pulseDelay, "PulseDelay", kInt).Flag(KOVA_AT(AlarmOutConfig, pulseDelayPresent)),
+    KOVA_F(AlarmOutConfig, outputType, "OutputType", kInt)
+        .Flag(KOVA_AT(AlarmOutConfig, outputTypePresent)),
+    KOVA_F(AlarmOutConfig, pulseDelay, "PulseDelay", kInt)
+        .Flag(KOVA_AT(AlarmOutConfig, pulseDelayPresent)),
 };
 
 }  // namespace

@@ -18,9 +18,9 @@ constexpr Field kNtpFields[] = {
 };
 
 constexpr Field kDstPointFields[] = {
-    KOVA_F(DstPoint, year, "Year", kInt),     KOVA_F(DstPoint, month, "Month", kInt),
-    KOVA_F(DstPoint, week, "Week", kInt),     KOVA_F(DstPoint, day, "Day", kInt),
-    KOVA_F(DstPoint, hour, "Hour", kInt),     KOVA_F(DstPoint, minute, "Minute", kInt),
+    KOVA_F(DstPoint, year, "Year", kInt), KOVA_F(DstPoint, month, "Month", kInt),
+    KOVA_F(DstPoint, week, "Week", kInt), KOVA_F(DstPoint, day, "Day", kInt),
+    KOVA_F(DstPoint, hour, "Hour", kInt), KOVA_F(DstPoint, minute, "Minute", kInt),
 };
 
 }  // namespace

@@ -15,7 +15,8 @@ constexpr Field kGeneralFields[] = {
     KOVA_F(GeneralConfig, lockLoginTimes, "LockLoginTimes", kInt),
     KOVA_F(GeneralConfig, loginFailLockTime, "LoginFailLockTime", kInt),
     KOVA_F(GeneralConfig, maxOnlineTime, "MaxOnlineTime", kInt),
-    KOVA_F(GeneralConfig, machineID, "MachineID", kText).Flag(KOVA_AT(GeneralConfig, machineIDPresent)),
+    KOVA_F(GeneralConfig, machineID, "MachineID", kText)
+        .Flag(KOVA_AT(GeneralConfig, machineIDPresent)),
     KOVA_F(GeneralConfig, activationTime, "ActivationTime", kText)
         .Flag(KOVA_AT(GeneralConfig, activationTimePresent)),
     KOVA_F(GeneralConfig, checkDuration, "CheckDuration", kInt)
@@ -33,8 +34,8 @@ namespace kova {
 
 namespace {
 constexpr ResponseFrame kGeneral = DescribedObject<GeneralConfig>::kFrame.Walk(RecordWalk::kOne);
-constexpr ResponseFrame kLanguage = ResponseFrame::For<LanguageConfig>(
-    ParseDescribed<kLanguageText>, PackDescribed<kLanguageText>);
+constexpr ResponseFrame kLanguage =
+    ResponseFrame::For<LanguageConfig>(ParseDescribed<kLanguageText>, PackDescribed<kLanguageText>);
 }  // namespace
 
 KOVA_FRAME_TRANSLATORS(General, kGeneral)

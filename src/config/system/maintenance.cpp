@@ -37,7 +37,8 @@ constexpr Field kEmailFields[] = {
     KOVA_F(EmailConfig, attachEnable, "AttachEnable", kBool),
     KOVA_F(EmailConfig, enable, "Enable", kBool),
     // Sent by newer devices only.
-    KOVA_NESTED(EmailConfig, healthReport, "HealthReport").Flag(KOVA_AT(EmailConfig, healthReportPresent)),
+    KOVA_NESTED(EmailConfig, healthReport, "HealthReport")
+        .Flag(KOVA_AT(EmailConfig, healthReportPresent)),
     KOVA_F(EmailConfig, password, "Password", kText),
     KOVA_F(EmailConfig, port, "Port", kInt),
     KOVA_LIST(EmailConfig, receivers, "Receivers", kReceiver)
@@ -58,7 +59,8 @@ KOVA_DESCRIBE(EmailConfig, kEmailFields)
 namespace kova {
 
 namespace {
-constexpr ResponseFrame kAutoMaintain = DescribedObject<AutoMaintainConfig>::kFrame.Walk(RecordWalk::kOne);
+constexpr ResponseFrame kAutoMaintain =
+    DescribedObject<AutoMaintainConfig>::kFrame.Walk(RecordWalk::kOne);
 constexpr ResponseFrame kEmail = DescribedObject<EmailConfig>::kFrame.Walk(RecordWalk::kOne);
 }  // namespace
 

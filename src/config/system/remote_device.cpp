@@ -83,8 +83,9 @@ bool PackDevice(const unsigned char* record, Json::Value& table) {
   return true;
 }
 
-constexpr ResponseFrame kRemoteDevice = ResponseFrame::For<RemoteDeviceConfig>(ParseDevice, PackDevice)
-                                            .Walk(RecordWalk::kObjectMembers);
+constexpr ResponseFrame kRemoteDevice =
+    ResponseFrame::For<RemoteDeviceConfig>(ParseDevice, PackDevice)
+        .Walk(RecordWalk::kObjectMembers);
 
 }  // namespace
 

@@ -8,8 +8,8 @@
 
 namespace kova {
 
-#define KOVA_SYSTEM_TRANSLATOR(Name)                                                          \
-  int Parse##Name(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen);     \
+#define KOVA_SYSTEM_TRANSLATOR(Name)                                                      \
+  int Parse##Name(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen); \
   int Pack##Name(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen);
 
 KOVA_SYSTEM_TRANSLATOR(General)

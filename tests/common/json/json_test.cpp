@@ -18,7 +18,7 @@ Json::Value Read(const char* text) {
 TEST(JsonConversions, SignedThirtyTwo) {
   EXPECT_EQ(0, kova::ToInt32(Json::Value()));
   EXPECT_EQ(-5, kova::ToInt32(Read("-5")));
-  EXPECT_EQ(2147483647, kova::ToInt32(Read("2147483647")));   // held as a signed integer
+  EXPECT_EQ(2147483647, kova::ToInt32(Read("2147483647")));  // held as a signed integer
   EXPECT_EQ(INT32_MIN, kova::ToInt32(Read("-2147483648")));
   EXPECT_EQ(0, kova::ToInt32(Read("2147483648")));
   EXPECT_EQ(0, kova::ToInt32(Read("-2147483649")));
@@ -88,8 +88,8 @@ TEST(JsonConversions, RealAndBoolean) {
 }
 
 TEST(JsonAccess, NeverThrowsOnTheWrongType) {
-  const Json::Value values[] = {Json::Value(), Read("1"), Read("-1"), Read("1.5"), Read("true"),
-                                Read("\"s\""), Read("[1,2]"), Read("{\"k\":3}")};
+  const Json::Value values[] = {Json::Value(), Read("1"),     Read("-1"),    Read("1.5"),
+                                Read("true"),  Read("\"s\""), Read("[1,2]"), Read("{\"k\":3}")};
   for (const Json::Value& v : values) {
     EXPECT_NO_THROW({
       (void)kova::Member(v, "k");

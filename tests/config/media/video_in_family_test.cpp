@@ -132,13 +132,12 @@ TEST(VideoInFamily, ReturnedLengthAndMissingTable) {
   for (const Name& n : kNames) {
     std::vector<unsigned char> buf(n.size, kJunk);
     uint32_t ret = 1000;
-    ASSERT_EQ(1, KOVA_ParseData(n.name, kova_test::Sample(n.name).c_str(), buf.data(), n.size,
-                                &ret))
+    ASSERT_EQ(1,
+              KOVA_ParseData(n.name, kova_test::Sample(n.name).c_str(), buf.data(), n.size, &ret))
         << n.name;
     EXPECT_EQ(n.addsLength ? 1000 + n.size : n.size, ret) << n.name;
     ret = 1000;
-    ASSERT_EQ(1, KOVA_ParseData(n.name, R"({"result":true,"params":{}})", buf.data(), n.size,
-                                &ret))
+    ASSERT_EQ(1, KOVA_ParseData(n.name, R"({"result":true,"params":{}})", buf.data(), n.size, &ret))
         << n.name;
     EXPECT_EQ(n.addsLength ? 1000u : 0u, ret) << n.name;
     EXPECT_EQ(0, KOVA_ParseData(n.name, R"({"result":false,"params":{"table":{}}})", buf.data(),

@@ -28,13 +28,13 @@ Rec ParseOne(const char* name, const std::string& table) {
 
 TEST(VideoInDayNight, NamesIgnoreCaseUnknownsAreLeftOut) {
   const auto r = ParseOne<VideoInDayNightConfig>(
-      "VideoInDayNight",
-      R"([{"Mode":"blackwhite","Type":"ELECTRON","Sensitivity":3,"Delay":7},)"
-      R"({"Mode":"Auto","Type":7,"Sensitivity":1},{"Delay":2}])");
+      "VideoInDayNight", R"([{"Mode":"blackwhite","Type":"ELECTRON","Sensitivity":3,"Delay":7},)"
+                         R"({"Mode":"Auto","Type":7,"Sensitivity":1},{"Delay":2}])");
   const int32_t expected[12] = {2, 1, 3, 7, -1, -1, 1, 0, -1, -1, 0, 2};
   EXPECT_EQ(0, std::memcmp(expected, &r, sizeof r));
   EXPECT_EQ(
-      "[ { \"Delay\" : 7, \"Mode\" : \"BlackWhite\", \"Sensitivity\" : 3, \"Type\" : \"Electron\" }, "
+      "[ { \"Delay\" : 7, \"Mode\" : \"BlackWhite\", \"Sensitivity\" : 3, \"Type\" : \"Electron\" "
+      "}, "
       "{ \"Delay\" : 0, \"Sensitivity\" : 1 }, { \"Delay\" : 2, \"Sensitivity\" : 0 } ]\n",
       Pack("VideoInDayNight", r));
 }
@@ -66,10 +66,9 @@ TEST(VideoColor, SectionAndOptionalMembers) {
 
 TEST(VideoInOptions, NestedBlocksWriteWhatWasGiven) {
   const auto r = ParseOne<VideoInOptionsConfig>(
-      "VideoInOptions",
-      R"({"Brightness":50,"FocusRect":[1,2,3],"BacklightRegion":[10,20,30,40],)"
-      R"("NightOptions":{"InfraRed":true,"ExposureValue2":62.5},"DuskOptions":5,)"
-      R"("FlashControl":{"Mode":2,"Value":9}})");
+      "VideoInOptions", R"({"Brightness":50,"FocusRect":[1,2,3],"BacklightRegion":[10,20,30,40],)"
+                        R"("NightOptions":{"InfraRed":true,"ExposureValue2":62.5},"DuskOptions":5,)"
+                        R"("FlashControl":{"Mode":2,"Value":9}})");
   EXPECT_EQ(1, r.options.brightnessPresent);
   EXPECT_EQ(0, r.options.focusRectPresent);  // three numbers are not a rectangle
   EXPECT_EQ(40, r.options.backlightRegion[3]);
@@ -93,12 +92,14 @@ TEST(VideoInOptions, NestedBlocksWriteWhatWasGiven) {
 TEST(VideoWidget, ListsKeepObjectsUpToTheirCapacity) {
   std::string covers;
   for (int i = 0; i < 10; ++i) {
-    covers += i == 1 ? "null," : R"({"EncodeBlend":true,"Rect":[)" + std::to_string(i) + ",0,0,0]},";
+    covers +=
+        i == 1 ? "null," : R"({"EncodeBlend":true,"Rect":[)" + std::to_string(i) + ",0,0,0]},";
   }
   covers.pop_back();
-  const auto r = ParseOne<VideoWidgetConfig>(
-      "VideoWidget", R"({"Covers":[)" + covers + R"(],"TimeTitle":{"ShowWeek":true},)"
-                     R"("CustomTitle":[{"Text":"Gate 1|North"}]})");
+  const auto r =
+      ParseOne<VideoWidgetConfig>("VideoWidget", R"({"Covers":[)" + covers +
+                                                     R"(],"TimeTitle":{"ShowWeek":true},)"
+                                                     R"("CustomTitle":[{"Text":"Gate 1|North"}]})");
   EXPECT_EQ(8, r.coverCount);
   EXPECT_EQ(2, r.covers[1].rect[0]);  // the null entry takes no slot
   EXPECT_EQ(8, r.covers[7].rect[0]);
@@ -115,11 +116,12 @@ TEST(VideoWidget, ListsKeepObjectsUpToTheirCapacity) {
   const std::string zeroColours =
       "\"BackColor\" : [ 0, 0, 0, 0 ], \"EncodeBlend\" : false, \"FrontColor\" : [ 0, 0, 0, 0 ], "
       "\"PreviewBlend\" : false, ";
-  EXPECT_EQ("{ \"ChannelTitle\" : { " + zeroColours + "\"Rect\" : [ 0, 0, 0, 0 ] }, " +
-                "\"Covers\" : [ { " + zeroColours + "\"Rect\" : [ 0, 0, 8191, 0 ] } ], " +
-                "\"TimeTitle\" : { " + zeroColours +
-                "\"Rect\" : [ 0, 0, 0, 0 ], \"ShowWeek\" : false }, \"UserDefinedTitle\" : [  ] }\n",
-            Pack("VideoWidget", w));
+  EXPECT_EQ(
+      "{ \"ChannelTitle\" : { " + zeroColours + "\"Rect\" : [ 0, 0, 0, 0 ] }, " +
+          "\"Covers\" : [ { " + zeroColours + "\"Rect\" : [ 0, 0, 8191, 0 ] } ], " +
+          "\"TimeTitle\" : { " + zeroColours +
+          "\"Rect\" : [ 0, 0, 0, 0 ], \"ShowWeek\" : false }, \"UserDefinedTitle\" : [  ] }\n",
+      Pack("VideoWidget", w));
 }
 
 TEST(Lighting, OptionalBeamsAndLampGroups) {
@@ -141,9 +143,10 @@ TEST(Lighting, OptionalBeamsAndLampGroups) {
 TEST(VideoInZoom, AnEmptyChannelStaysAChannel) {
   VideoInZoomConfig r[2];
   uint32_t ret = 0;
-  ASSERT_EQ(1, KOVA_ParseData("VideoInZoom",
-                              Doc(R"([[{"DigitalZoom":true,"Speed":3,"ZoomLimit":16}],[]])").c_str(),
-                              r, sizeof r, &ret));
+  ASSERT_EQ(
+      1, KOVA_ParseData("VideoInZoom",
+                        Doc(R"([[{"DigitalZoom":true,"Speed":3,"ZoomLimit":16}],[]])").c_str(), r,
+                        sizeof r, &ret));
   EXPECT_EQ(sizeof r, ret);
   EXPECT_EQ(1, r[0].profileCount);
   EXPECT_EQ(16, r[0].profiles[0].zoomLimit);

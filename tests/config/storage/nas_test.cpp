@@ -111,9 +111,9 @@ TEST(Nas, LegacyFormReadsTheRootsNasMemberAndPacksBackInItsOwnForm) {
 }
 
 TEST(Nas, LegacyChannelScheduleKeysChannelsByName) {
-  std::unique_ptr<NasConfig> r = ParseNasOk(
-      R"({"NAS":{"ChnTime":{"En255":[[true,true]],"Time255":[["1:2:3-4:5:6","bad"]],)"
-      R"("En256":[[true]],"Time9":[[],["07:00:00-08:00:00"]]}}})");
+  std::unique_ptr<NasConfig> r =
+      ParseNasOk(R"({"NAS":{"ChnTime":{"En255":[[true,true]],"Time255":[["1:2:3-4:5:6","bad"]],)"
+                 R"("En256":[[true]],"Time9":[[],["07:00:00-08:00:00"]]}}})");
   const LegacyNasConfig& l = r->legacy;
   EXPECT_EQ(256, l.channelCount);  // En256 is beyond the 256 channels
   EXPECT_EQ(1, l.uploadTimes[255][0][1].enable);
@@ -123,13 +123,15 @@ TEST(Nas, LegacyChannelScheduleKeysChannelsByName) {
   EXPECT_EQ(7, l.uploadTimes[9][1][0].beginHour);
   const std::string text = kova_test::Pack("NAS", *r);
   EXPECT_NE(std::string::npos, text.find(R"("En255" : [ [ true, true ], [ false, false ], )"));
-  EXPECT_NE(std::string::npos, text.find(R"("Time255" : [ [ "01:02:03-04:05:06", "00:00:00-00:00:00" ], )"));
+  EXPECT_NE(std::string::npos,
+            text.find(R"("Time255" : [ [ "01:02:03-04:05:06", "00:00:00-00:00:00" ], )"));
   ExpectRoundTrip(*r, "");
 }
 
 TEST(Nas, ServerSlotsFollowElementsAndTheFirstSixteenAreRead) {
   std::string twenty;
-  for (int i = 0; i < 20; ++i) twenty += std::string(i ? "," : "") + R"({"Port":)" + std::to_string(i + 1) + "}";
+  for (int i = 0; i < 20; ++i)
+    twenty += std::string(i ? "," : "") + R"({"Port":)" + std::to_string(i + 1) + "}";
   std::unique_ptr<NasConfig> r = ParseNasOk(Doc("[" + twenty + "]"));
   EXPECT_EQ(16, r->serverCount);
   EXPECT_EQ(16, r->servers[15].port);
@@ -163,9 +165,10 @@ TEST(Nas, EnumerationsCompareExactlyAndUpdateTimeKeepsItsEra) {
     const char* packedTime;  // null: "UpdateTime" left out
   };
   const Case kCases[] = {
-      {R"({"Protocol":"nfs","CharacterEncoding":"utf-8","CloudProtocol":"dropbox"})", 0, 0, 0, nullptr},
-      {R"({"Protocol":"ISCSI","CharacterEncoding":"GB2312","CloudProtocol":"GoogleDrive"})", 2, 1, 2,
+      {R"({"Protocol":"nfs","CharacterEncoding":"utf-8","CloudProtocol":"dropbox"})", 0, 0, 0,
        nullptr},
+      {R"({"Protocol":"ISCSI","CharacterEncoding":"GB2312","CloudProtocol":"GoogleDrive"})", 2, 1,
+       2, nullptr},
       {R"({"Protocol":3,"CloudProtocol":"BaiduCloud","UpdateTime":"1990-01-02 03:04:05"})", 0, 0, 1,
        "1990-01-02 03:04:05.0"},
       {R"({"UpdateTime":"2047-12-31 23:59:59.999"})", 0, 0, 0, "2047-12-31 23:59:59.0"},
@@ -205,10 +208,7 @@ TEST(Nas, EnumerationsCompareExactlyAndUpdateTimeKeepsItsEra) {
 
 TEST(Nas, RefusesWhatTheEnvelopeRefuses) {
   const char* const kRefused[] = {
-      R"({"result":false,"params":{"table":[]}})",
-      R"({"params":{"table":[]}})",
-      "null",
-      "[1,2]",
+      R"({"result":false,"params":{"table":[]}})", R"({"params":{"table":[]}})", "null", "[1,2]",
       R"({"result":true,"params":{"table":[]})",
   };
   for (const char* json : kRefused) {
@@ -222,7 +222,6 @@ TEST(Nas, RefusesWhatTheEnvelopeRefuses) {
   std::unique_ptr<NasConfig> r = ParseNasOk(R"({"result":true})");
   EXPECT_EQ(1, r->useServerList);
   EXPECT_EQ(0, r->serverCount);
-
 }
 
 }  // namespace

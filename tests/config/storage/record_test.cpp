@@ -91,8 +91,8 @@ TEST(Record, MaskBitsTakeTheRecordsOrderBothWays) {
     int packed;
   };
   const Case kCases[] = {
-      {1, 4, 1}, {2, 1, 2}, {4, 2, 4}, {6, 3, 6},   {7, 7, 7},
-      {8, 0, 0},  // device bit 3 has no record bit
+      {1, 4, 1},   {2, 1, 2},    {4, 2, 4},     {6, 3, 6},
+      {7, 7, 7},   {8, 0, 0},  // device bit 3 has no record bit
       {16, 8, 16}, {31, 15, 23}, {255, 15, 23}, {0, 0, 0},
   };
   for (const Case& c : kCases) {
@@ -113,14 +113,15 @@ TEST(Record, MaskBitsTakeTheRecordsOrderBothWays) {
   // Record bits above 3 are dropped on pack.
   RecordConfig r = {};
   r.sections[0][0].enable = 0x30 | 1;
-  EXPECT_EQ(0u, kova_test::Pack("Record", r).find(R"({ "PreRecord" : 0, "Redundancy" : false, )"
-                                                  R"("Stream" : 0, "TimeSection" : [ [ "2 00:00:00-00:00:00", )"));
+  EXPECT_EQ(0u, kova_test::Pack("Record", r)
+                    .find(R"({ "PreRecord" : 0, "Redundancy" : false, )"
+                          R"("Stream" : 0, "TimeSection" : [ [ "2 00:00:00-00:00:00", )"));
 }
 
 TEST(Record, HolidayRowAndStreamFollowWhatTheDeviceSent) {
   // Six rows: no holiday, and none written back.
-  RecordConfig week = ParseOne(R"({"HolidayEnable":true,"TimeSection":)" +
-                               Week("1 00:00:00-24:00:00", 6) + "}");
+  RecordConfig week =
+      ParseOne(R"({"HolidayEnable":true,"TimeSection":)" + Week("1 00:00:00-24:00:00", 6) + "}");
   EXPECT_EQ(0, week.holidayValid);
   EXPECT_EQ(0, week.holidayEnable);  // not read without row 7
   std::string text = kova_test::Pack("Record", week);
@@ -173,18 +174,19 @@ TEST(Record, SectionTextIsReadWithoutFieldWidthsAndMalformedTextKeepsWhatWasRead
   EXPECT_EQ(15, b.beginMinute);
   EXPECT_EQ(0, b.endHour);
   EXPECT_EQ(0, std::memcmp(&r.sections[0][2], &r.sections[1][0], sizeof(TimeSectionRecord)));
-  EXPECT_EQ(0, r.sections[0][3].enable);  // a number is not a section text
+  EXPECT_EQ(0, r.sections[0][3].enable);        // a number is not a section text
   EXPECT_EQ(99, r.sections[0][4].beginSecond);  // no range check
-  EXPECT_NE(std::string::npos, kova_test::Pack("Record", r)
-                                   .find(R"([ "2 08:00:00-09:30:00", "4 07:15:00-00:00:00", )"));
+  EXPECT_NE(
+      std::string::npos,
+      kova_test::Pack("Record", r).find(R"([ "2 08:00:00-09:30:00", "4 07:15:00-00:00:00", )"));
 }
 
 TEST(Record, ResponseChannelChoosesOneRecordOrEveryElement) {
   struct Case {
     const char* json;
     int rc;
-    uint32_t records;   // returned length in records
-    int32_t channel0;   // channel of record 0 when filled
+    uint32_t records;  // returned length in records
+    int32_t channel0;  // channel of record 0 when filled
     int32_t preRecord0;
   };
   const Case kCases[] = {

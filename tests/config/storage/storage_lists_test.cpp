@@ -88,8 +88,9 @@ TEST(StorageGroup, ChannelsAreCutTo1024AndEveryElementKeepsItsSlot) {
   EXPECT_EQ(0, g->channels[2].maxPictures);
   EXPECT_EQ(1023, g->channels[1023].maxPictures);
   const std::string text = Packed("StorageGroup", b, ret);
-  EXPECT_EQ(0u, text.find(R"([ { "Channels" : [ { "MaxPictures" : 0, "Path" : "" }, )"
-                          R"({ "MaxPictures" : 2, "Path" : "" }, { "MaxPictures" : 0, "Path" : "" }, )"));
+  EXPECT_EQ(
+      0u, text.find(R"([ { "Channels" : [ { "MaxPictures" : 0, "Path" : "" }, )"
+                    R"({ "MaxPictures" : 2, "Path" : "" }, { "MaxPictures" : 0, "Path" : "" }, )"));
   ExpectRoundTrip("StorageGroup", b, stride, ret);
 }
 
@@ -137,7 +138,8 @@ TEST(CallerSizedRecords, TheCallersSizeStepsBothWays) {
   EXPECT_EQ(0, b[2 * shortStride + offsetof(StorageGroupRecord, name)]);
   // What lies past the caller's size packs as zero: no channels.
   const std::string text = Packed("StorageGroup", b, 2 * shortStride);
-  EXPECT_EQ(0u, text.find(R"([ { "Channels" : [  ], "FileHoldTime" : 0, "Memo" : "All cameras", )"));
+  EXPECT_EQ(0u,
+            text.find(R"([ { "Channels" : [  ], "FileHoldTime" : 0, "Memo" : "All cameras", )"));
   EXPECT_NE(std::string::npos, text.find(R"(}, { "Channels" : [  ], "FileHoldTime" : 30, )"));
 
   // An odd stride (records after the first are not aligned) and a larger
@@ -163,7 +165,8 @@ TEST(CallerSizedRecords, TheCallersSizeStepsBothWays) {
     std::memcpy(buf.data(), &c.word, 4);
     const std::vector<unsigned char> before = buf;
     for (const char* name : {"StorageGroup", "Raid"}) {
-      EXPECT_EQ(0, KOVA_ParseData(name, kova_test::Sample(name).c_str(), buf.data(), c.length, &ret))
+      EXPECT_EQ(0,
+                KOVA_ParseData(name, kova_test::Sample(name).c_str(), buf.data(), c.length, &ret))
           << name << " " << c.word;
       EXPECT_EQ(before, buf);
       EXPECT_EQ("<failed>", PackBytes(name, buf.data(), c.length)) << name << " " << c.word;
@@ -171,7 +174,8 @@ TEST(CallerSizedRecords, TheCallersSizeStepsBothWays) {
   }
   // One-byte records across a whole record's bytes: more groups than the text could hold.
   std::vector<unsigned char> tiny = Slots(1, sizeof(StorageGroupRecord));
-  EXPECT_EQ("<failed>", PackBytes("StorageGroup", tiny.data(), sizeof(StorageGroupRecord), 1u << 16));
+  EXPECT_EQ("<failed>",
+            PackBytes("StorageGroup", tiny.data(), sizeof(StorageGroupRecord), 1u << 16));
   // A result that is not true fails; a null table succeeds empty.
   std::vector<unsigned char> one = Slots(sizeof(RaidRecord), 1);
   EXPECT_EQ(0, Parse("Raid", R"({"result":0,"params":{"table":[]}})", &one, &ret));

@@ -26,12 +26,17 @@ struct Setting {
 };
 
 const Setting kSettings[] = {
-    {"General", sizeof(GeneralConfig), 1},         {"NTP", sizeof(NtpConfig), 1},
-    {"Locales", sizeof(LocalesConfig), 1},         {"AutoMaintain", sizeof(AutoMaintainConfig), 1},
-    {"Language", sizeof(LanguageConfig), 1},       {"Email", sizeof(EmailConfig), 1},
-    {"AlarmOut", sizeof(AlarmOutConfig), 3},       {"Snap", sizeof(SnapConfig), 2},
+    {"General", sizeof(GeneralConfig), 1},
+    {"NTP", sizeof(NtpConfig), 1},
+    {"Locales", sizeof(LocalesConfig), 1},
+    {"AutoMaintain", sizeof(AutoMaintainConfig), 1},
+    {"Language", sizeof(LanguageConfig), 1},
+    {"Email", sizeof(EmailConfig), 1},
+    {"AlarmOut", sizeof(AlarmOutConfig), 3},
+    {"Snap", sizeof(SnapConfig), 2},
     {"RemoteDevice", sizeof(RemoteDeviceConfig), 2},
-    {"AccessControl", sizeof(AccessControlConfig), 2}, {"AudioDetect", sizeof(AudioDetectConfig), 2},
+    {"AccessControl", sizeof(AccessControlConfig), 2},
+    {"AudioDetect", sizeof(AudioDetectConfig), 2},
     {"AudioOutputVolume", sizeof(AudioVolumeConfig), 4},
     {"AudioInputVolume", sizeof(AudioVolumeConfig), 2},
 };
@@ -77,7 +82,8 @@ TEST(SystemSettings, EnvelopeRules) {
   for (const Setting& s : kSettings) {
     int rc = 0;
     uint32_t ret = 7;
-    std::vector<unsigned char> out = Parse(s, R"({"result":false,"params":{"table":{}}})", &rc, &ret);
+    std::vector<unsigned char> out =
+        Parse(s, R"({"result":false,"params":{"table":{}}})", &rc, &ret);
     EXPECT_EQ(0, rc) << s.name;
     EXPECT_EQ(std::vector<unsigned char>(out.size(), 0), out) << s.name << ": cleared first";
     Parse(s, R"({"result":true,"params":{"table":null}})", &rc, &ret);
@@ -108,7 +114,9 @@ TEST(SystemSettings, PerChannelAnswersFillOneRecordEachCutToTheBuffer) {
   // One port answered alone, without the optional members.
   std::vector<unsigned char> one = Parse(alarmOut, Doc(R"({"Mode":2,"Name":"Bell"})"), &rc, &ret);
   EXPECT_EQ(sizeof(AlarmOutConfig), ret);
-  EXPECT_EQ(R"({ "Mode" : 2, "Name" : "Bell" })" "\n", PackBytes("AlarmOut", one.data(), ret));
+  EXPECT_EQ(R"({ "Mode" : 2, "Name" : "Bell" })"
+            "\n",
+            PackBytes("AlarmOut", one.data(), ret));
 }
 
 TEST(SystemSettings, OptionalMembersAreWrittenOnlyWhenTheDeviceSentThem) {
@@ -118,7 +126,8 @@ TEST(SystemSettings, OptionalMembersAreWrittenOnlyWhenTheDeviceSentThem) {
   std::vector<unsigned char> g = Parse(Named("General"), general, &rc, &ret);
   EXPECT_EQ(
       R"({ "LocalNo" : 1, "LockLoginEnable" : false, "LockLoginTimes" : 0, "LoginFailLockTime" : 0, )"
-      R"("MachineName" : "NVR", "MaxOnlineTime" : 0 })" "\n",
+      R"("MachineName" : "NVR", "MaxOnlineTime" : 0 })"
+      "\n",
       PackBytes("General", g.data(), ret));
   // "HealthReport" that is not an object counts as absent.
   std::vector<unsigned char> e =
@@ -131,10 +140,12 @@ TEST(SystemSettings, OptionalMembersAreWrittenOnlyWhenTheDeviceSentThem) {
 
 TEST(SystemSettings, EmailReceiversAreCutToEight) {
   std::string list = "[";
-  for (int i = 0; i < 10; ++i) list += std::string(i ? "," : "") + "\"r" + std::to_string(i) + "@x\"";
+  for (int i = 0; i < 10; ++i)
+    list += std::string(i ? "," : "") + "\"r" + std::to_string(i) + "@x\"";
   int rc = 0;
   uint32_t ret = 0;
-  std::vector<unsigned char> e = Parse(Named("Email"), Doc(R"({"Receivers":)" + list + "]}"), &rc, &ret);
+  std::vector<unsigned char> e =
+      Parse(Named("Email"), Doc(R"({"Receivers":)" + list + "]}"), &rc, &ret);
   const EmailConfig* mail = reinterpret_cast<const EmailConfig*>(e.data());
   EXPECT_EQ(8, mail->receiverCount);
   EXPECT_STREQ("r7@x", mail->receivers[7]);
@@ -143,7 +154,8 @@ TEST(SystemSettings, EmailReceiversAreCutToEight) {
 TEST(SystemSettings, LanguageAndLocalesShapes) {
   int rc = 0;
   uint32_t ret = 0;
-  std::vector<unsigned char> lang = Parse(Named("Language"), kova_test::Sample("Language"), &rc, &ret);
+  std::vector<unsigned char> lang =
+      Parse(Named("Language"), kova_test::Sample("Language"), &rc, &ret);
   EXPECT_STREQ("English", reinterpret_cast<const LanguageConfig*>(lang.data())->language);
   // A table that is not a text leaves the language empty.
   lang = Parse(Named("Language"), Doc("{\"Name\":\"English\"}"), &rc, &ret);
@@ -159,13 +171,14 @@ TEST(SystemSettings, LanguageAndLocalesShapes) {
 }
 
 TEST(SystemSettings, SnapKeepsTheDaysTheDeviceSent) {
-  const std::string week = R"(["1 00:00:00-24:00:00"],["2 08:00:00-18:00:00"],["0 00:00:00-24:00:00"],)"
-                           R"(["0 00:00:00-24:00:00"],["0 00:00:00-24:00:00"],["0 00:00:00-24:00:00"],)"
-                           R"(["5 01:02:03-04:05:06"])";
+  const std::string week =
+      R"(["1 00:00:00-24:00:00"],["2 08:00:00-18:00:00"],["0 00:00:00-24:00:00"],)"
+      R"(["0 00:00:00-24:00:00"],["0 00:00:00-24:00:00"],["0 00:00:00-24:00:00"],)"
+      R"(["5 01:02:03-04:05:06"])";
   int rc = 0;
   uint32_t ret = 0;
-  std::vector<unsigned char> s =
-      Parse(Named("Snap"), Doc(R"({"HolidayEnable":false,"TimeSection":[)" + week + "]}"), &rc, &ret);
+  std::vector<unsigned char> s = Parse(
+      Named("Snap"), Doc(R"({"HolidayEnable":false,"TimeSection":[)" + week + "]}"), &rc, &ret);
   const SnapConfig* snap = reinterpret_cast<const SnapConfig*>(s.data());
   EXPECT_EQ(sizeof(SnapConfig), ret);
   EXPECT_EQ(7, snap->dayCount);
@@ -173,7 +186,8 @@ TEST(SystemSettings, SnapKeepsTheDaysTheDeviceSent) {
   EXPECT_EQ(6, snap->sections[6][0].endSecond);
   const std::string text = PackBytes("Snap", s.data(), ret);
   size_t days = 0;
-  for (size_t at = text.find("[ \""); at != std::string::npos; at = text.find("[ \"", at + 1)) ++days;
+  for (size_t at = text.find("[ \""); at != std::string::npos; at = text.find("[ \"", at + 1))
+    ++days;
   EXPECT_EQ(7u, days);  // written back as a week, not padded to 8 days
   EXPECT_NE(std::string::npos, text.find("\"5 01:02:03-04:05:06\""));
 }
@@ -186,7 +200,7 @@ TEST(SystemSettings, RemoteDevicesAreKeyedByTheirIdentifiers) {
   std::vector<unsigned char> r = Parse(Named("RemoteDevice"), Doc(table), &rc, &ret);
   const RemoteDeviceConfig* d = reinterpret_cast<const RemoteDeviceConfig*>(r.data());
   ASSERT_EQ(2 * sizeof(RemoteDeviceConfig), ret);  // "skip" is not a device and takes no record
-  EXPECT_STREQ("uuid:a", d[0].id);                  // the member order is sorted by name
+  EXPECT_STREQ("uuid:a", d[0].id);                 // the member order is sorted by name
   EXPECT_STREQ("uuid:b", d[1].id);
   EXPECT_EQ(1, d[1].videoInputCount);
   EXPECT_STREQ("b0", d[1].videoInputs[0].name);
@@ -223,13 +237,15 @@ TEST(SystemSettings, DoorScheduleFormsAndTimeRanges) {
   const std::string text = PackBytes("AccessControl", out.data(), ret);
   EXPECT_NE(std::string::npos, text.find(R"("TimeSchedule" : [ { "TimeSection" : "07:30-19:00" }, )"
                                          R"({ "TimeSection" : "00:00-00:00" } ])"));
-  EXPECT_NE(std::string::npos, text.find(R"([ [ { "Method" : 2, "TimeSection" : "08:00:00-12:00:30" } ], [  ] ])"));
+  EXPECT_NE(std::string::npos,
+            text.find(R"([ [ { "Method" : 2, "TimeSection" : "08:00:00-12:00:30" } ], [  ] ])"));
 }
 
 TEST(SystemSettings, SoundAlarmKeepsItsLightBesideTheLinkageBlock) {
   int rc = 0;
   uint32_t ret = 0;
-  std::vector<unsigned char> out = Parse(Named("AudioDetect"), kova_test::Sample("AudioDetect"), &rc, &ret);
+  std::vector<unsigned char> out =
+      Parse(Named("AudioDetect"), kova_test::Sample("AudioDetect"), &rc, &ret);
   const AudioDetectConfig* a = reinterpret_cast<const AudioDetectConfig*>(out.data());
   EXPECT_EQ(1, a[0].lightingLinkPresent);
   EXPECT_STREQ("WhiteLight", a[0].lightingLink.filckerLightType);
@@ -239,7 +255,9 @@ TEST(SystemSettings, SoundAlarmKeepsItsLightBesideTheLinkageBlock) {
   const std::string text = PackBytes("AudioDetect", out.data(), ret);
   EXPECT_EQ(1u, [&] {
     size_t n = 0;
-    for (size_t at = text.find("LightingLink"); at != std::string::npos; at = text.find("LightingLink", at + 1)) ++n;
+    for (size_t at = text.find("LightingLink"); at != std::string::npos;
+         at = text.find("LightingLink", at + 1))
+      ++n;
     return n;
   }());
 }
@@ -247,7 +265,8 @@ TEST(SystemSettings, SoundAlarmKeepsItsLightBesideTheLinkageBlock) {
 TEST(SystemSettings, VolumesArePlainNumbers) {
   int rc = 0;
   uint32_t ret = 0;
-  std::vector<unsigned char> out = Parse(Named("AudioOutputVolume"), Doc("[80,\"x\",null,100,7]"), &rc, &ret, 4);
+  std::vector<unsigned char> out =
+      Parse(Named("AudioOutputVolume"), Doc("[80,\"x\",null,100,7]"), &rc, &ret, 4);
   const AudioVolumeConfig* v = reinterpret_cast<const AudioVolumeConfig*>(out.data());
   EXPECT_EQ(4 * sizeof(AudioVolumeConfig), ret);  // cut to the buffer
   EXPECT_EQ(80, v[0].volume);

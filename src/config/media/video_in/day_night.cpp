@@ -10,7 +10,7 @@
 namespace kova {
 
 constexpr const char* kDayNightModeNames[] = {"Color", "Brightness", "BlackWhite", "Photoresistor",
-                                             "Gain"};
+                                              "Gain"};
 constexpr const char* kDayNightTypeNames[] = {"Mechanism", "Electron"};
 // No room for text in the record: an unknown name is -1, left out on pack.
 constexpr EnumNames kDayNightModes = EnumNames::Of(kDayNightModeNames).UnknownAs(-1).OmitUnnamed();
@@ -33,7 +33,8 @@ namespace {
 
 constexpr Field kProfile = KOVA_ITEM_NESTED(VideoInDayNightProfile);
 // The record is the channel's array: profile i in slot i, always three.
-constexpr Field kProfiles = KOVA_LIST(VideoInDayNightConfig, profiles, nullptr, kProfile).KeepSlots();
+constexpr Field kProfiles =
+    KOVA_LIST(VideoInDayNightConfig, profiles, nullptr, kProfile).KeepSlots();
 
 }  // namespace
 

@@ -10,7 +10,7 @@
 // Every option member has a flag named after it: devices send different subsets.
 #define KOVA_OPTION(member, key, KIND) \
   KOVA_F(VideoInOptionSet, member, key, KIND).Flag(KOVA_AT(VideoInOptionSet, member##Present))
-#define KOVA_OPTION_RECT(member, key)                     \
+#define KOVA_OPTION_RECT(member, key)                   \
   KOVA_TUPLE(VideoInOptionSet, member, key, int32_t, 4) \
       .Flag(KOVA_AT(VideoInOptionSet, member##Present))
 
