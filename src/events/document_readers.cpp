@@ -55,14 +55,11 @@ constexpr Field kStatSubtotalFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(PtzStatusRecord, kPtzStatusFields)
 KOVA_DESCRIBE(FocusStatusRecord, kFocusStatusFields)
 KOVA_DESCRIBE(TrafficFlowStatRecord, kTrafficFlowFields)
 KOVA_DESCRIBE(StatSubtotal, kStatSubtotalFields)
-
-namespace kova {
 namespace {
 
 constexpr Field kStatSummaryFields[] = {
@@ -75,11 +72,8 @@ constexpr Field kStatSummaryFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(VideoStatSummaryRecord, kStatSummaryFields)
-
-namespace kova {
 namespace {
 
 // A reader that delivers one record per object of its member.

@@ -96,15 +96,12 @@ constexpr Field kDriverSeatFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(EventImage, kImageFields)
 KOVA_DESCRIBE(FaceAttributes, kFaceAttributeFields)
 KOVA_DESCRIBE(FacePerson, kFacePersonFields)
 KOVA_DESCRIBE(TrafficCarInfo, kTrafficCarFields)
 KOVA_DESCRIBE(TrafficDriverSeat, kDriverSeatFields)
-
-namespace kova {
 namespace {
 
 constexpr const char* kObjectActionNames[] = {"Appear",    "Move",  "Stay",  "Remove",
@@ -142,13 +139,10 @@ constexpr Field kCommInfoFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(EventObject, kObjectFields)
 KOVA_DESCRIBE(FaceCandidate, kFaceCandidateFields)
 KOVA_DESCRIBE(TrafficCommInfo, kCommInfoFields)
-
-namespace kova {
 namespace {
 
 constexpr Field kObjectItem = KOVA_ITEM_NESTED(EventObject);
@@ -194,11 +188,8 @@ constexpr Field kCommonFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(EventCommon, kCommonFields)
-
-namespace kova {
 namespace {
 
 // ---- Line and region crossing --------------------------------------------------

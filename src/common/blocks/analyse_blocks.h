@@ -91,11 +91,7 @@ inline constexpr EnumNames kMeasureModes = EnumNames::Of(kMeasureModeNames);
 inline constexpr const char* kSizeFilterTypeNames[] = {"ByLength", "ByArea", "ByRatio"};
 inline constexpr EnumNames kSizeFilterTypes = EnumNames::Of(kSizeFilterTypeNames);
 
-}  // namespace kova
-
 KOVA_DESCRIBE(CalibrateBox, kova::kCalibrateBoxFields)
-
-namespace kova {
 
 inline constexpr Field kCalibrateBoxItem = KOVA_ITEM_NESTED(CalibrateBox);
 
@@ -164,9 +160,8 @@ static_assert(FieldsWithin(kSizeFilterFields, kSizeFilterSettingsFieldCount,
 // `sizeFilterPresent`.
 #define KOVA_SIZE_FILTER(Rec) \
   KOVA_NESTED(Rec, sizeFilter, "SizeFilter").Flag(KOVA_AT(Rec, sizeFilterPresent))
-KOVA_DESCRIBE(SizeFilterBlock, kova::kSizeFilterFields)
-
 namespace kova {
+KOVA_DESCRIBE(SizeFilterBlock, kova::kSizeFilterFields)
 // The size filter without its box lists: the leading entries of the
 // block's table, whose offsets are the same in both records.
 template <>

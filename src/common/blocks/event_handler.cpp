@@ -80,11 +80,8 @@ constexpr Field kMonitorTourFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(MonitorTourEntry, kMonitorTourFields)
-
-namespace kova {
 
 namespace {
 

@@ -22,7 +22,7 @@
 //       KOVA_F(Zone, id, "Id", kInt),
 //       KOVA_F(Zone, name, "Name", kText),
 //   };
-//   KOVA_DESCRIBE(Zone, kZoneFields)          // at global scope
+//   KOVA_DESCRIBE(Zone, kZoneFields)          // inside namespace kova
 //
 //   constexpr Field kZone = KOVA_ITEM_NESTED(Zone);     // one list entry
 //   constexpr Field kFenceFields[] = {
@@ -620,14 +620,13 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
   ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, Type>(nullptr, 0, n)
 
 // Registers `fields` (a constexpr Field array) as the description of Type,
-// for KOVA_NESTED and KOVA_ITEM_NESTED. Use at global scope. A description
+// for KOVA_NESTED and KOVA_ITEM_NESTED. Use inside namespace kova (not in
+// an anonymous namespace). A description
 // shared between files lives in a header as an `inline constexpr` array.
 #define KOVA_DESCRIBE(Type, fields)                         \
-  namespace kova {                                          \
   template <>                                               \
   struct Description<Type> {                                \
     static constexpr FieldTable table = KOVA_TABLE(fields); \
-  };                                                        \
-  }
+  };
 
 #endif  // KOVA_COMMON_FIELD_TABLE_H_

@@ -70,11 +70,13 @@ constexpr Field kRemoteDetailFields[] = {
 
 }  // namespace
 
+namespace kova {
 KOVA_DESCRIBE(DoorTimeRange, kRangeFields)
 KOVA_DESCRIBE(DoorMethodSection, kMethodSectionFields)
 KOVA_DESCRIBE(DoorAutoRemoteCheck, kAutoRemoteCheckFields)
 KOVA_DESCRIBE(DoorFirstEnter, kFirstEnterFields)
 KOVA_DESCRIBE(DoorRemoteDetail, kRemoteDetailFields)
+}  // namespace kova
 
 namespace {
 
@@ -134,9 +136,8 @@ constexpr Field kDoorFields[] = {
 
 }  // namespace
 
-KOVA_DESCRIBE(AccessControlConfig, kDoorFields)
-
 namespace kova {
+KOVA_DESCRIBE(AccessControlConfig, kDoorFields)
 
 namespace {
 constexpr ResponseFrame kDoors = DescribedObject<AccessControlConfig>::kFrame;

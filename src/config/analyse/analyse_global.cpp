@@ -86,13 +86,10 @@ inline constexpr Field kStaffFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(DayNightPeriod, kova::kPeriodFields)
 KOVA_DESCRIBE(AnalyseScene, kova::kSceneFields)
 KOVA_DESCRIBE(CalibrateStaff, kova::kStaffFields)
-
-namespace kova {
 
 namespace {
 

@@ -21,11 +21,8 @@ inline constexpr Field kSpecialRegionFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(SpecialDetectRegion, kova::kSpecialRegionFields)
-
-namespace kova {
 
 namespace {
 
@@ -69,11 +66,8 @@ constexpr Field kModuleFields[] = {
 #undef KOVA_MODULE_F
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(AnalyseModule, kova::kModuleFields)
-
-namespace kova {
 
 namespace {
 

@@ -21,7 +21,9 @@ constexpr Field kLightingLinkFields[] = {
 
 }  // namespace
 
+namespace kova {
 KOVA_DESCRIBE(AudioLightingLink, kLightingLinkFields)
+}  // namespace kova
 
 namespace {
 
@@ -62,9 +64,8 @@ constexpr Field kAudioDetectFields[] = {
 
 }  // namespace
 
-KOVA_DESCRIBE(AudioDetectConfig, kAudioDetectFields)
-
 namespace kova {
+KOVA_DESCRIBE(AudioDetectConfig, kAudioDetectFields)
 
 namespace {
 constexpr ResponseFrame kAudioDetect = DescribedObject<AudioDetectConfig>::kFrame;

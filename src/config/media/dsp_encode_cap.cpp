@@ -19,11 +19,8 @@ constexpr Field kResolutionFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(EncodeResolution, kResolutionFields)
-
-namespace kova {
 namespace {
 
 using D = DspEncodeCapRecord;

@@ -52,12 +52,9 @@ constexpr Field kAudioFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(VideoFormat, kVideoFields)
 KOVA_DESCRIBE(AudioFormat, kAudioFields)
-
-namespace kova {
 namespace {
 
 constexpr Field kFormatFields[] = {
@@ -78,11 +75,8 @@ constexpr Field kFormatFields[] = {
 #undef KOVA_HAS_ENUM
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(EncodeFormat, kFormatFields)
-
-namespace kova {
 namespace {
 
 using C = EncodeConfig;

@@ -16,11 +16,8 @@ constexpr Field kServerFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(DvripServerAddress, kServerFields)
-
-namespace kova {
 namespace {
 
 constexpr Field kServer = KOVA_ITEM_NESTED(DvripServerAddress);
@@ -33,11 +30,8 @@ constexpr Field kRegisterFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(DvripRegisterServer, kRegisterFields)
-
-namespace kova {
 namespace {
 
 constexpr Field kDvripFields[] = {
@@ -57,11 +51,8 @@ constexpr Field kDvripFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(DvripConfig, kDvripFields)
-
-namespace kova {
 namespace {
 
 constexpr const Field& kWhole = DescribedObject<DvripConfig>::kWhole;

@@ -19,11 +19,8 @@ constexpr Field kStreamFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(MulticastStream, kStreamFields)
-
-namespace kova {
 namespace {
 
 constexpr Field kStream = KOVA_ITEM_NESTED(MulticastStream);
@@ -36,11 +33,8 @@ constexpr Field kMulticastFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(MulticastConfig, kMulticastFields)
-
-namespace kova {
 namespace {
 
 // The record starts from zero with its own size, also for a missing table;

@@ -78,11 +78,8 @@ constexpr Field kNetworkFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(NetworkConfig, kNetworkFields)
-
-namespace kova {
 namespace {
 
 constexpr const Field& kWhole = DescribedObject<NetworkConfig>::kWhole;

@@ -35,11 +35,8 @@ constexpr Field kRtspFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(RtspConfig, kRtspFields)
-
-namespace kova {
 namespace {
 
 // The record starts from zero with its own size, also for a missing table.

@@ -112,11 +112,8 @@ constexpr Field kPtzFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(PtzConfig, kPtzFields)
-
-namespace kova {
 namespace {
 
 constexpr const Field& kWhole = DescribedObject<PtzConfig>::kWhole;

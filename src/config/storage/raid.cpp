@@ -21,11 +21,8 @@ constexpr Field kRaidFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(RaidRecord, kRaidFields)
-
-namespace kova {
 namespace {
 
 // An empty array packs as { "Level" : 0, "Members" : [  ], "Name" : "" }.

@@ -14,11 +14,8 @@ constexpr Field kModeFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(RecordModeConfig, kModeFields)
-
-namespace kova {
 namespace {
 
 constexpr ResponseFrame kFrame = DescribedObject<RecordModeConfig>::kFrame;

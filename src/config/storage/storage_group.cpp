@@ -14,11 +14,8 @@ constexpr Field kChannelFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(StorageGroupChannel, kChannelFields)
-
-namespace kova {
 namespace {
 
 constexpr Field kChannelItem = KOVA_ITEM_NESTED(StorageGroupChannel);
@@ -36,11 +33,8 @@ constexpr Field kGroupFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(StorageGroupRecord, kGroupFields)
-
-namespace kova {
 namespace {
 
 // An empty group packs as { "Channels" : [  ], "FileHoldTime" : 0, ... }:

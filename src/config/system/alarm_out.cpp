@@ -19,9 +19,8 @@ constexpr Field kAlarmOutFields[] = {
 
 }  // namespace
 
-KOVA_DESCRIBE(AlarmOutConfig, kAlarmOutFields)
-
 namespace kova {
+KOVA_DESCRIBE(AlarmOutConfig, kAlarmOutFields)
 
 namespace {
 constexpr ResponseFrame kAlarmOut = DescribedObject<AlarmOutConfig>::kFrame;

@@ -25,8 +25,10 @@ constexpr Field kDstPointFields[] = {
 
 }  // namespace
 
+namespace kova {
 KOVA_DESCRIBE(NtpConfig, kNtpFields)
 KOVA_DESCRIBE(DstPoint, kDstPointFields)
+}  // namespace kova
 
 namespace {
 
@@ -41,9 +43,8 @@ constexpr Field kLocalesFields[] = {
 
 }  // namespace
 
-KOVA_DESCRIBE(LocalesConfig, kLocalesFields)
-
 namespace kova {
+KOVA_DESCRIBE(LocalesConfig, kLocalesFields)
 
 namespace {
 constexpr ResponseFrame kNtp = DescribedObject<NtpConfig>::kFrame.Walk(RecordWalk::kOne);

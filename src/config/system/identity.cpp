@@ -28,9 +28,8 @@ constexpr Field kLanguageText = KOVA_F(LanguageConfig, language, nullptr, kText)
 
 }  // namespace
 
-KOVA_DESCRIBE(GeneralConfig, kGeneralFields)
-
 namespace kova {
+KOVA_DESCRIBE(GeneralConfig, kGeneralFields)
 
 namespace {
 constexpr ResponseFrame kGeneral = DescribedObject<GeneralConfig>::kFrame.Walk(RecordWalk::kOne);

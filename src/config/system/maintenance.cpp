@@ -25,7 +25,9 @@ constexpr Field kHealthReportFields[] = {
 
 }  // namespace
 
+namespace kova {
 KOVA_DESCRIBE(EmailHealthReport, kHealthReportFields)
+}  // namespace kova
 
 namespace {
 
@@ -53,10 +55,9 @@ constexpr Field kEmailFields[] = {
 
 }  // namespace
 
+namespace kova {
 KOVA_DESCRIBE(AutoMaintainConfig, kAutoMaintainFields)
 KOVA_DESCRIBE(EmailConfig, kEmailFields)
-
-namespace kova {
 
 namespace {
 constexpr ResponseFrame kAutoMaintain =

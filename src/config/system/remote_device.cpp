@@ -23,7 +23,9 @@ constexpr Field kVideoInputFields[] = {
 
 }  // namespace
 
+namespace kova {
 KOVA_DESCRIBE(RemoteVideoInput, kVideoInputFields)
+}  // namespace kova
 
 namespace {
 
@@ -57,9 +59,8 @@ constexpr Field kRemoteDeviceFields[] = {
 
 }  // namespace
 
-KOVA_DESCRIBE(RemoteDeviceConfig, kRemoteDeviceFields)
-
 namespace kova {
+KOVA_DESCRIBE(RemoteDeviceConfig, kRemoteDeviceFields)
 
 namespace {
 

@@ -32,9 +32,8 @@ constexpr Field kSnapFields[] = {
 
 }  // namespace
 
-KOVA_DESCRIBE(SnapConfig, kSnapFields)
-
 namespace kova {
+KOVA_DESCRIBE(SnapConfig, kSnapFields)
 
 namespace {
 constexpr ResponseFrame kSnap = DescribedObject<SnapConfig>::kFrame;

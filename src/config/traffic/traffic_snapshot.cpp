@@ -109,7 +109,6 @@ constexpr Field kOverlayItemFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(TrafficSnapTimes, kSnapTimesFields)
 KOVA_DESCRIBE(TrafficRadar, kRadarFields)
@@ -118,8 +117,6 @@ KOVA_DESCRIBE(TrafficBlackRegion, kBlackRegionFields)
 KOVA_DESCRIBE(TrafficOverlayPosition, kOverlayPositionFields)
 KOVA_DESCRIBE(TrafficNewLine, kNewLineFields)
 KOVA_DESCRIBE(TrafficOverlayItem, kOverlayItemFields)
-
-namespace kova {
 namespace {
 
 constexpr Field kCoilEntry = KOVA_ITEM_NESTED(TrafficCoil);
@@ -182,13 +179,10 @@ constexpr Field kOverlayItemsFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
 
 KOVA_DESCRIBE(TrafficLane, kLaneFields)
 KOVA_DESCRIBE(TrafficOverlayLayout, kOverlayLayoutFields)
 KOVA_DESCRIBE(TrafficOverlayItems, kOverlayItemsFields)
-
-namespace kova {
 namespace {
 
 constexpr Field kOverlayFields[] = {
@@ -204,9 +198,8 @@ constexpr Field kOverlayFields[] = {
 };
 
 }  // namespace
-}  // namespace kova
-
 KOVA_DESCRIBE(TrafficOverlay, kOverlayFields)
+}  // namespace kova
 
 // ---------------------------------------------------------------------------
 // The record.

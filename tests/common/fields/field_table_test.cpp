@@ -90,8 +90,10 @@ constexpr Field kZoneFields[] = {
 
 }  // namespace
 
+namespace kova {
 KOVA_DESCRIBE(Inner, kInnerFields)
 KOVA_DESCRIBE(Zone, kZoneFields)
+}  // namespace kova
 
 namespace {
 

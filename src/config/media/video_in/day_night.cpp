@@ -23,11 +23,7 @@ constexpr Field kDayNightProfileFields[] = {
     KOVA_F(VideoInDayNightProfile, delay, "Delay", kInt),
 };
 
-}  // namespace kova
-
 KOVA_DESCRIBE(VideoInDayNightProfile, kova::kDayNightProfileFields)
-
-namespace kova {
 
 namespace {
 

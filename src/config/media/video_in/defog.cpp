@@ -18,11 +18,7 @@ constexpr Field kDefogProfileFields[] = {
         .Flag(KOVA_AT(VideoInDefogProfile, lightIntensityModePresent)),
 };
 
-}  // namespace kova
-
 KOVA_DESCRIBE(VideoInDefogProfile, kova::kDefogProfileFields)
-
-namespace kova {
 
 KOVA_FRAME_TRANSLATORS(VideoInDefog, ProfileRecord<VideoInDefogConfig>::kFrame)
 

@@ -38,11 +38,7 @@ constexpr Field kExposureProfileFields[] = {
     KOVA_F(VideoInExposureProfile, value2, "Value2", kReal),
 };
 
-}  // namespace kova
-
 KOVA_DESCRIBE(VideoInExposureProfile, kova::kExposureProfileFields)
-
-namespace kova {
 
 KOVA_FRAME_TRANSLATORS(VideoInExposure, ProfileRecord<VideoInExposureConfig>::kFrame)
 

@@ -25,12 +25,8 @@ constexpr Field kZoomProfileFields[] = {
     KOVA_F(VideoInZoomProfile, zoomLimit, "ZoomLimit", kInt),
 };
 
-}  // namespace kova
-
 KOVA_DESCRIBE(VideoInFocusProfile, kova::kFocusProfileFields)
 KOVA_DESCRIBE(VideoInZoomProfile, kova::kZoomProfileFields)
-
-namespace kova {
 
 KOVA_FRAME_TRANSLATORS(VideoInFocus, ProfileRecord<VideoInFocusConfig>::kFrame)
 

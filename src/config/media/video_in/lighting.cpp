@@ -13,11 +13,7 @@ constexpr Field kLightFields[] = {
     KOVA_F(LightingLight, light, "Light", kInt),
 };
 
-}  // namespace kova
-
 KOVA_DESCRIBE(LightingLight, kova::kLightFields)
-
-namespace kova {
 
 constexpr Field kLight = KOVA_ITEM_NESTED(LightingLight);
 
@@ -35,11 +31,7 @@ constexpr Field kLightingProfileFields[] = {
         .Flag(KOVA_AT(LightingProfile, farLightPresent)),
 };
 
-}  // namespace kova
-
 KOVA_DESCRIBE(LightingProfile, kova::kLightingProfileFields)
-
-namespace kova {
 
 KOVA_FRAME_TRANSLATORS(Lighting, ProfileRecord<LightingConfig>::kFrame)
 

@@ -84,10 +84,9 @@ constexpr Field kFlashControlFields[] = {
 #undef KOVA_OPTION
 #undef KOVA_OPTION_RECT
 
+namespace kova {
 KOVA_DESCRIBE(VideoInOptionSet, kova::kOptionSetFields)
 KOVA_DESCRIBE(VideoInFlashControl, kova::kFlashControlFields)
-
-namespace kova {
 
 namespace {
 
@@ -115,11 +114,7 @@ constexpr Field kOptionsFields[] = {
         .Flag(KOVA_AT(VideoInOptionsConfig, flashControlPresent)),
 };
 
-}  // namespace kova
-
 KOVA_DESCRIBE(VideoInOptionsConfig, kova::kOptionsFields)
-
-namespace kova {
 
 KOVA_FRAME_TRANSLATORS(VideoInOptions, DescribedObject<VideoInOptionsConfig>::kFrame)
 

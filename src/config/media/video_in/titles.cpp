@@ -24,12 +24,8 @@ constexpr Field kWidgetBlockFields[] = {
     KOVA_F(VideoWidgetBlock, text, "Text", kText).Flag(KOVA_AT(VideoWidgetBlock, textPresent)),
 };
 
-}  // namespace kova
-
 KOVA_DESCRIBE(ChannelTitleConfig, kova::kChannelTitleFields)
 KOVA_DESCRIBE(VideoWidgetBlock, kova::kWidgetBlockFields)
-
-namespace kova {
 
 constexpr Field kWidgetBlock = KOVA_ITEM_NESTED(VideoWidgetBlock);
 
@@ -46,11 +42,7 @@ constexpr Field kWidgetFields[] = {
         .Flag(KOVA_AT(VideoWidgetConfig, userDefinedTitlePresent)),
 };
 
-}  // namespace kova
-
 KOVA_DESCRIBE(VideoWidgetConfig, kova::kWidgetFields)
-
-namespace kova {
 
 KOVA_FRAME_TRANSLATORS(ChannelTitle, DescribedObject<ChannelTitleConfig>::kFrame)
 

@@ -44,11 +44,7 @@ constexpr Field kVideoColorProfileFields[] = {
         .Flag(KOVA_AT(VideoColorProfile, timeSectionPresent)),
 };
 
-}  // namespace kova
-
 KOVA_DESCRIBE(VideoColorProfile, kova::kVideoColorProfileFields)
-
-namespace kova {
 
 KOVA_FRAME_TRANSLATORS(VideoColor, ProfileRecord<VideoColorConfig>::kFrame)
 
