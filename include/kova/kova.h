@@ -65,12 +65,14 @@ typedef int(KOVA_CALL* KOVA_AnalyzerEventCallback)(uint32_t eventCode, const voi
 //   ASCII letter case, whole name).
 // - Otherwise returns the translator's result. Each translator states
 //   whether it clears `outBuf` first; none writes past `outLen`.
-// - `retLen` may be null; the entry point itself never writes it. The
-//   configurations served by the table drivers (the last 40 names, among
-//   them "AlarmLamp", "DefenceArmMode", "G3G4AutoChange") add the bytes of
-//   the records they filled to the value it holds: set it to 0 before the
-//   call. Every other translator sets it, when the call succeeds, to the
-//   bytes its record's documentation gives.
+// - `retLen` may be null. It receives the bytes of the records filled, in
+//   one of two ways, which each record's documentation names:
+//   - added to: "AlarmLamp", "DefenceArmMode", "G3G4AutoChange",
+//     "VideoInDayNight" and every other name whose record says "returned
+//     length added to" add the bytes of the records they filled to the value
+//     `retLen` holds: set it to 0 before the call;
+//   - set: every other name sets it, when the call succeeds, to the bytes
+//     its record's documentation gives (the records filled, or one record).
 KOVA_EXPORT int KOVA_CALL KOVA_ParseData(const char* name, const char* jsonText, void* outBuf,
                                          uint32_t outLen, uint32_t* retLen);
 

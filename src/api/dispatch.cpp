@@ -7,21 +7,70 @@
 
 namespace kova {
 
+// Every frame the table names, declared from the table itself.
+#define KOVA_BOTH(name, frame) extern const ResponseFrame frame;
+#define KOVA_PARSE_ONLY(name, frame) extern const ResponseFrame frame;
+#define KOVA_PACK_ONLY(name, frame) extern const ResponseFrame frame;
+#define KOVA_ADDED(name, frame) extern const ResponseFrame frame;
+#define KOVA_DRIVER_SLOT(name, size, depthMinusOne, arrayAllowed, zeroFill, packArray)
+#include "api/name_table.inc"
+#undef KOVA_BOTH
+#undef KOVA_PARSE_ONLY
+#undef KOVA_PACK_ONLY
+#undef KOVA_ADDED
+
+// A name listed but not built yet: a frame without a record.
+extern const ResponseFrame kNotBuilt = ResponseFrame{};
+
+// The parse list: every row but the pack-only ones.
+#define KOVA_BOTH(name, frame) {name, &frame, 0, false},
+#define KOVA_PARSE_ONLY(name, frame) {name, &frame, 0, false},
+#define KOVA_PACK_ONLY(name, frame)
+#define KOVA_ADDED(name, frame) {name, &frame, 0, true},
+#undef KOVA_DRIVER_SLOT
+#define KOVA_DRIVER_SLOT(name, size, depthMinusOne, arrayAllowed, zeroFill, packArray) \
+  {name, nullptr, size, false},
+const NameEntry kParseNames[] = {
+#include "api/name_table.inc"
+};
+const size_t kParseNameCount = sizeof kParseNames / sizeof kParseNames[0];
+#undef KOVA_PARSE_ONLY
+#undef KOVA_PACK_ONLY
+
+// The pack list: every row but the parse-only ones.
+#define KOVA_PARSE_ONLY(name, frame)
+#define KOVA_PACK_ONLY(name, frame) {name, &frame, 0, false},
+const NameEntry kPackNames[] = {
+#include "api/name_table.inc"
+};
+const size_t kPackNameCount = sizeof kPackNames / sizeof kPackNames[0];
+#undef KOVA_BOTH
+#undef KOVA_PARSE_ONLY
+#undef KOVA_PACK_ONLY
+#undef KOVA_ADDED
+#undef KOVA_DRIVER_SLOT
+
 namespace {
 
 char FoldAscii(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
-
-// The driver-served names close both lists.
-int DriverIndex(int i, size_t listCount) {
-  const size_t first = listCount - kDriverNameCount;
-  return (i >= 0 && static_cast<size_t>(i) >= first) ? static_cast<int>(i - first) : -1;
-}
 
 // A name whose translator is not built yet fails: never a silent success
 // with an empty record. One line to the error log says which.
 int NotBuilt(const char* name, const char* direction) {
   KOVA_REPORT(kErrBadParameter, "%s of [%s] is not built yet", direction, name);
   return 0;
+}
+
+const ResponseFrame* FrameOf(const NameEntry* list, size_t count, int i) {
+  if (i < 0 || static_cast<size_t>(i) >= count) return nullptr;
+  const ResponseFrame* f = list[i].frame;
+  return f != nullptr && f->recordSize != 0 ? f : nullptr;
+}
+
+uint32_t RecordSizeOf(const NameEntry* list, size_t count, int i) {
+  if (i < 0 || static_cast<size_t>(i) >= count) return 0;
+  const ResponseFrame* f = FrameOf(list, count, i);
+  return f != nullptr ? f->recordSize : list[i].slotRecordSize;
 }
 
 }  // namespace
@@ -77,38 +126,24 @@ int FindPackName(const char* name) {
   return FindIn(kPackNames, order, name);
 }
 
-const DriverBinding* ParseBinding(int i) {
-  const int d = DriverIndex(i, kParseNameCount);
-  return d < 0 ? nullptr : &kDriverBindings[d];
-}
-
-const DriverBinding* PackBinding(int i) {
-  const int d = DriverIndex(i, kPackNameCount);
-  return d < 0 ? nullptr : &kDriverBindings[d];
-}
-
-uint32_t ParseRecordSize(int i) {
-  if (i < 0 || static_cast<size_t>(i) >= kParseNameCount) return 0;
-  const DriverBinding* b = ParseBinding(i);
-  return b != nullptr ? static_cast<uint32_t>(b->recordSize) : kParseNames[i].recordSize;
-}
-
-uint32_t PackRecordSize(int i) {
-  if (i < 0 || static_cast<size_t>(i) >= kPackNameCount) return 0;
-  const DriverBinding* b = PackBinding(i);
-  return b != nullptr ? static_cast<uint32_t>(b->recordSize) : kPackNames[i].recordSize;
-}
+uint32_t ParseRecordSize(int i) { return RecordSizeOf(kParseNames, kParseNameCount, i); }
+uint32_t PackRecordSize(int i) { return RecordSizeOf(kPackNames, kPackNameCount, i); }
 
 bool ParseBuilt(int i) {
-  if (i < 0 || static_cast<size_t>(i) >= kParseNameCount) return false;
-  const DriverBinding* b = ParseBinding(i);
-  return b != nullptr ? b->parseRecord != nullptr : kParseNames[i].parse != nullptr;
+  const ResponseFrame* f = FrameOf(kParseNames, kParseNameCount, i);
+  return f != nullptr && f->parse != nullptr;
 }
 
 bool PackBuilt(int i) {
-  if (i < 0 || static_cast<size_t>(i) >= kPackNameCount) return false;
-  const DriverBinding* b = PackBinding(i);
-  return b != nullptr ? b->packRecord != nullptr : kPackNames[i].pack != nullptr;
+  const ResponseFrame* f = FrameOf(kPackNames, kPackNameCount, i);
+  return f != nullptr && f->pack != nullptr;
+}
+
+bool PackTakesShortInput(int k, uint32_t inLen) {
+  const ResponseFrame* f = FrameOf(kPackNames, kPackNameCount, k);
+  if (f == nullptr || f->packWalk == PackWalk::kCallerSized) return false;
+  return f->shortInput == ShortInput::kNull ||
+         (f->shortInput == ShortInput::kNullUnlessEmpty && inLen > 0);
 }
 
 int DispatchParse(const char* name, const char* jsonText, void* outBuf, uint32_t outLen,
@@ -116,11 +151,7 @@ int DispatchParse(const char* name, const char* jsonText, void* outBuf, uint32_t
   const int i = FindParseName(name);
   if (i < 0) return 0;
   if (!ParseBuilt(i)) return NotBuilt(kParseNames[i].name, "parse");
-  if (const DriverBinding* b = ParseBinding(i)) {
-    return ParseTableDriver(jsonText, outBuf, outLen, retLen, b->parseRecord, b->recordSize,
-                            b->parseDepthMinusOne, b->parseArray, b->parseZeroFill);
-  }
-  return kParseNames[i].parse(jsonText, outBuf, outLen, retLen);
+  return ParseWithFrame(*kParseNames[i].frame, jsonText, outBuf, outLen, retLen);
 }
 
 int DispatchPack(const char* name, const void* inBuf, uint32_t inLen, char* outJson,
@@ -128,11 +159,7 @@ int DispatchPack(const char* name, const void* inBuf, uint32_t inLen, char* outJ
   const int i = FindPackName(name);
   if (i < 0) return 0;
   if (!PackBuilt(i)) return NotBuilt(kPackNames[i].name, "pack");
-  if (const DriverBinding* b = PackBinding(i)) {
-    return PackTableDriver(inBuf, inLen, outJson, outLen, b->packRecord, b->recordSize, 0,
-                           b->packArray);
-  }
-  return kPackNames[i].pack(inBuf, inLen, outJson, outLen);
+  return PackWithFrame(*kPackNames[i].frame, inBuf, inLen, outJson, outLen);
 }
 
 }  // namespace kova

@@ -7,7 +7,6 @@
 
 #include "common/json/json.h"
 #include "common/json/json_writer.h"
-#include "drivers/table_driver.h"
 
 namespace kova {
 
@@ -32,8 +31,6 @@ const Json::Value& TableOf(const ResponseFrame& f, const Json::Value& root) {
   switch (f.tableAt) {
     case TableAt::kParamsTable:
       return Member(Member(root, "params"), "table");
-    case TableAt::kParams:
-      return Member(root, "params");
     case TableAt::kRoot:
       return root;
   }
@@ -89,6 +86,7 @@ int ParseObjectMembers(const ResponseFrame& f, const Json::Value& root, const Js
 // are arrays themselves, the first element that is not null decides (a
 // channel left empty, [], must not turn the answer into one record).
 bool ListsChannels(const ResponseFrame& f, const Json::Value& table) {
+  if (f.arrayDepth > 0) return ArrayDepth(table, 4) == f.arrayDepth;
   if (!table.isArray()) return false;
   if (!f.arrayRecords) return true;
   const uint32_t n = Count(table);
@@ -100,6 +98,23 @@ bool ListsChannels(const ResponseFrame& f, const Json::Value& table) {
 }
 
 }  // namespace
+
+bool ResultIsTrue(const Json::Value& root) { return ToBool(Member(root, "result")); }
+
+int64_t ArrayDepth(const Json::Value& v, int32_t shift) {
+  if (shift < 0 || v.isNull()) return -1;
+  if (!v.isArray()) return 0;
+  const uint64_t n = v.size();
+  const uint64_t step = (n >> shift) + 1;
+  int64_t d = ArrayDepth(Element(v, 0), shift);
+  if (step >= n) return d + 1;
+  for (uint64_t i = step; i < n; i += step) {
+    const int64_t e = ArrayDepth(Element(v, i), shift);
+    if (e == 0) return 1;  // a sampled element that is neither array nor null
+    d = std::min(d, e);
+  }
+  return d + 1;
+}
 
 uint32_t CallerRecordSize(const void* buf, uint32_t len) {
   uint32_t size = 0;
@@ -233,7 +248,9 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
       stride = CallerRecordSize(inBuf, inLen);
       if (stride == 0) return 0;
     } else if (inLen < f.recordSize) {
-      return f.shortInputAsNull ? CopyPacked(Json::Value(), outJson, outLen, f.copy) : 0;
+      const bool asNull = f.shortInput == ShortInput::kNull ||
+                          (f.shortInput == ShortInput::kNullUnlessEmpty && inLen > 0);
+      return asNull ? CopyPacked(Json::Value(), outJson, outLen, f.copy) : 0;
     }
     const uint32_t n = f.packWalk == PackWalk::kOne ? 1 : inLen / stride;
     if (static_cast<uint64_t>(n) * f.minTextPerRecord > outLen) return 0;

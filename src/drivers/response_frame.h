@@ -1,20 +1,19 @@
-// The response frame: everything around a per-record step for the
-// translators that are not table drivers, described per configuration.
+// The response frame: everything around a per-record step, described per
+// configuration. Every translator is one frame; the table drivers are
+// frames with the drivers' settings (ResponseFrame::Driver).
 //
 //   parse: argument checks -> clearing -> JSON text -> envelope ("result",
 //          where the table sits) -> record walk (one record, per channel,
 //          caller-sized) -> returned length
 //   pack:  argument checks -> record walk -> single-line text -> copy rule
 //
-// A configuration states its frame once:
+// A configuration states its frame once, in its own file, and its row in
+// src/api/name_table.inc names that frame:
 //
-//   constexpr ResponseFrame kFrame =
-//       ResponseFrame::For<NtpRecord>(ParseTableStep<kNtp>, PackTableStep<kNtp>)
+//   extern const ResponseFrame kNtpFrame =
+//       ResponseFrame::For<NtpConfig>(ParseTableStep<kNtp>, PackTableStep<kNtp>)
 //           .Walk(RecordWalk::kPerChannel)
 //           .IgnoreResult();
-//   int ParseNtpConfig(const char* t, void* o, uint32_t n, uint32_t* r) {
-//     return ParseWithFrame(kFrame, t, o, n, r);
-//   }
 //
 // Steps work on the record in place: the caller's buffer is aligned for its
 // records (the public contract) and, unless the frame says otherwise, was
@@ -56,7 +55,7 @@ enum class ResultRule : uint8_t {
   kFalseFails,  // only a "result" that is present, not null and false fails
 };
 // Where the records' JSON sits.
-enum class TableAt : uint8_t { kParamsTable, kParams, kRoot };
+enum class TableAt : uint8_t { kParamsTable, kRoot };
 // What a missing or null table does.
 enum class NullTable : uint8_t {
   kSucceedEmpty,   // success, no record filled (returned length 0)
@@ -102,6 +101,22 @@ enum class PackWalk : uint8_t {
   kObjectMembers,
 };
 
+// What pack does with an input shorter than one record.
+enum class ShortInput : uint8_t {
+  kRefuse,          // fails: nothing is read
+  kNull,            // packs as null (the text "null" and a newline), an empty input too
+  kNullUnlessEmpty  // packs as null, but an empty input fails
+};
+
+// The settings of the table drivers, as the dispatch of a driver-served
+// configuration gives them.
+struct DriverSettings {
+  int32_t depthMinusOne;  // array mode: the depth "table" must have, less one
+  bool arrayAllowed;      // parse: "table" may be an array of records
+  bool zeroFill;          // parse: the whole buffer is cleared first
+  bool packArray;         // pack: inLen / size records, else exactly one
+};
+
 struct ResponseFrame {
   uint32_t recordSize = 0;
   uint32_t recordAlign = 1;  // a caller's slot not aligned for the record is worked in a copy
@@ -118,6 +133,9 @@ struct ResponseFrame {
   // table lists channels only when its first non-null element is an array;
   // otherwise the table is one record.
   bool arrayRecords = false;
+  // Per-channel: the table lists records only when its ArrayDepth (sampled
+  // with shift 4) equals this; 0: whenever it is an array.
+  int32_t arrayDepth = 0;
   ReturnedLength returned = ReturnedLength::kSetBytes;
   CopyRule copy = CopyRule::kStrictlyLess;
   PackWalk packWalk = PackWalk::kOne;
@@ -127,9 +145,7 @@ struct ResponseFrame {
   // type; negative: the table must be an array (anything else fails) and
   // element i fills record i.
   bool channelAtRoot = false;
-  // Pack: an input shorter than one record packs as null (the text "null"
-  // and a newline) instead of being refused.
-  bool shortInputAsNull = false;
+  ShortInput shortInput = ShortInput::kRefuse;
   // Several-record pack: a bare value only when the input is exactly one
   // record; one record and a partial one are an array of one.
   bool arrayUnlessExactlyOne = false;
@@ -148,101 +164,107 @@ struct ResponseFrame {
     f.pack = k;
     return f;
   }
-  constexpr ResponseFrame Result(ResultRule r) const {
-    auto f = *this;
-    f.result = r;
+  // The one way an attribute is set: a copy with `member` set to `v`.
+  template <typename M, typename V>
+  constexpr ResponseFrame With(M ResponseFrame::*member, V v) const {
+    ResponseFrame f = *this;
+    f.*member = v;
     return f;
   }
-  constexpr ResponseFrame IgnoreResult() const {
-    auto f = *this;
-    f.result = ResultRule::kIgnored;
-    return f;
-  }
-  constexpr ResponseFrame Table(TableAt t) const {
-    auto f = *this;
-    f.tableAt = t;
-    return f;
-  }
+  constexpr ResponseFrame Result(ResultRule r) const { return With(&ResponseFrame::result, r); }
+  constexpr ResponseFrame IgnoreResult() const { return Result(ResultRule::kIgnored); }
+  constexpr ResponseFrame Table(TableAt t) const { return With(&ResponseFrame::tableAt, t); }
   constexpr ResponseFrame OnNullTable(NullTable n) const {
-    auto f = *this;
-    f.nullTable = n;
-    return f;
+    return With(&ResponseFrame::nullTable, n);
   }
-  constexpr ResponseFrame Clear(Clearing c) const {
-    auto f = *this;
-    f.clearing = c;
-    return f;
-  }
+  constexpr ResponseFrame Clear(Clearing c) const { return With(&ResponseFrame::clearing, c); }
+  // The parse walk, and the pack walk that mirrors it.
   constexpr ResponseFrame Walk(RecordWalk w) const {
-    auto f = *this;
-    f.walk = w;
-    f.packWalk = w == RecordWalk::kOne           ? PackWalk::kOne
-                 : w == RecordWalk::kPerChannel  ? PackWalk::kPerChannel
-                 : w == RecordWalk::kCallerSized ? PackWalk::kCallerSized
-                                                 : PackWalk::kObjectMembers;
-    return f;
+    return With(&ResponseFrame::walk, w)
+        .With(&ResponseFrame::packWalk, w == RecordWalk::kOne           ? PackWalk::kOne
+                                        : w == RecordWalk::kPerChannel  ? PackWalk::kPerChannel
+                                        : w == RecordWalk::kCallerSized ? PackWalk::kCallerSized
+                                                                        : PackWalk::kObjectMembers);
   }
-  constexpr ResponseFrame SkipNullElements() const {
-    auto f = *this;
-    f.skipNullElements = true;
-    return f;
-  }
-  constexpr ResponseFrame ArrayRecords() const {
-    auto f = *this;
-    f.arrayRecords = true;
-    return f;
-  }
+  constexpr ResponseFrame ArrayRecords() const { return With(&ResponseFrame::arrayRecords, true); }
   constexpr ResponseFrame Returned(ReturnedLength r) const {
-    auto f = *this;
-    f.returned = r;
-    return f;
+    return With(&ResponseFrame::returned, r);
   }
-  constexpr ResponseFrame Copy(CopyRule c) const {
-    auto f = *this;
-    f.copy = c;
-    return f;
-  }
-  constexpr ResponseFrame Pack(PackWalk w) const {
-    auto f = *this;
-    f.packWalk = w;
-    return f;
-  }
+  constexpr ResponseFrame Copy(CopyRule c) const { return With(&ResponseFrame::copy, c); }
   constexpr ResponseFrame PackArrayAlways() const {
-    auto f = *this;
-    f.packArrayAlways = true;
-    return f;
+    return With(&ResponseFrame::packArrayAlways, true);
   }
   constexpr ResponseFrame ChannelAtRoot() const {
-    auto f = *this;
-    f.channelAtRoot = true;
-    return f;
+    return With(&ResponseFrame::channelAtRoot, true);
   }
-  constexpr ResponseFrame ShortInputAsNull() const {
-    auto f = *this;
-    f.shortInputAsNull = true;
-    return f;
-  }
+  constexpr ResponseFrame Short(ShortInput s) const { return With(&ResponseFrame::shortInput, s); }
   constexpr ResponseFrame ArrayUnlessExactlyOne() const {
-    auto f = *this;
-    f.arrayUnlessExactlyOne = true;
-    return f;
+    return With(&ResponseFrame::arrayUnlessExactlyOne, true);
   }
   constexpr ResponseFrame MinTextPerRecord(uint32_t n) const {
-    auto f = *this;
-    f.minTextPerRecord = n;
-    return f;
+    return With(&ResponseFrame::minTextPerRecord, n);
   }
   constexpr ResponseFrame RefuseEmptyText() const {
-    auto f = *this;
-    f.refuseEmptyText = true;
-    return f;
+    return With(&ResponseFrame::refuseEmptyText, true);
   }
   constexpr ResponseFrame NonArray(NonArrayTable n) const {
-    auto f = *this;
-    f.nonArray = n;
-    return f;
+    return With(&ResponseFrame::nonArray, n);
+  }
+  // The table drivers' envelope and walk: "result" must be true; with array
+  // mode a table of the expected depth fills one record per element (a null
+  // element keeps its slot and is not counted), anything else is one
+  // record; the returned length is added to; pack writes one record bare,
+  // several as an array, and copies strictly less than the output size.
+  constexpr ResponseFrame Driver(DriverSettings d) const {
+    const ResponseFrame f =
+        Clear(d.zeroFill ? Clearing::kWholeBuffer : Clearing::kNone)
+            .Returned(ReturnedLength::kAddBytes)
+            .With(&ResponseFrame::skipNullElements, true)
+            .Short(d.packArray ? ShortInput::kNull : ShortInput::kRefuse)
+            .With(&ResponseFrame::packWalk, d.packArray ? PackWalk::kPerChannel : PackWalk::kOne);
+    return d.arrayAllowed ? f.With(&ResponseFrame::walk, RecordWalk::kPerChannel)
+                                .With(&ResponseFrame::arrayDepth, d.depthMinusOne + 1)
+                          : f;
   }
 };
+
+// Presets of the settings several configurations share.
+//
+// One object answered for the whole device: "result" true, the buffer
+// cleared, an empty text refused, a missing table read as one cleared record
+// and the returned length one record.
+template <typename Rec>
+constexpr ResponseFrame DeviceObjectFrame(ParseStep parse, PackStep pack) {
+  return ResponseFrame::For<Rec>(parse, pack)
+      .RefuseEmptyText()
+      .OnNullTable(NullTable::kAllZeroRecord)
+      .Returned(ReturnedLength::kSetRecord);
+}
+// A record the caller keeps between calls (it carries the caller's own size
+// or buffers): never cleared by the frame, a missing table read by the step
+// like any other, the returned length one record.
+template <typename Rec>
+constexpr ResponseFrame KeptRecordFrame(ParseStep parse, PackStep pack) {
+  return ResponseFrame::For<Rec>(parse, pack)
+      .Clear(Clearing::kNone)
+      .OnNullTable(NullTable::kStep)
+      .Returned(ReturnedLength::kSetRecord);
+}
+// A table-driver configuration: its record, its per-record steps (which
+// never fail) and its driver settings.
+template <typename Rec>
+constexpr ResponseFrame DriverFrame(ParseStep parse, PackStep pack, DriverSettings d) {
+  return ResponseFrame::For<Rec>(parse, pack).Driver(d);
+}
+
+// How many array levels nest at the top of `v`, sampling long arrays: every
+// element of arrays up to 15 elements, otherwise element 0 and every
+// ((n >> shift) + 1)-th element. Null gives -1, any non-array 0; a negative
+// shift gives -1.
+int64_t ArrayDepth(const Json::Value& v, int32_t shift);
+
+// The envelope's truth rule for "result" (the same as ToBool).
+bool ResultIsTrue(const Json::Value& root);
 
 // 1 on success, 0 on failure. Never writes past `outLen`; on failure the
 // buffer is left as the clearing rule made it (a step's partial record is
@@ -280,15 +302,5 @@ void StartSizedRecord(unsigned char* record, uint32_t size);
 int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule);
 
 }  // namespace kova
-
-// Defines the entry points Parse<Name> and Pack<Name> of a configuration
-// served by `frame` alone (inside namespace kova).
-#define KOVA_FRAME_TRANSLATORS(Name, frame)                                                \
-  int Parse##Name(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen) { \
-    return ParseWithFrame(frame, jsonText, outBuf, outLen, retLen);                        \
-  }                                                                                        \
-  int Pack##Name(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen) {      \
-    return PackWithFrame(frame, inBuf, inLen, outJson, outLen);                            \
-  }
 
 #endif  // KOVA_DRIVERS_RESPONSE_FRAME_H_

@@ -1,40 +1,24 @@
-// The generic table drivers: everything around a per-record routine.
-//
-// ParseTableDriver reads the device's response envelope
-// {"result": ..., "params": {"table": ...}}, decides between one record and
-// an array of records, and walks the caller's buffer with the record's
-// stride. PackTableDriver writes one record or all records of `inBuf` as
-// single-line JSON text.
+// The table drivers: the response frame with the drivers' settings, under
+// the names and with the arguments the device protocol's dispatch gives
+// them. ParseTableDriver reads the envelope {"result": ..., "params":
+// {"table": ...}}, decides between one record and an array of records, and
+// walks the caller's buffer with the record's stride; PackTableDriver
+// writes one record or all records of `inBuf` as single-line JSON text.
+// Configurations served this way name a DriverFrame in the name table; these
+// entry points build the same frame from their arguments.
 #ifndef KOVA_DRIVERS_TABLE_DRIVER_H_
 #define KOVA_DRIVERS_TABLE_DRIVER_H_
 
-#include <json/value.h>
-
 #include <cstdint>
 
-#include "common/fields/field_table.h"
+#include "drivers/response_frame.h"
 
 namespace kova {
 
-// Fills one record from one JSON element; the result is ignored.
-using RecordParser = int (*)(const Json::Value& element, void* record);
-// Writes one record into one JSON value; the result is ignored.
-using RecordPacker = int (*)(const void* record, Json::Value& target);
-
-// Per-record routines of a record that is one field table.
-template <const FieldTable& kTable>
-int ParseTableRecord(const Json::Value& element, void* record) {
-  ParseFields(element, record, kTable);
-  return 1;
-}
-template <const FieldTable& kTable>
-int PackTableRecord(const void* record, Json::Value& target) {
-  PackFields(record, target, kTable);
-  return 1;
-}
-
-// Returns 1 on success, 0 on failure.
-// - `outLen` below `recordSize`: 0, nothing written.
+// Returns 1 on success, 0 on failure. The step fills one record in place
+// (its result should be true; a false one fails the call).
+// - `outLen` below `recordSize` (or a record size of 0 or above 4 GiB): 0,
+//   nothing written.
 // - With `zeroFill`, all `outLen` bytes are cleared before the text is read,
 //   so they stay cleared when the text does not parse or "result" is false.
 // - A missing "params" or "table" succeeds with no record written.
@@ -44,7 +28,7 @@ int PackTableRecord(const void* record, Json::Value& target) {
 //   ignored. `retLen`, when not null, is increased by `recordSize` for each
 //   record filled (it is never reset).
 int ParseTableDriver(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* retLen,
-                     RecordParser parser, uint64_t recordSize, int32_t depthMinusOne,
+                     ParseStep parser, uint64_t recordSize, int32_t depthMinusOne,
                      uint8_t arrayAllowed, uint8_t zeroFill);
 
 // Returns 1 on success, 0 on failure. `outJson` is cleared first and stays
@@ -54,17 +38,7 @@ int ParseTableDriver(const char* jsonText, void* outBuf, uint32_t outLen, uint32
 // copied with its NUL only when `outLen` is greater than its length.
 // `ignored` is never read.
 int PackTableDriver(const void* inBuf, uint32_t inLen, char* outJson, uint32_t outLen,
-                    RecordPacker packer, uint64_t recordSize, int32_t ignored,
-                    uint8_t arrayAllowed);
-
-// How many array levels nest at the top of `v`, sampling long arrays: every
-// element of arrays up to 15 elements, otherwise element 0 and every
-// ((n >> shift) + 1)-th element. Null gives -1, any non-array 0; a negative
-// shift gives -1.
-int64_t ArrayDepth(const Json::Value& v, int32_t shift);
-
-// The envelope's truth rule for "result" (the same as ToBool).
-bool ResultIsTrue(const Json::Value& root);
+                    PackStep packer, uint64_t recordSize, int32_t ignored, uint8_t arrayAllowed);
 
 }  // namespace kova
 

@@ -17,20 +17,20 @@ struct Pair {
   int32_t b;
 };
 
-int ParsePair(const Json::Value& v, void* rec) {
+bool ParsePair(const Json::Value& v, const kova::StepContext&, unsigned char* rec) {
   Pair p{kova::ToInt32(kova::Member(v, "A")), kova::ToInt32(kova::Member(v, "B"))};
   // An inner array (depth-2 configurations) counts its elements into A.
   if (v.isArray()) p.a = static_cast<int32_t>(v.size()), p.b = -1;
   std::memcpy(rec, &p, sizeof p);
-  return 1;
+  return true;
 }
 
-int PackPair(const void* rec, Json::Value& out) {
+bool PackPair(const unsigned char* rec, Json::Value& out) {
   Pair p;
   std::memcpy(&p, rec, sizeof p);
   kova::SetMember(out, "A") = p.a;
   kova::SetMember(out, "B") = p.b;
-  return 1;
+  return true;
 }
 
 std::string Envelope(const std::string& result, const std::string& table) {

@@ -44,11 +44,7 @@ bool Listed(const char* const (&names)[N], const char* name) {
 
 }  // namespace
 
-bool PackAcceptsShortInput(int k, uint32_t inLen) {
-  const kova::DriverBinding* b = kova::PackBinding(k);
-  if (b != nullptr) return b->packArray != 0;
-  return kPackNames[k].shortInputPacksNull;
-}
+bool PackAcceptsShortInput(int k, uint32_t inLen) { return kova::PackTakesShortInput(k, inLen); }
 
 bool CallerSized(const char* name) { return Listed(kCallerSizedNames, name); }
 

@@ -12,8 +12,8 @@
 extern "C" {
 #endif
 
-// "AlarmLamp" and "DefenceArmMode" are served by the table drivers: parse
-// clears the whole buffer first and adds 4 to `retLen` for the record.
+// "AlarmLamp" and "DefenceArmMode": parse clears the whole buffer first and
+// adds 4 to `retLen` for the record (returned length added to).
 
 // "AlarmLamp": the alarm lamp's working mode.
 // "Mode" 0, 1 or 2 is stored as is; any other value, and a document without

@@ -15,9 +15,9 @@
 extern "C" {
 #endif
 
-// "G3G4AutoChange": automatic switching between 3G and 4G mobile networks,
-// served by the table drivers (parse clears the whole buffer first and adds
-// 4 to `retLen`).
+// "G3G4AutoChange": automatic switching between 3G and 4G mobile networks
+// (parse clears the whole buffer first and adds 4 to `retLen`: returned
+// length added to).
 // "Enable" as 0 or 1 (absent reads as 0); packed as a JSON boolean, true for
 // any non-zero value.
 typedef struct G3G4AutoChangeRecord {

@@ -191,9 +191,10 @@ typedef struct LightingConfig {
 } LightingConfig;
 
 // ---------------------------------------------------------------------------
-// "VideoInDayNight": day/night switching, a record of fixed size (48 bytes)
-// served by the table drivers: array depth 2 on parse, the buffer cleared
-// first, the returned length increased (never reset) by 48 per record;
+// "VideoInDayNight": day/night switching, a record of fixed size (48 bytes):
+// a table of channels is an array of arrays of profiles, the buffer is
+// cleared first, and the returned length is added to (never reset), 48 per
+// record;
 // pack writes inLen / 48 records. Every record holds exactly three
 // profiles, and pack writes all three.
 typedef struct VideoInDayNightProfile {

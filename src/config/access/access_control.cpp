@@ -6,8 +6,8 @@
 
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/access/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
 #include "kova/records/access.h"
 
 namespace {
@@ -139,10 +139,6 @@ constexpr Field kDoorFields[] = {
 namespace kova {
 KOVA_DESCRIBE(AccessControlConfig, kDoorFields)
 
-namespace {
-constexpr ResponseFrame kDoors = DescribedObject<AccessControlConfig>::kFrame;
-}  // namespace
-
-KOVA_FRAME_TRANSLATORS(AccessControl, kDoors)
+extern const ResponseFrame kAccessControlFrame = DescribedObject<AccessControlConfig>::kFrame;
 
 }  // namespace kova

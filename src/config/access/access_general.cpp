@@ -4,7 +4,6 @@
 #include <cstdint>
 
 #include "common/fields/field_table.h"
-#include "config/access/translators.h"
 #include "drivers/response_frame.h"
 #include "kova/records/access.h"
 
@@ -62,11 +61,10 @@ constexpr FieldTable kTable = KOVA_TABLE(kFields);
 
 // "result" must be true; a null table succeeds untouched with a length of
 // 0; the packed text is copied only when its NUL fits too.
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<R>(ParseTableStep<kTable>, PackTableStep<kTable>).Clear(Clearing::kNone);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(AccessControlGeneral, kFrame)
+extern const ResponseFrame kAccessControlGeneralFrame =
+    ResponseFrame::For<R>(ParseTableStep<kTable>, PackTableStep<kTable>).Clear(Clearing::kNone);
 
 }  // namespace kova

@@ -4,7 +4,8 @@
 #include "common/fields/field_table.h"
 #include "config/alarm/alarm_enums.h"
 #include "config/alarm/alarm_sources.h"
-#include "config/alarm/translators.h"
+#include "drivers/response_frame.h"
+#include "kova/records/alarm.h"
 
 namespace kova {
 
@@ -42,10 +43,8 @@ bool ParseInput(const Json::Value& table, const StepContext& ctx, unsigned char*
   return ParseTableStep<kTable>(table, ctx, record);
 }
 
-constexpr ResponseFrame kFrame = AlarmSourceFrame<R>(ParseInput, PackTableStep<kTable>);
-
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(Alarm, kFrame)
+extern const ResponseFrame kAlarmFrame = AlarmSourceFrame<R>(ParseInput, PackTableStep<kTable>);
 
 }  // namespace kova

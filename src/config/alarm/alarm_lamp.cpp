@@ -1,11 +1,10 @@
-// "AlarmLamp" and "DefenceArmMode": one-field records served by the table
-// drivers.
+// "AlarmLamp" and "DefenceArmMode": one-field records with the table
+// drivers' settings.
 #include <cstring>
 
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/alarm/translators.h"
-#include "drivers/table_driver.h"
+#include "drivers/response_frame.h"
 #include "kova/records/alarm.h"
 
 namespace kova {
@@ -21,34 +20,33 @@ constexpr FieldTable kDefenceArmMode = KOVA_TABLE(kDefenceArmModeFields);
 constexpr int32_t kNoMode = -1;
 constexpr uint32_t kLastMode = 2;
 
-}  // namespace
-
 // Hand-written on purpose: a "Mode" member that holds null still counts as
 // given (and reads as 0), and a mode outside 0..2 reads and packs as none.
-int ParseAlarmLampRecord(const Json::Value& element, void* record) {
+bool ParseAlarmLamp(const Json::Value& element, const StepContext& /*ctx*/, unsigned char* record) {
   int32_t mode = kNoMode;
   if (HasMember(element, "Mode")) {
     const uint32_t m = ToUInt32(Member(element, "Mode"));
     if (m <= kLastMode) mode = static_cast<int32_t>(m);
   }
   std::memcpy(record, &mode, sizeof mode);
-  return 1;
+  return true;
 }
 
-int PackAlarmLampRecord(const void* record, Json::Value& target) {
+// A lamp without a mode packs as null: intended, nothing is refused.
+bool PackAlarmLamp(const unsigned char* record, Json::Value& target) {
   AlarmLampRecord r;
   std::memcpy(&r, record, sizeof r);
-  if (r.mode < 0 || r.mode > static_cast<int32_t>(kLastMode)) return 0;  // the text is "null"
-  SetMember(target, "Mode") = r.mode;
-  return 1;
+  if (r.mode >= 0 && r.mode <= static_cast<int32_t>(kLastMode)) SetMember(target, "Mode") = r.mode;
+  return true;
 }
 
-int ParseDefenceArmModeRecord(const Json::Value& element, void* record) {
-  return ParseTableRecord<kDefenceArmMode>(element, record);
-}
+constexpr DriverSettings kOneRecord{0, false, true, false};
 
-int PackDefenceArmModeRecord(const void* record, Json::Value& target) {
-  return PackTableRecord<kDefenceArmMode>(record, target);
-}
+}  // namespace
+
+extern const ResponseFrame kAlarmLampFrame =
+    DriverFrame<AlarmLampRecord>(ParseAlarmLamp, PackAlarmLamp, kOneRecord);
+extern const ResponseFrame kDefenceArmModeFrame = DriverFrame<DefenceArmModeRecord>(
+    ParseTableStep<kDefenceArmMode>, PackTableStep<kDefenceArmMode>, kOneRecord);
 
 }  // namespace kova

@@ -11,7 +11,8 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/alarm/alarm_sources.h"
-#include "config/alarm/translators.h"
+#include "drivers/response_frame.h"
+#include "kova/records/alarm.h"
 
 namespace kova {
 
@@ -164,12 +165,12 @@ bool ParseMotion(const Json::Value& table, const StepContext& ctx, unsigned char
 
 // Unlike the other alarm sources, "result" must be true, and a null table
 // gives an all-zero record.
-constexpr ResponseFrame kFrame = AlarmSourceFrame<R>(ParseMotion, PackTableStep<kTable>)
-                                     .Result(ResultRule::kMustBeTrue)
-                                     .OnNullTable(NullTable::kAllZeroRecord);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(MotionDetect, kFrame)
+extern const ResponseFrame kMotionDetectFrame =
+    AlarmSourceFrame<R>(ParseMotion, PackTableStep<kTable>)
+        .Result(ResultRule::kMustBeTrue)
+        .OnNullTable(NullTable::kAllZeroRecord);
 
 }  // namespace kova

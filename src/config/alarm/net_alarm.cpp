@@ -3,7 +3,8 @@
 #include "common/fields/field_table.h"
 #include "config/alarm/alarm_enums.h"
 #include "config/alarm/alarm_sources.h"
-#include "config/alarm/translators.h"
+#include "drivers/response_frame.h"
+#include "kova/records/alarm.h"
 
 namespace kova {
 
@@ -20,10 +21,10 @@ constexpr Field kFields[] = {
 constexpr FieldTable kTable = KOVA_TABLE(kFields);
 
 // Unlike the other alarm sources, a network input without a table fails.
-constexpr ResponseFrame kFrame = AlarmSourceFrame<R, kTable>().OnNullTable(NullTable::kFail);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(NetAlarm, kFrame)
+extern const ResponseFrame kNetAlarmFrame =
+    AlarmSourceFrame<R, kTable>().OnNullTable(NullTable::kFail);
 
 }  // namespace kova

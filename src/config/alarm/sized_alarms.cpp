@@ -4,8 +4,8 @@
 
 #include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
-#include "config/alarm/translators.h"
 #include "drivers/response_frame.h"
+#include "kova/records/alarm.h"
 
 namespace kova {
 
@@ -44,7 +44,6 @@ constexpr Field kTemperatureFields[] = {
     KOVA_EVENT_HANDLER_WITH_WEEK(T),
 };
 constexpr FieldTable kTemperatureTable = KOVA_TABLE(kTemperatureFields);
-constexpr ResponseFrame kTemperatureFrame = SizedListFrame<T, kTemperatureTable>();
 
 using F = FanSpeedAlarmRecord;
 static_assert(offsetof(F, upperLimit) == offsetof(F, lowerLimit) + sizeof(int32_t),
@@ -58,12 +57,11 @@ constexpr Field kFanFields[] = {
     KOVA_EVENT_HANDLER_WITH_WEEK(F),
 };
 constexpr FieldTable kFanTable = KOVA_TABLE(kFanFields);
-constexpr ResponseFrame kFanFrame = SizedListFrame<F, kFanTable>();
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(TemperatureAlarm, kTemperatureFrame)
+extern const ResponseFrame kTemperatureAlarmFrame = SizedListFrame<T, kTemperatureTable>();
 
-KOVA_FRAME_TRANSLATORS(FanSpeedAlarm, kFanFrame)
+extern const ResponseFrame kFanSpeedAlarmFrame = SizedListFrame<F, kFanTable>();
 
 }  // namespace kova

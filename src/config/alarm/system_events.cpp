@@ -5,7 +5,8 @@
 #include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
 #include "config/alarm/alarm_sources.h"
-#include "config/alarm/translators.h"
+#include "drivers/response_frame.h"
+#include "kova/records/alarm.h"
 
 namespace kova {
 
@@ -16,7 +17,6 @@ constexpr Field kEventFields[] = {
     KOVA_EVENT_HANDLER(SystemEventRecord, eventHandler),
 };
 constexpr FieldTable kEventTable = KOVA_TABLE(kEventFields);
-constexpr ResponseFrame kEventFrame = AlarmSourceFrame<SystemEventRecord, kEventTable>();
 
 constexpr Field kLowSpaceFields[] = {
     KOVA_F(StorageLowSpaceRecord, enable, "Enable", kBool),
@@ -24,12 +24,12 @@ constexpr Field kLowSpaceFields[] = {
     KOVA_EVENT_HANDLER(StorageLowSpaceRecord, eventHandler),
 };
 constexpr FieldTable kLowSpaceTable = KOVA_TABLE(kLowSpaceFields);
-constexpr ResponseFrame kLowSpaceFrame = AlarmSourceFrame<StorageLowSpaceRecord, kLowSpaceTable>();
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(SystemEvent, kEventFrame)
+extern const ResponseFrame kSystemEventFrame = AlarmSourceFrame<SystemEventRecord, kEventTable>();
 
-KOVA_FRAME_TRANSLATORS(StorageLowSpace, kLowSpaceFrame)
+extern const ResponseFrame kStorageLowSpaceFrame =
+    AlarmSourceFrame<StorageLowSpaceRecord, kLowSpaceTable>();
 
 }  // namespace kova

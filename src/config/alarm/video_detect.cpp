@@ -3,7 +3,8 @@
 #include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
 #include "config/alarm/alarm_sources.h"
-#include "config/alarm/translators.h"
+#include "drivers/response_frame.h"
+#include "kova/records/alarm.h"
 
 namespace kova {
 
@@ -14,7 +15,6 @@ constexpr Field kLossFields[] = {
     KOVA_EVENT_HANDLER_WITH_WEEK(LossDetectRecord),
 };
 constexpr FieldTable kLossTable = KOVA_TABLE(kLossFields);
-constexpr ResponseFrame kLossFrame = AlarmSourceFrame<LossDetectRecord, kLossTable>();
 
 constexpr Field kBlindFields[] = {
     KOVA_F(BlindDetectRecord, enable, "Enable", kBool),
@@ -22,12 +22,11 @@ constexpr Field kBlindFields[] = {
     KOVA_EVENT_HANDLER_WITH_WEEK(BlindDetectRecord),
 };
 constexpr FieldTable kBlindTable = KOVA_TABLE(kBlindFields);
-constexpr ResponseFrame kBlindFrame = AlarmSourceFrame<BlindDetectRecord, kBlindTable>();
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(LossDetect, kLossFrame)
+extern const ResponseFrame kLossDetectFrame = AlarmSourceFrame<LossDetectRecord, kLossTable>();
 
-KOVA_FRAME_TRANSLATORS(BlindDetect, kBlindFrame)
+extern const ResponseFrame kBlindDetectFrame = AlarmSourceFrame<BlindDetectRecord, kBlindTable>();
 
 }  // namespace kova

@@ -11,8 +11,9 @@
 #include "common/fields/field_table.h"
 #include "common/fields/json_text.h"
 #include "common/json/json.h"
-#include "config/analyse/analyse_frame.h"
-#include "config/analyse/translators.h"
+#include "drivers/response_frame.h"
+#include "kova/records/analyse.h"
+#include "kova/records/analyse_setup.h"
 
 namespace kova {
 
@@ -210,11 +211,10 @@ bool PackGlobal(const unsigned char* record, Json::Value& out) {
 }
 
 // Only a "result" given and false fails.
-constexpr ResponseFrame kGlobalFrame =
-    AnalyseFrame<G>(ParseGlobal, PackGlobal).Result(ResultRule::kFalseFails);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(VideoAnalyseGlobal, kGlobalFrame)
+extern const ResponseFrame kVideoAnalyseGlobalFrame =
+    KeptRecordFrame<G>(ParseGlobal, PackGlobal).Result(ResultRule::kFalseFails);
 
 }  // namespace kova

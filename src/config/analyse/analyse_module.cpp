@@ -6,8 +6,9 @@
 #include "common/fields/field_table.h"
 #include "common/fields/json_text.h"
 #include "common/json/json.h"
-#include "config/analyse/analyse_frame.h"
-#include "config/analyse/translators.h"
+#include "drivers/response_frame.h"
+#include "kova/records/analyse.h"
+#include "kova/records/analyse_setup.h"
 
 namespace kova {
 
@@ -96,12 +97,11 @@ bool PackModules(const unsigned char* record, Json::Value& out) {
 }
 
 // Only a "result" given and false fails.
-constexpr ResponseFrame kModuleFrame =
-    AnalyseFrame<VideoAnalyseModuleConfig>(ParseModules, PackModules)
-        .Result(ResultRule::kFalseFails);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(VideoAnalyseModule, kModuleFrame)
+extern const ResponseFrame kVideoAnalyseModuleFrame =
+    KeptRecordFrame<VideoAnalyseModuleConfig>(ParseModules, PackModules)
+        .Result(ResultRule::kFalseFails);
 
 }  // namespace kova

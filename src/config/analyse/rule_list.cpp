@@ -19,10 +19,11 @@
 
 #include "common/base/log.h"
 #include "common/json/json.h"
-#include "config/analyse/analyse_frame.h"
 #include "config/analyse/rule_config.h"
 #include "config/analyse/rule_types.h"
-#include "config/analyse/translators.h"
+#include "drivers/response_frame.h"
+#include "kova/records/analyse.h"
+#include "kova/records/analyse_setup.h"
 
 namespace kova {
 
@@ -171,11 +172,10 @@ bool PackRuleList(const unsigned char* record, Json::Value& out) {
 }
 
 // "result" is not looked at.
-constexpr ResponseFrame kRuleListFrame =
-    AnalyseFrame<List>(ParseRuleList, PackRuleList).IgnoreResult();
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(VideoAnalyseRule, kRuleListFrame)
+extern const ResponseFrame kVideoAnalyseRuleFrame =
+    KeptRecordFrame<List>(ParseRuleList, PackRuleList).IgnoreResult();
 
 }  // namespace kova

@@ -4,8 +4,8 @@
 #include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/audio/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
 #include "kova/records/audio.h"
 
 namespace {
@@ -67,10 +67,6 @@ constexpr Field kAudioDetectFields[] = {
 namespace kova {
 KOVA_DESCRIBE(AudioDetectConfig, kAudioDetectFields)
 
-namespace {
-constexpr ResponseFrame kAudioDetect = DescribedObject<AudioDetectConfig>::kFrame;
-}  // namespace
-
-KOVA_FRAME_TRANSLATORS(AudioDetect, kAudioDetect)
+extern const ResponseFrame kAudioDetectFrame = DescribedObject<AudioDetectConfig>::kFrame;
 
 }  // namespace kova

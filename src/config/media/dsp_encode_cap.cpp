@@ -6,9 +6,9 @@
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/media/encode_tables.h"
-#include "config/media/translators.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
+#include "kova/records/video_in.h"
 
 namespace kova {
 namespace {
@@ -69,11 +69,10 @@ bool ParseCap(const Json::Value& table, const StepContext& ctx, unsigned char* r
 }
 
 // One record, built zeroed and copied out whole.
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<D>(ParseCap, PackTableStep<kTable>).Clear(Clearing::kEachRecord);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(DspEncodeCap, kFrame)
+extern const ResponseFrame kDspEncodeCapFrame =
+    ResponseFrame::For<D>(ParseCap, PackTableStep<kTable>).Clear(Clearing::kEachRecord);
 
 }  // namespace kova

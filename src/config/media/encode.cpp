@@ -10,9 +10,9 @@
 
 #include "common/fields/field_table.h"
 #include "config/media/encode_tables.h"
-#include "config/media/translators.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
+#include "kova/records/video_in.h"
 
 namespace kova {
 namespace {
@@ -105,16 +105,16 @@ bool ParseChannel(const Json::Value& table, const StepContext& ctx, unsigned cha
 // Pack: exactly one record is an object, anything longer an array (one
 // record and a partial one included), a shorter input "null"; the text may
 // fill the buffer exactly, without a terminator.
-constexpr ResponseFrame kFrame = ResponseFrame::For<C>(ParseChannel, PackTableStep<kChannel>)
-                                     .Walk(RecordWalk::kPerChannel)
-                                     .ChannelAtRoot()
-                                     .Clear(Clearing::kNone)
-                                     .ShortInputAsNull()
-                                     .ArrayUnlessExactlyOne()
-                                     .Copy(CopyRule::kAtMost);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(Encode, kFrame)
+extern const ResponseFrame kEncodeFrame =
+    ResponseFrame::For<C>(ParseChannel, PackTableStep<kChannel>)
+        .Walk(RecordWalk::kPerChannel)
+        .ChannelAtRoot()
+        .Clear(Clearing::kNone)
+        .Short(ShortInput::kNullUnlessEmpty)
+        .ArrayUnlessExactlyOne()
+        .Copy(CopyRule::kAtMost);
 
 }  // namespace kova

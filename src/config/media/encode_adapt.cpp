@@ -3,9 +3,9 @@
 #include <cstdint>
 
 #include "common/fields/field_table.h"
-#include "config/media/translators.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
+#include "kova/records/video_in.h"
 
 namespace kova {
 
@@ -26,13 +26,12 @@ constexpr Field kFields[] = {
 constexpr FieldTable kTable = KOVA_TABLE(kFields);
 
 // "table" is one channel's object or an array of channels; the buffer is not cleared.
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<EncodeAdaptConfig>(ParseTableStep<kTable>, PackTableStep<kTable>)
-        .Walk(RecordWalk::kPerChannel)
-        .Clear(Clearing::kNone);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(EncodeAdapt, kFrame)
+extern const ResponseFrame kEncodeAdaptFrame =
+    ResponseFrame::For<EncodeAdaptConfig>(ParseTableStep<kTable>, PackTableStep<kTable>)
+        .Walk(RecordWalk::kPerChannel)
+        .Clear(Clearing::kNone);
 
 }  // namespace kova

@@ -8,9 +8,9 @@
 
 #include "common/fields/field_table.h"
 #include "config/media/encode_tables.h"
-#include "config/media/translators.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
+#include "kova/records/video_in.h"
 
 namespace kova {
 
@@ -38,15 +38,13 @@ bool PackEntry(const unsigned char* entry, Json::Value& out) {
   return PackTableStep<kEntry>(entry, out);
 }
 
-constexpr ResponseFrame kFrame = ResponseFrame::For<P>(ParseEntry, PackEntry)
-                                     .IgnoreResult()
-                                     .Clear(Clearing::kNone)
-                                     .Walk(RecordWalk::kPerChannel)
-                                     .NonArray(NonArrayTable::kNoRecord)
-                                     .PackArrayAlways();
-
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(EncodePlan, kFrame)
+extern const ResponseFrame kEncodePlanFrame = ResponseFrame::For<P>(ParseEntry, PackEntry)
+                                                  .IgnoreResult()
+                                                  .Clear(Clearing::kNone)
+                                                  .Walk(RecordWalk::kPerChannel)
+                                                  .NonArray(NonArrayTable::kNoRecord)
+                                                  .PackArrayAlways();
 
 }  // namespace kova

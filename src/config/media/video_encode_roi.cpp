@@ -3,9 +3,9 @@
 #include <cstdint>
 
 #include "common/fields/field_table.h"
-#include "config/media/translators.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
+#include "kova/records/video_in.h"
 
 namespace kova {
 
@@ -33,12 +33,11 @@ constexpr Field kFields[] = {
 constexpr FieldTable kTable = KOVA_TABLE(kFields);
 
 // One record, built zeroed and copied out whole.
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<R>(ParseTableStep<kTable>, PackTableStep<kTable>)
-        .Clear(Clearing::kEachRecord);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(VideoEncodeRoi, kFrame)
+extern const ResponseFrame kVideoEncodeRoiFrame =
+    ResponseFrame::For<R>(ParseTableStep<kTable>, PackTableStep<kTable>)
+        .Clear(Clearing::kEachRecord);
 
 }  // namespace kova

@@ -2,7 +2,6 @@
 // registration with a platform.
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/network/translators.h"
 #include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/network.h"
@@ -56,14 +55,10 @@ KOVA_DESCRIBE(DvripConfig, kDvripFields)
 namespace {
 
 constexpr const Field& kWhole = DescribedObject<DvripConfig>::kWhole;
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<DvripConfig>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
-        .RefuseEmptyText()
-        .OnNullTable(NullTable::kAllZeroRecord)
-        .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(Dvrip, kFrame)
+extern const ResponseFrame kDvripFrame =
+    DeviceObjectFrame<DvripConfig>(ParseDescribed<kWhole>, PackDescribed<kWhole>);
 
 }  // namespace kova

@@ -1,7 +1,7 @@
-// "G3G4AutoChange": a one-field record served by the table drivers.
+// "G3G4AutoChange": whether the device switches between 3G and 4G by
+// itself; a one-field record with the table drivers' settings.
 #include "common/fields/field_table.h"
-#include "config/network/translators.h"
-#include "drivers/table_driver.h"
+#include "drivers/response_frame.h"
 #include "kova/records/network.h"
 
 namespace kova {
@@ -16,12 +16,7 @@ constexpr FieldTable kTable = KOVA_TABLE(kFields);
 
 }  // namespace
 
-int ParseG3G4AutoChangeRecord(const Json::Value& element, void* record) {
-  return ParseTableRecord<kTable>(element, record);
-}
-
-int PackG3G4AutoChangeRecord(const void* record, Json::Value& target) {
-  return PackTableRecord<kTable>(record, target);
-}
+extern const ResponseFrame kG3G4AutoChangeFrame = DriverFrame<G3G4AutoChangeRecord>(
+    ParseTableStep<kTable>, PackTableStep<kTable>, {0, false, true, false});
 
 }  // namespace kova

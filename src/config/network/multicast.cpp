@@ -1,7 +1,6 @@
 // "Multicast": the multicast streams of a device, one list per transport.
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/network/translators.h"
 #include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/network.h"
@@ -40,15 +39,10 @@ namespace {
 // The record starts from zero with its own size, also for a missing table;
 // the caller's buffer is written only once the answer is accepted.
 constexpr const Field& kWhole = DescribedObject<MulticastConfig>::kWhole;
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<MulticastConfig>(ParseDescribedSized<MulticastConfig, kWhole>,
-                                        PackDescribed<kWhole>)
-        .Clear(Clearing::kNone)
-        .OnNullTable(NullTable::kStep)
-        .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(Multicast, kFrame)
+extern const ResponseFrame kMulticastFrame = KeptRecordFrame<MulticastConfig>(
+    ParseDescribedSized<MulticastConfig, kWhole>, PackDescribed<kWhole>);
 
 }  // namespace kova

@@ -9,7 +9,6 @@
 #include "common/fields/field_table.h"
 #include "common/fields/fields.h"
 #include "common/json/json.h"
-#include "config/network/translators.h"
 #include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 
@@ -83,14 +82,10 @@ KOVA_DESCRIBE(NetworkConfig, kNetworkFields)
 namespace {
 
 constexpr const Field& kWhole = DescribedObject<NetworkConfig>::kWhole;
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<NetworkConfig>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
-        .RefuseEmptyText()
-        .OnNullTable(NullTable::kAllZeroRecord)
-        .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(Network, kFrame)
+extern const ResponseFrame kNetworkFrame =
+    DeviceObjectFrame<NetworkConfig>(ParseDescribed<kWhole>, PackDescribed<kWhole>);
 
 }  // namespace kova

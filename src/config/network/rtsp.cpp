@@ -6,7 +6,6 @@
 
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/network/translators.h"
 #include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/network.h"
@@ -41,15 +40,11 @@ namespace {
 
 // The record starts from zero with its own size, also for a missing table.
 constexpr const Field& kWhole = DescribedObject<RtspConfig>::kWhole;
-constexpr ResponseFrame kFrame =
-    ResponseFrame::For<RtspConfig>(ParseDescribedSized<RtspConfig, kWhole>, PackDescribed<kWhole>)
-        .IgnoreResult()
-        .Clear(Clearing::kNone)
-        .OnNullTable(NullTable::kStep)
-        .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(Rtsp, kFrame)
+extern const ResponseFrame kRtspFrame =
+    KeptRecordFrame<RtspConfig>(ParseDescribedSized<RtspConfig, kWhole>, PackDescribed<kWhole>)
+        .IgnoreResult();
 
 }  // namespace kova

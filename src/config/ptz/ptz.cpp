@@ -8,7 +8,6 @@
 
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/ptz/translators.h"
 #include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 
@@ -126,13 +125,12 @@ bool ParsePtzTable(const Json::Value& table, const StepContext& ctx, unsigned ch
   return true;
 }
 
-constexpr ResponseFrame kFrame = ResponseFrame::For<PtzConfig>(ParsePtzTable, PackDescribed<kWhole>)
-                                     .Result(ResultRule::kFalseFails)
-                                     .OnNullTable(NullTable::kFail)
-                                     .Returned(ReturnedLength::kSetRecord);
-
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(Ptz, kFrame)
+extern const ResponseFrame kPtzFrame =
+    ResponseFrame::For<PtzConfig>(ParsePtzTable, PackDescribed<kWhole>)
+        .Result(ResultRule::kFalseFails)
+        .OnNullTable(NullTable::kFail)
+        .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace kova

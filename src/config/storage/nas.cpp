@@ -11,7 +11,6 @@
 #include "common/fields/text_forms.h"
 #include "common/json/json.h"
 #include "config/storage/nas_forms.h"
-#include "config/storage/translators.h"
 #include "drivers/response_frame.h"
 #include "drivers/table_driver.h"
 #include "kova/records/storage.h"
@@ -136,14 +135,12 @@ bool PackNasRoot(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
-constexpr ResponseFrame kFrame = ResponseFrame::For<NasConfig>(ParseNasRoot, PackNasRoot)
-                                     .IgnoreResult()
-                                     .Table(TableAt::kRoot)
-                                     .OnNullTable(NullTable::kFail)
-                                     .Returned(ReturnedLength::kSetRecord);
-
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(Nas, kFrame)
+extern const ResponseFrame kNasFrame = ResponseFrame::For<NasConfig>(ParseNasRoot, PackNasRoot)
+                                           .IgnoreResult()
+                                           .Table(TableAt::kRoot)
+                                           .OnNullTable(NullTable::kFail)
+                                           .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace kova

@@ -3,8 +3,8 @@
 #include <type_traits>
 
 #include "common/fields/field_table.h"
-#include "config/storage/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
 #include "kova/records/storage.h"
 
 namespace kova {
@@ -34,6 +34,6 @@ constexpr ResponseFrame kFrame = DescribedObject<RaidRecord>::kFrame.Walk(Record
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(Raid, kFrame)
+extern const ResponseFrame kRaidFrame = kFrame;
 
 }  // namespace kova

@@ -6,7 +6,6 @@
 #include "common/blocks/time_schedule.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/storage/translators.h"
 #include "drivers/response_frame.h"
 #include "kova/records/storage.h"
 
@@ -94,14 +93,13 @@ bool PackChannel(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
-constexpr ResponseFrame kFrame = ResponseFrame::For<RecordConfig>(ParseChannel, PackChannel)
-                                     .Walk(RecordWalk::kPerChannel)
-                                     .ChannelAtRoot()
-                                     .ShortInputAsNull()
-                                     .ArrayUnlessExactlyOne();
-
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(Record, kFrame)
+extern const ResponseFrame kRecordFrame =
+    ResponseFrame::For<RecordConfig>(ParseChannel, PackChannel)
+        .Walk(RecordWalk::kPerChannel)
+        .ChannelAtRoot()
+        .Short(ShortInput::kNull)
+        .ArrayUnlessExactlyOne();
 
 }  // namespace kova

@@ -1,8 +1,8 @@
 // "RecordMode": the recording mode of each channel, for the main and the
 // first extra stream.
 #include "common/fields/field_table.h"
-#include "config/storage/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
 #include "kova/records/storage.h"
 
 namespace kova {
@@ -22,6 +22,6 @@ constexpr ResponseFrame kFrame = DescribedObject<RecordModeConfig>::kFrame;
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(RecordMode, kFrame)
+extern const ResponseFrame kRecordModeFrame = kFrame;
 
 }  // namespace kova

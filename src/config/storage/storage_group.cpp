@@ -1,8 +1,8 @@
 // "StorageGroup": named storage groups, each with its file rules and its
 // channels, in caller-sized records.
 #include "common/fields/field_table.h"
-#include "config/storage/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
 #include "kova/records/storage.h"
 
 namespace kova {
@@ -48,6 +48,6 @@ constexpr ResponseFrame kFrame =
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(StorageGroup, kFrame)
+extern const ResponseFrame kStorageGroupFrame = kFrame;
 
 }  // namespace kova

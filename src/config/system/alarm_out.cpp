@@ -1,7 +1,7 @@
 // "AlarmOut": the alarm output ports (relays) of a device, one record each.
 #include "common/fields/field_table.h"
-#include "config/system/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
 #include "kova/records/system.h"
 
 namespace {
@@ -22,10 +22,6 @@ constexpr Field kAlarmOutFields[] = {
 namespace kova {
 KOVA_DESCRIBE(AlarmOutConfig, kAlarmOutFields)
 
-namespace {
-constexpr ResponseFrame kAlarmOut = DescribedObject<AlarmOutConfig>::kFrame;
-}  // namespace
-
-KOVA_FRAME_TRANSLATORS(AlarmOut, kAlarmOut)
+extern const ResponseFrame kAlarmOutFrame = DescribedObject<AlarmOutConfig>::kFrame;
 
 }  // namespace kova

@@ -1,7 +1,7 @@
 // "NTP" (clock synchronisation) and "Locales" (time format, daylight saving).
 #include "common/fields/field_table.h"
-#include "config/system/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
 #include "kova/records/system.h"
 
 namespace {
@@ -46,12 +46,8 @@ constexpr Field kLocalesFields[] = {
 namespace kova {
 KOVA_DESCRIBE(LocalesConfig, kLocalesFields)
 
-namespace {
-constexpr ResponseFrame kNtp = DescribedObject<NtpConfig>::kFrame.Walk(RecordWalk::kOne);
-constexpr ResponseFrame kLocales = DescribedObject<LocalesConfig>::kFrame.Walk(RecordWalk::kOne);
-}  // namespace
-
-KOVA_FRAME_TRANSLATORS(Ntp, kNtp)
-KOVA_FRAME_TRANSLATORS(Locales, kLocales)
+extern const ResponseFrame kNtpFrame = DescribedObject<NtpConfig>::kFrame.Walk(RecordWalk::kOne);
+extern const ResponseFrame kLocalesFrame =
+    DescribedObject<LocalesConfig>::kFrame.Walk(RecordWalk::kOne);
 
 }  // namespace kova

@@ -1,7 +1,7 @@
 // "General" (the device's name and login policy) and "Language".
 #include "common/fields/field_table.h"
-#include "config/system/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
 #include "kova/records/system.h"
 
 namespace {
@@ -31,13 +31,9 @@ constexpr Field kLanguageText = KOVA_F(LanguageConfig, language, nullptr, kText)
 namespace kova {
 KOVA_DESCRIBE(GeneralConfig, kGeneralFields)
 
-namespace {
-constexpr ResponseFrame kGeneral = DescribedObject<GeneralConfig>::kFrame.Walk(RecordWalk::kOne);
-constexpr ResponseFrame kLanguage =
+extern const ResponseFrame kGeneralFrame =
+    DescribedObject<GeneralConfig>::kFrame.Walk(RecordWalk::kOne);
+extern const ResponseFrame kLanguageFrame =
     ResponseFrame::For<LanguageConfig>(ParseDescribed<kLanguageText>, PackDescribed<kLanguageText>);
-}  // namespace
-
-KOVA_FRAME_TRANSLATORS(General, kGeneral)
-KOVA_FRAME_TRANSLATORS(Language, kLanguage)
 
 }  // namespace kova

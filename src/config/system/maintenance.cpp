@@ -1,8 +1,8 @@
 // "AutoMaintain" (automatic reboot and file clean-up) and "Email" (the
 // account alarm mails are sent from).
 #include "common/fields/field_table.h"
-#include "config/system/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
 #include "kova/records/system.h"
 
 namespace {
@@ -59,13 +59,9 @@ namespace kova {
 KOVA_DESCRIBE(AutoMaintainConfig, kAutoMaintainFields)
 KOVA_DESCRIBE(EmailConfig, kEmailFields)
 
-namespace {
-constexpr ResponseFrame kAutoMaintain =
+extern const ResponseFrame kAutoMaintainFrame =
     DescribedObject<AutoMaintainConfig>::kFrame.Walk(RecordWalk::kOne);
-constexpr ResponseFrame kEmail = DescribedObject<EmailConfig>::kFrame.Walk(RecordWalk::kOne);
-}  // namespace
-
-KOVA_FRAME_TRANSLATORS(AutoMaintain, kAutoMaintain)
-KOVA_FRAME_TRANSLATORS(Email, kEmail)
+extern const ResponseFrame kEmailFrame =
+    DescribedObject<EmailConfig>::kFrame.Walk(RecordWalk::kOne);
 
 }  // namespace kova

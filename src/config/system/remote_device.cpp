@@ -6,8 +6,8 @@
 #include "common/fields/field_table.h"
 #include "common/fields/fields.h"
 #include "common/json/json.h"
-#include "config/system/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
 #include "kova/records/system.h"
 
 namespace {
@@ -84,12 +84,10 @@ bool PackDevice(const unsigned char* record, Json::Value& table) {
   return true;
 }
 
-constexpr ResponseFrame kRemoteDevice =
-    ResponseFrame::For<RemoteDeviceConfig>(ParseDevice, PackDevice)
-        .Walk(RecordWalk::kObjectMembers);
-
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(RemoteDevice, kRemoteDevice)
+extern const ResponseFrame kRemoteDeviceFrame =
+    ResponseFrame::For<RemoteDeviceConfig>(ParseDevice, PackDevice)
+        .Walk(RecordWalk::kObjectMembers);
 
 }  // namespace kova

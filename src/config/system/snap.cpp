@@ -2,8 +2,8 @@
 #include "common/blocks/time_schedule.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/system/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
 #include "kova/records/system.h"
 
 namespace {
@@ -35,10 +35,6 @@ constexpr Field kSnapFields[] = {
 namespace kova {
 KOVA_DESCRIBE(SnapConfig, kSnapFields)
 
-namespace {
-constexpr ResponseFrame kSnap = DescribedObject<SnapConfig>::kFrame;
-}  // namespace
-
-KOVA_FRAME_TRANSLATORS(Snap, kSnap)
+extern const ResponseFrame kSnapFrame = DescribedObject<SnapConfig>::kFrame;
 
 }  // namespace kova

@@ -10,7 +10,6 @@
 #include "common/fields/fields.h"
 #include "common/fields/text_forms.h"
 #include "common/json/json.h"
-#include "config/traffic/translators.h"
 #include "drivers/response_frame.h"
 #include "kova/records/traffic.h"
 
@@ -342,14 +341,14 @@ bool WriteSnapshot(const unsigned char* record, Json::Value& out) {
 // All of `outLen` is cleared, not only the record; "result" is not looked
 // at; a null table fails; `retLen` gets the record's size whatever the
 // filling met (all intended).
-constexpr ResponseFrame kFrame = ResponseFrame::For<R>(FillSnapshot, WriteSnapshot)
-                                     .Clear(Clearing::kWholeBuffer)
-                                     .IgnoreResult()
-                                     .OnNullTable(NullTable::kFail)
-                                     .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace
 
-KOVA_FRAME_TRANSLATORS(TrafficSnapshot, kFrame)
+extern const ResponseFrame kTrafficSnapshotFrame =
+    ResponseFrame::For<R>(FillSnapshot, WriteSnapshot)
+        .Clear(Clearing::kWholeBuffer)
+        .IgnoreResult()
+        .OnNullTable(NullTable::kFail)
+        .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace kova

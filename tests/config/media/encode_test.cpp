@@ -181,9 +181,9 @@ TEST(Encode, InputShorterThanOneRecordPacksAsNullReadingNothing) {
     std::memset(in.get(), 0xFF, inLen);
     EXPECT_EQ("null\n", Pack(in.get(), inLen)) << inLen;
   }
-  // An empty input is shorter than one record too.
+  // An empty input is refused: the device protocol fails a length of 0.
   const unsigned char one = 0xFF;
-  EXPECT_EQ("null\n", Pack(&one, 0));
+  EXPECT_EQ("", Pack(&one, 0));
 }
 
 TEST(Encode, PackCopiesTextThatFillsTheBufferExactly) {

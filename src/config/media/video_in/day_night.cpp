@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "common/fields/field_table.h"
-#include "config/media/translators.h"
+#include "drivers/response_frame.h"
 #include "kova/records/video_in.h"
 
 namespace kova {
@@ -32,22 +32,27 @@ constexpr Field kProfile = KOVA_ITEM_NESTED(VideoInDayNightProfile);
 constexpr Field kProfiles =
     KOVA_LIST(VideoInDayNightConfig, profiles, nullptr, kProfile).KeepSlots();
 
-}  // namespace
-
-int ParseVideoInDayNightRecord(const Json::Value& element, void* record) {
+bool ParseDayNight(const Json::Value& element, const StepContext& /*ctx*/, unsigned char* record) {
   VideoInDayNightConfig r{};
   // A profile without "Mode" or "Type" reads as an unknown one (-1), so that
   // pack does not invent a value for it: intended.
   for (VideoInDayNightProfile& p : r.profiles) p.mode = p.type = -1;
   ParseValue(element, reinterpret_cast<unsigned char*>(&r), kProfiles);
   std::memcpy(record, &r, sizeof r);
-  return 1;
+  return true;
 }
 
-int PackVideoInDayNightRecord(const void* record, Json::Value& target) {
+bool PackDayNight(const unsigned char* record, Json::Value& target) {
   VideoInDayNightConfig r;
   std::memcpy(&r, record, sizeof r);
-  return PackValue(reinterpret_cast<const unsigned char*>(&r), kProfiles, &target) ? 1 : 0;
+  PackValue(reinterpret_cast<const unsigned char*>(&r), kProfiles, &target);
+  return true;
 }
+
+}  // namespace
+
+// A table of channels is an array of arrays of profiles.
+extern const ResponseFrame kVideoInDayNightFrame =
+    DriverFrame<VideoInDayNightConfig>(ParseDayNight, PackDayNight, {1, true, true, true});
 
 }  // namespace kova

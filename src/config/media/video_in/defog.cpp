@@ -1,8 +1,9 @@
 // "VideoInDefog": optical and electronic defog of each of a channel's
 // profiles.
 #include "common/fields/field_table.h"
-#include "config/media/translators.h"
 #include "config/media/video_in/profiles.h"
+#include "drivers/response_frame.h"
+#include "kova/records/media.h"
 #include "kova/records/video_in.h"
 
 namespace kova {
@@ -20,6 +21,6 @@ constexpr Field kDefogProfileFields[] = {
 
 KOVA_DESCRIBE(VideoInDefogProfile, kova::kDefogProfileFields)
 
-KOVA_FRAME_TRANSLATORS(VideoInDefog, ProfileRecord<VideoInDefogConfig>::kFrame)
+extern const ResponseFrame kVideoInDefogFrame = ProfileRecord<VideoInDefogConfig>::kFrame;
 
 }  // namespace kova

@@ -1,8 +1,9 @@
 // "VideoInExposure": exposure mode, gain, iris and shutter of each of a
 // channel's profiles.
 #include "common/fields/field_table.h"
-#include "config/media/translators.h"
 #include "config/media/video_in/profiles.h"
+#include "drivers/response_frame.h"
+#include "kova/records/media.h"
 #include "kova/records/video_in.h"
 
 namespace kova {
@@ -40,6 +41,6 @@ constexpr Field kExposureProfileFields[] = {
 
 KOVA_DESCRIBE(VideoInExposureProfile, kova::kExposureProfileFields)
 
-KOVA_FRAME_TRANSLATORS(VideoInExposure, ProfileRecord<VideoInExposureConfig>::kFrame)
+extern const ResponseFrame kVideoInExposureFrame = ProfileRecord<VideoInExposureConfig>::kFrame;
 
 }  // namespace kova

@@ -1,8 +1,9 @@
 // "VideoInFocus" and "VideoInZoom": the lens settings of each of a
 // channel's profiles.
 #include "common/fields/field_table.h"
-#include "config/media/translators.h"
 #include "config/media/video_in/profiles.h"
+#include "drivers/response_frame.h"
+#include "kova/records/media.h"
 #include "kova/records/video_in.h"
 
 namespace kova {
@@ -28,8 +29,8 @@ constexpr Field kZoomProfileFields[] = {
 KOVA_DESCRIBE(VideoInFocusProfile, kova::kFocusProfileFields)
 KOVA_DESCRIBE(VideoInZoomProfile, kova::kZoomProfileFields)
 
-KOVA_FRAME_TRANSLATORS(VideoInFocus, ProfileRecord<VideoInFocusConfig>::kFrame)
+extern const ResponseFrame kVideoInFocusFrame = ProfileRecord<VideoInFocusConfig>::kFrame;
 
-KOVA_FRAME_TRANSLATORS(VideoInZoom, ProfileRecord<VideoInZoomConfig>::kFrame)
+extern const ResponseFrame kVideoInZoomFrame = ProfileRecord<VideoInZoomConfig>::kFrame;
 
 }  // namespace kova

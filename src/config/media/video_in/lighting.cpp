@@ -2,8 +2,9 @@
 // channel's profiles, with the lamp groups of the near, middle and far
 // beams.
 #include "common/fields/field_table.h"
-#include "config/media/translators.h"
 #include "config/media/video_in/profiles.h"
+#include "drivers/response_frame.h"
+#include "kova/records/media.h"
 #include "kova/records/video_in.h"
 
 namespace kova {
@@ -33,6 +34,6 @@ constexpr Field kLightingProfileFields[] = {
 
 KOVA_DESCRIBE(LightingProfile, kova::kLightingProfileFields)
 
-KOVA_FRAME_TRANSLATORS(Lighting, ProfileRecord<LightingConfig>::kFrame)
+extern const ResponseFrame kLightingFrame = ProfileRecord<LightingConfig>::kFrame;
 
 }  // namespace kova

@@ -3,8 +3,9 @@
 // infrared, focus, signal), the same members again for the night, normal
 // and dusk periods, and the flash lamp.
 #include "common/fields/field_table.h"
-#include "config/media/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
+#include "kova/records/media.h"
 #include "kova/records/video_in.h"
 
 // Every option member has a flag named after it: devices send different subsets.
@@ -116,6 +117,6 @@ constexpr Field kOptionsFields[] = {
 
 KOVA_DESCRIBE(VideoInOptionsConfig, kova::kOptionsFields)
 
-KOVA_FRAME_TRANSLATORS(VideoInOptions, DescribedObject<VideoInOptionsConfig>::kFrame)
+extern const ResponseFrame kVideoInOptionsFrame = DescribedObject<VideoInOptionsConfig>::kFrame;
 
 }  // namespace kova

@@ -1,8 +1,9 @@
 // "ChannelTitle" and "VideoWidget": a channel's name and the overlays drawn
 // on its picture (channel and time titles, custom titles, privacy masks).
 #include "common/fields/field_table.h"
-#include "config/media/translators.h"
 #include "drivers/described_record.h"
+#include "drivers/response_frame.h"
+#include "kova/records/media.h"
 #include "kova/records/video_in.h"
 
 namespace kova {
@@ -44,8 +45,8 @@ constexpr Field kWidgetFields[] = {
 
 KOVA_DESCRIBE(VideoWidgetConfig, kova::kWidgetFields)
 
-KOVA_FRAME_TRANSLATORS(ChannelTitle, DescribedObject<ChannelTitleConfig>::kFrame)
+extern const ResponseFrame kChannelTitleFrame = DescribedObject<ChannelTitleConfig>::kFrame;
 
-KOVA_FRAME_TRANSLATORS(VideoWidget, DescribedObject<VideoWidgetConfig>::kFrame)
+extern const ResponseFrame kVideoWidgetFrame = DescribedObject<VideoWidgetConfig>::kFrame;
 
 }  // namespace kova

@@ -6,8 +6,9 @@
 #include "common/blocks/time_schedule.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
-#include "config/media/translators.h"
 #include "config/media/video_in/profiles.h"
+#include "drivers/response_frame.h"
+#include "kova/records/media.h"
 #include "kova/records/video_in.h"
 
 namespace kova {
@@ -46,6 +47,6 @@ constexpr Field kVideoColorProfileFields[] = {
 
 KOVA_DESCRIBE(VideoColorProfile, kova::kVideoColorProfileFields)
 
-KOVA_FRAME_TRANSLATORS(VideoColor, ProfileRecord<VideoColorConfig>::kFrame)
+extern const ResponseFrame kVideoColorFrame = ProfileRecord<VideoColorConfig>::kFrame;
 
 }  // namespace kova
