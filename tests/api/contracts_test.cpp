@@ -243,8 +243,8 @@ TEST(Contracts, EveryBuiltNameKeepsItsRow) {
   }
   for (int i : kova_harness::BuiltParseNames()) {
     const char* name = kova::kParseNames[i].name;
-    EXPECT_EQ(1u, rows.count(name)) << "no contract row for " << name << " (probed: \"" << Probe(name)
-                                    << "\")";
+    EXPECT_EQ(1u, rows.count(name))
+        << "no contract row for " << name << " (probed: \"" << Probe(name) << "\")";
   }
 }
 
