@@ -21,20 +21,6 @@ int Parse(const std::string& json, AccessGeneralRecord* r, uint32_t* ret) {
   return KOVA_ParseData(kName, json.c_str(), r, sizeof *r, ret);
 }
 
-TEST(AccessControlGeneral, DeviceResponseReadsAndPacksBack) {
-  AccessGeneralRecord r{};
-  uint32_t ret = 0;
-  ASSERT_EQ(1, Parse(kova_test::Sample(kName), &r, &ret));
-  EXPECT_EQ(sizeof r, ret);
-  EXPECT_EQ(1, r.accessProperty);
-  EXPECT_EQ(3, r.abLockGroups[1].doors[1]);
-  const std::string packed = Pack(kName, r);
-  EXPECT_EQ(kova_test::PackedText(kName), packed);
-  AccessGeneralRecord again{};
-  ASSERT_EQ(1, Parse(Doc(packed), &again, &ret));
-  EXPECT_EQ(0, std::memcmp(&r, &again, sizeof r));
-}
-
 TEST(AccessControlGeneral, DirectionNames) {
   AccessGeneralRecord r{};
   uint32_t ret = 0;
@@ -69,28 +55,6 @@ TEST(AccessControlGeneral, DoorGroupsAreCutAndMissingMembersKeepTheCallersValues
   ASSERT_EQ(1, Parse(Doc("{}"), &r, &ret));
   EXPECT_EQ(0, r.abLockPresent);
   EXPECT_EQ(std::string::npos, Pack(kName, r).find("ABLock"));
-}
-
-TEST(AccessControlGeneral, EnvelopeAndBufferRules) {
-  AccessGeneralRecord r;
-  std::memset(&r, 0x5A, sizeof r);
-  uint32_t ret = 0;
-  // A null table succeeds with nothing read and a length of 0.
-  ASSERT_EQ(1, Parse(R"({"result":true,"params":{"table":null}})", &r, &ret));
-  EXPECT_EQ(0u, ret);
-  EXPECT_EQ(0x5A, r.spare);
-  EXPECT_EQ(0, Parse(R"({"result":false,"params":{"table":{}}})", &r, &ret));
-  EXPECT_EQ(0, KOVA_ParseData(kName, Doc("{}").c_str(), &r, sizeof r - 1, &ret));
-
-  // The packed text is copied only when its NUL fits too.
-  AccessGeneralRecord z{};
-  const std::string text = Pack(kName, z);
-  std::vector<char> out(text.size() + 1);
-  EXPECT_EQ(0,
-            KOVA_PacketData(kName, &z, sizeof z, out.data(), static_cast<uint32_t>(text.size())));
-  EXPECT_EQ(
-      1, KOVA_PacketData(kName, &z, sizeof z, out.data(), static_cast<uint32_t>(text.size() + 1)));
-  EXPECT_EQ(text, out.data());
 }
 
 }  // namespace

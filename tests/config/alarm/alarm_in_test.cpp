@@ -88,11 +88,4 @@ TEST(Alarm, WeekGridWinsOverTheLinkageSchedule) {
   EXPECT_NE(std::string::npos, packed.find(R"("1 03:00:00-04:00:00")"));
 }
 
-TEST(Alarm, NotJsonLeavesTheBufferCleared) {
-  auto r = kova_test::NewRecord<AlarmInRecord>();
-  std::memset(r.get(), 0xAB, sizeof(AlarmInRecord));
-  EXPECT_EQ(0, KOVA_ParseData("Alarm", "{\"params\":", r.get(), sizeof(AlarmInRecord), nullptr));
-  EXPECT_EQ(0, r->level1);
-}
-
 }  // namespace

@@ -29,22 +29,6 @@ std::string Pack(const char* name, const void* in, uint32_t inLen, uint32_t outL
   return std::string(out.data(), strnlen(out.data(), outLen));
 }
 
-TEST(EncodeFamily, SamplesPackBackToTheirTables) {
-  for (const char* name :
-       {"EncodePlan", "VideoEncodeROI", "DspEncodeCap", "EncodeAdapt", "SmartEncode"}) {
-    std::ifstream in(std::string(KOVA_SAMPLES_DIR) + "/" + name + ".json");
-    const std::string doc((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    Json::Value root;
-    ASSERT_TRUE(kova::ReadJson(doc.c_str(), &root)) << name;
-    std::vector<unsigned char> rec(8192, 0);
-    uint32_t ret = 0;
-    ASSERT_EQ(1, KOVA_ParseData(name, doc.c_str(), rec.data(), rec.size(), &ret)) << name;
-    EXPECT_EQ(kova::WriteJson(kova::Member(kova::Member(root, "params"), "table")),
-              Pack(name, rec.data(), ret))
-        << name;
-  }
-}
-
 TEST(EncodePlan, NullEntriesSwitchOffAndKeepTheRest) {
   // "result" is not consulted; the fourth element has no room.
   const std::string doc = Envelope(

@@ -60,21 +60,6 @@ Json::Value SampleTable(const Name& n) {
   return kova::Member(kova::Member(root, "params"), "table");
 }
 
-// (One record packs as the bare channel, so a one-channel sample packs back
-// to the only element of its table.)
-TEST(VideoInFamily, SamplesPackBackToTheirTables) {
-  for (const Name& n : kNames) {
-    const Json::Value table = SampleTable(n);
-    const uint32_t channels = kova::Count(table);
-    const Parsed p = Parse(n, kova_test::Sample(n.name), 8 * n.size);
-    ASSERT_EQ(1, p.rc) << n.name;
-    EXPECT_EQ(channels * n.size, p.ret) << n.name;
-    EXPECT_EQ(kova::WriteJson(channels == 1 ? kova::Element(table, 0) : table),
-              PackBytes(n.name, p.bytes.data(), p.ret))
-        << n.name;
-  }
-}
-
 TEST(VideoInFamily, ParsePackParseGivesTheSameRecords) {
   for (const Name& n : kNames) {
     const Parsed first = Parse(n, kova_test::Sample(n.name), 8 * n.size);
@@ -122,26 +107,6 @@ TEST(VideoInFamily, AllChannelAnswerIsCutToTheBuffer) {
               std::vector<unsigned char>(p.bytes.end() - 7, p.bytes.end()))
         << n.name;
     EXPECT_EQ("[ " + bare + ", " + bare + " ]\n", PackBytes(n.name, p.bytes.data(), p.ret + 7))
-        << n.name;
-  }
-}
-
-// The returned length: set by the frame translators, added to by the table
-// driver of "VideoInDayNight"; a missing table fills nothing.
-TEST(VideoInFamily, ReturnedLengthAndMissingTable) {
-  for (const Name& n : kNames) {
-    std::vector<unsigned char> buf(n.size, kJunk);
-    uint32_t ret = 1000;
-    ASSERT_EQ(1,
-              KOVA_ParseData(n.name, kova_test::Sample(n.name).c_str(), buf.data(), n.size, &ret))
-        << n.name;
-    EXPECT_EQ(n.addsLength ? 1000 + n.size : n.size, ret) << n.name;
-    ret = 1000;
-    ASSERT_EQ(1, KOVA_ParseData(n.name, R"({"result":true,"params":{}})", buf.data(), n.size, &ret))
-        << n.name;
-    EXPECT_EQ(n.addsLength ? 1000u : 0u, ret) << n.name;
-    EXPECT_EQ(0, KOVA_ParseData(n.name, R"({"result":false,"params":{"table":{}}})", buf.data(),
-                                n.size, &ret))
         << n.name;
   }
 }

@@ -37,37 +37,6 @@ std::string Names(const NetworkConfig& r) {
   return out;
 }
 
-TEST(Network, DeviceAnswerReadsAndPacksBack) {
-  int rc = 0;
-  uint32_t ret = 0;
-  auto r = ParseAs<NetworkConfig>(kName, kova_test::Sample(kName), &rc, &ret);
-  ASSERT_EQ(1, rc);
-  EXPECT_EQ(sizeof(NetworkConfig), ret);
-  EXPECT_STREQ("NVR-Lobby", r->hostName);
-  EXPECT_STREQ("eth0", r->defaultInterface);
-  // eth2 comes first in the text; the interfaces follow the member order.
-  EXPECT_EQ("eth0,eth2", Names(*r));
-  const NetworkInterface& eth0 = r->interfaces[0];
-  EXPECT_STREQ("192.168.1.108", eth0.ipAddress);
-  EXPECT_EQ(0, eth0.dhcpEnable);
-  EXPECT_EQ(1, eth0.enable);
-  EXPECT_EQ(1, eth0.enableDhcpReservedIp);
-  EXPECT_EQ(KOVA_NETWORK_LINK_ADAPT, eth0.netMode);
-  EXPECT_EQ(KOVA_NETWORK_INTERFACE_STANDARD, eth0.type);
-  EXPECT_STREQ("8.8.8.8", eth0.dnsServers[1]);
-  const NetworkInterface& eth2 = r->interfaces[1];
-  EXPECT_EQ(1500, eth2.mtu);
-  EXPECT_EQ(KOVA_NETWORK_LINK_FULL_100M, eth2.netMode);
-  EXPECT_EQ(KOVA_NETWORK_INTERFACE_MANAGER, eth2.type);
-  EXPECT_STREQ("10.0.20.2", eth2.dnsServers[1]);  // the third server is not kept
-
-  const std::string packed = Pack(kName, *r);
-  EXPECT_EQ(kova_test::PackedText(kName), packed);
-  auto again = ParseAs<NetworkConfig>(kName, Doc(packed), &rc, &ret);
-  ASSERT_EQ(1, rc);
-  EXPECT_EQ(0, std::memcmp(r.get(), again.get(), sizeof(NetworkConfig)));
-}
-
 TEST(Network, InterfacesAreTheMembersHoldingObjects) {
   std::string many;
   for (int i = 0; i < 40; ++i) {
@@ -167,31 +136,6 @@ TEST(Network, PackWritesNamesFromTheTablesAndCutsTheCount) {
   EXPECT_EQ(R"({ "DefaultInterface" : "", "Domain" : "", "Hostname" : "" })"
             "\n",
             Pack(kName, *r));
-}
-
-TEST(Network, EnvelopeAndBufferRules) {
-  const uint32_t size = sizeof(NetworkConfig);
-  std::vector<unsigned char> b(size + 8, 0x5A);
-  uint32_t ret = 0;
-  auto parse = [&](const std::string& text, uint32_t outLen) {
-    std::fill(b.begin(), b.end(), 0x5A);
-    ret = 0;
-    return KOVA_ParseData(kName, text.c_str(), b.data(), outLen, &ret);
-  };
-  // An empty text is refused with the buffer as it was.
-  EXPECT_EQ(0, parse("", size));
-  EXPECT_EQ(0x5A, b[0]);
-  // Refused after clearing: text that does not parse, a "result" that is not true.
-  for (const std::string& text :
-       {std::string("{\"result\":true,"), std::string(R"({"params":{"table":{}}})"),
-        std::string(R"({"result":false,"params":{"table":{"Hostname":"h"}}})")}) {
-    EXPECT_EQ(0, parse(text, size + 8)) << text;
-    EXPECT_EQ(0, b[size + 7]) << text;
-  }
-  // A missing table is one empty record.
-  EXPECT_EQ(1, parse(R"({"result":true,"params":{}})", size + 8));
-  EXPECT_EQ(size, ret);
-  EXPECT_EQ(0, b[0]);
 }
 
 }  // namespace

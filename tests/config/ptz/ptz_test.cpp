@@ -30,32 +30,6 @@ std::unique_ptr<PtzConfig> ParseTable(const std::string& table) {
   return r;
 }
 
-TEST(Ptz, DeviceAnswerReadsAndPacksBack) {
-  int rc = 0;
-  uint32_t ret = 0;
-  auto r = ParseAs<PtzConfig>(kName, kova_test::Sample(kName), &rc, &ret);
-  ASSERT_EQ(1, rc);
-  EXPECT_EQ(sizeof(PtzConfig), ret);
-  EXPECT_EQ(1, r->enable);
-  EXPECT_STREQ("DomeLink", r->protocolName);
-  EXPECT_EQ(3, r->address);
-  EXPECT_EQ(5, r->serial.baudRateIndex);
-  EXPECT_EQ(3, r->serial.dataBitsIndex);
-  EXPECT_EQ(0, r->serial.parityIndex);
-  EXPECT_EQ(0, r->serial.stopBitsIndex);
-  EXPECT_TRUE(r->hasNumberInMatrix);
-  EXPECT_TRUE(r->hasPtzType);
-  EXPECT_EQ(1, r->homing[0]);
-  EXPECT_EQ(30, r->homing[1]);
-  EXPECT_EQ(0, r->controlMode);  // "RS485" in the answer; never read
-
-  const std::string packed = Pack(kName, *r);
-  EXPECT_EQ(kova_test::PackedText(kName), packed);
-  auto again = ParseAs<PtzConfig>(kName, Doc(packed), &rc, &ret);
-  ASSERT_EQ(1, rc);
-  EXPECT_EQ(0, std::memcmp(r.get(), again.get(), sizeof(PtzConfig)));
-}
-
 TEST(Ptz, SerialAttributeIndicesInTheRecordsOrder) {
   struct Case {
     const char* attribute;
@@ -123,34 +97,6 @@ TEST(Ptz, PackWritesFlaggedKeysAndRebuildsTheAttribute) {
   // Indices beyond their tables write the first entries.
   r->serial = {4, 3, 5, 10};
   EXPECT_NE(std::string::npos, Pack(kName, *r).find(R"("Attribute" : [ 300, 5, "None", "1" ])"));
-}
-
-TEST(Ptz, ResultAndTableRules) {
-  struct Case {
-    const char* text;
-    int rc;
-  } cases[] = {
-      {R"({"params":{"table":{}}})", 1},
-      {R"({"result":null,"params":{"table":{}}})", 1},
-      {R"({"result":"ok","params":{"table":{}}})", 1},
-      {R"({"result":false,"params":{"table":{}}})", 0},
-      {R"({"result":0,"params":{"table":{}}})", 0},
-      {R"({"result":0.0,"params":{"table":{}}})", 0},
-      {R"({"result":"","params":{"table":{}}})", 0},
-      {R"({"result":[],"params":{"table":{}}})", 0},
-      {R"({"result":{},"params":{"table":{}}})", 0},
-      {R"({"result":true,"params":{"table":null}})", 0},
-      {R"({"result":true})", 0},
-      {R"({"result":true,"params":{"table":)", 0},
-  };
-  std::vector<unsigned char> b(sizeof(PtzConfig) + 8);
-  for (const Case& c : cases) {
-    std::fill(b.begin(), b.end(), 0x5A);
-    uint32_t ret = 0;
-    EXPECT_EQ(c.rc, KOVA_ParseData(kName, c.text, b.data(), static_cast<uint32_t>(b.size()), &ret))
-        << c.text;
-    EXPECT_EQ(0, b.back()) << c.text;  // the whole buffer is cleared first
-  }
 }
 
 }  // namespace

@@ -206,22 +206,4 @@ TEST(Nas, EnumerationsCompareExactlyAndUpdateTimeKeepsItsEra) {
   EXPECT_EQ(std::string::npos, text.find("SubDirectory"));
 }
 
-TEST(Nas, RefusesWhatTheEnvelopeRefuses) {
-  const char* const kRefused[] = {
-      R"({"result":false,"params":{"table":[]}})", R"({"params":{"table":[]}})", "null", "[1,2]",
-      R"({"result":true,"params":{"table":[]})",
-  };
-  for (const char* json : kRefused) {
-    int rc = -1;
-    uint32_t ret = 77;
-    std::unique_ptr<NasConfig> r = ParseNas(json, &rc, &ret);
-    EXPECT_EQ(0, rc) << json;
-    EXPECT_EQ(77u, ret) << json;
-    EXPECT_EQ(0, r->useServerList) << json;  // cleared
-  }
-  std::unique_ptr<NasConfig> r = ParseNasOk(R"({"result":true})");
-  EXPECT_EQ(1, r->useServerList);
-  EXPECT_EQ(0, r->serverCount);
-}
-
 }  // namespace

@@ -49,41 +49,6 @@ std::string Week(const std::string& first, int rows) {
   return t + "]";
 }
 
-TEST(Record, RecorderAnswerReadsEveryChannelAndPacksBackToTheDevicesText) {
-  int rc = 0;
-  uint32_t ret = 0;
-  const std::vector<RecordConfig> r = ParseRecords(kova_test::Sample("Record"), 5, &rc, &ret);
-  ASSERT_EQ(1, rc);
-  EXPECT_EQ(4 * sizeof(RecordConfig), ret);
-  for (int c = 0; c < 4; ++c) {
-    EXPECT_EQ(c, r[c].channel);
-    EXPECT_EQ(3, r[c].layoutVersion);
-    EXPECT_EQ(1, r[c].holidayValid);
-  }
-  EXPECT_EQ(4, r[0].preRecord);
-  EXPECT_EQ(4, r[0].sections[0][0].enable);  // device 1 is record bit 2
-  EXPECT_EQ(24, r[0].sections[6][0].endHour);
-  EXPECT_EQ(1, r[1].redundancy);
-  EXPECT_EQ(1, r[1].holidayEnable);
-  EXPECT_EQ(7, r[1].sections[1][1].enable);
-  EXPECT_EQ(18, r[1].sections[1][1].endHour);
-  EXPECT_EQ(3, r[1].holidaySections[0].enable);  // device 6
-  EXPECT_EQ(1, r[2].stream);
-  EXPECT_EQ(12, r[3].sections[0][0].enable);  // device 17: bits 0 and 4
-  EXPECT_EQ(59, r[3].sections[0][1].endSecond);
-  // The slot beyond the table is cleared.
-  EXPECT_EQ(0, r[4].layoutVersion);
-
-  const std::string packed = PackBytes("Record", r.data(), ret);
-  EXPECT_EQ(kova_test::PackedText("Record"), packed);
-
-  // Parse, pack, parse: the same records.
-  const std::vector<RecordConfig> again = ParseRecords(
-      R"({"result":true,"channel":-1,"params":{"table":)" + packed + "}}", 5, &rc, &ret);
-  ASSERT_EQ(1, rc);
-  EXPECT_EQ(0, std::memcmp(r.data(), again.data(), 4 * sizeof(RecordConfig)));
-}
-
 TEST(Record, MaskBitsTakeTheRecordsOrderBothWays) {
   struct Case {
     int device;

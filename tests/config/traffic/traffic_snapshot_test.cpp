@@ -25,80 +25,6 @@ std::unique_ptr<Record> Parse(const std::string& json, int* rc, uint32_t* ret) {
   return kova_test::ParseAs<Record>(kName, json, rc, ret);
 }
 
-bool AllZero(const void* p, size_t n) {
-  const unsigned char* b = static_cast<const unsigned char*>(p);
-  for (size_t i = 0; i < n; ++i) {
-    if (b[i] != 0) return false;
-  }
-  return true;
-}
-
-TEST(TrafficSnapshot, SampleReadsPacksBackAndReadsTheSame) {
-  int rc = 0;
-  uint32_t ret = 0;
-  std::unique_ptr<Record> r = Parse(kova_test::Sample(kName), &rc, &ret);
-  ASSERT_EQ(1, rc);
-  EXPECT_EQ(sizeof(Record), ret);
-  EXPECT_EQ(3, r->breakingSnapTimes.uTurn);
-  EXPECT_EQ(3, r->breakingSnapTimes.pedestrianPriority);
-  EXPECT_EQ(0, r->breakingSnapTimes.overYellowLine);  // not sent
-  EXPECT_EQ(25, r->radar.angle);
-  ASSERT_EQ(2, r->detector.laneCount);
-  const TrafficLane& left = r->detector.lanes[1];
-  EXPECT_EQ(3, left.coilConfigCount);
-  EXPECT_EQ(2, left.coilsDistanceCount);
-  EXPECT_EQ(300, left.coilsDistance[1]);
-  EXPECT_EQ(180, left.coilsWidth[2]);
-  EXPECT_EQ(40, left.bigCarSpeedLimit[1]);
-  EXPECT_STREQ("Ring Road West", left.drivingDirection[2]);
-  EXPECT_EQ(6.0f, r->largeVehicleLengthLevel[0]);
-  EXPECT_EQ(100, r->carThreshold);
-  EXPECT_EQ(6, r->osd.customizeSort.elementCount);
-  EXPECT_EQ(4, r->osd.general.newLine.everyItem);
-  EXPECT_STREQ("km/h", r->osd.customizeSort.elements[3].postfix);
-  EXPECT_EQ(1, r->eventHandler.snapshotEnable);
-  EXPECT_EQ(1, r->mergeOsdPresent);
-
-  const std::string packed = Pack(kName, *r);
-  EXPECT_EQ(kova_test::PackedText(kName), packed);
-  std::unique_ptr<Record> again = Parse(Doc(packed), &rc, &ret);
-  ASSERT_EQ(1, rc);
-  EXPECT_EQ(0, std::memcmp(r.get(), again.get(), sizeof(Record)));
-}
-
-// The whole caller buffer is cleared first; "result" is not looked at; only
-// a missing or null table fails.
-TEST(TrafficSnapshot, EnvelopeAndBuffer) {
-  struct Case {
-    const char* json;
-    int rc;
-  };
-  const Case cases[] = {
-      {R"({"result":false,"params":{"table":{"KeepAlive":9}}})", 1},
-      {R"({"params":{"table":5}})", 1},
-      {R"({"result":true,"params":{"table":null}})", 0},
-      {R"({"result":true,"params":{}})", 0},
-      {R"({"result":true,"params":{"table":{})", 0},
-  };
-  const size_t extra = 64;
-  std::vector<unsigned char> buf(sizeof(Record) + extra + 1);
-  // The record lives at an aligned address; the last byte lies past outLen.
-  for (const Case& c : cases) {
-    std::memset(buf.data(), 0xA5, buf.size());
-    uint32_t ret = 7;
-    EXPECT_EQ(c.rc, KOVA_ParseData(kName, c.json, buf.data(), sizeof(Record) + extra, &ret))
-        << c.json;
-    EXPECT_EQ(c.rc ? sizeof(Record) : 7u, ret) << c.json;
-    const Record* r = reinterpret_cast<const Record*>(buf.data());
-    EXPECT_EQ(c.rc && std::strstr(c.json, "KeepAlive") ? 9 : 0, r->keepAlive) << c.json;
-    EXPECT_TRUE(AllZero(buf.data() + sizeof(Record), extra)) << c.json;
-    EXPECT_EQ(0xA5, buf.back());
-  }
-  std::memset(buf.data(), 0xA5, buf.size());
-  EXPECT_EQ(0, KOVA_ParseData(kName, Doc("{}").c_str(), buf.data(), sizeof(Record) - 1, nullptr));
-  EXPECT_EQ(0xA5, buf[0]);
-}
-
 // The three sub-blocks are read first and in order; the first that is
 // neither null nor its JSON type stops the reading, and the call still
 // succeeds with the full size.
@@ -209,35 +135,6 @@ TEST(TrafficSnapshot, ValidUntilTime) {
   r = Parse(Doc(R"({"ValidUntilTime":"tomorrow"})"), &rc, &ret);
   EXPECT_EQ(0u, r->validUntilTime);
   EXPECT_EQ(std::string::npos, Pack(kName, *r).find("ValidUntilTime"));
-}
-
-// A cleared record packs its scalars and no block; the text is copied only
-// with its terminating NUL.
-TEST(TrafficSnapshot, PackOfAClearedRecord) {
-  std::unique_ptr<Record> r = NewRecord<Record>();
-  const std::string text = Pack(kName, *r);
-  // Reals are written "%#.16g": 0.0 is 0.000000000000000.
-  EXPECT_EQ(
-      R"({ "AdaptiveSpeed" : [ 0, 0 ], "CarScheme" : 0, "CarThreShold" : 0, "CarType" : 0, )"
-      R"("CustomFrameInterval" : [ 0, 0, 0 ], "DeviceAddress" : "", "FrameMode" : 0, )"
-      R"("KeepAlive" : 0, "LargeVehicleLengthLevel" : [ 0.000000000000000, 0.000000000000000 ], )"
-      R"("LongVehicleLengthLevel" : 0.000000000000000, "MaxSpeed" : 0, )"
-      R"("MediumVehicleLengthLevel" : [ 0.000000000000000, 0.000000000000000 ], )"
-      R"("MergeVideoTitleMask" : 0, "MergeVideoTitleMask1" : 0, )"
-      R"("MotoVehicleLengthLevel" : 0.000000000000000, "RedLightMargin" : 0, "RoadwayCode" : "", )"
-      R"("SigScheme" : 0, "SmallVehicleLengthLevel" : [ 0.000000000000000, 0.000000000000000 ], )"
-      R"("SnapMode" : 0, "SnapType" : 0, "TriggerSource" : 0, "VideoTitleMask" : 0, )"
-      R"("VideoTitleMask1" : 0, "WorkMode" : 0 })"
-      "\n",
-      text);
-
-  std::vector<char> out(text.size() + 1, 'x');
-  const uint32_t exact = static_cast<uint32_t>(text.size());
-  EXPECT_EQ(0, KOVA_PacketData(kName, r.get(), sizeof(Record), out.data(), exact));
-  EXPECT_TRUE(AllZero(out.data(), exact));
-  EXPECT_EQ(1, KOVA_PacketData(kName, r.get(), sizeof(Record), out.data(), exact + 1));
-  EXPECT_EQ(text, out.data());
-  EXPECT_EQ(0, KOVA_PacketData(kName, r.get(), sizeof(Record) - 1, out.data(), exact + 1));
 }
 
 }  // namespace
