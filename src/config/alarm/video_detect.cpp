@@ -11,7 +11,9 @@ namespace {
 
 constexpr Field kLossFields[] = {
     KOVA_F(LossDetectRecord, enable, "Enable", kBool),
-    KOVA_EVENT_HANDLER_WITH_WEEK(LossDetectRecord),
+    KOVA_LINKAGE(LossDetectRecord, eventHandler)
+        .Week(KOVA_SCHEDULE_AT(LossDetectRecord, week))
+        .AlwaysRead(),
 };
 constexpr FieldTable kLossTable = KOVA_TABLE(kLossFields);
 constexpr ResponseFrame kLossFrame = AlarmSourceFrame<LossDetectRecord, kLossTable>();
@@ -19,7 +21,9 @@ constexpr ResponseFrame kLossFrame = AlarmSourceFrame<LossDetectRecord, kLossTab
 constexpr Field kBlindFields[] = {
     KOVA_F(BlindDetectRecord, enable, "Enable", kBool),
     KOVA_F(BlindDetectRecord, level, "Level", kInt),
-    KOVA_EVENT_HANDLER_WITH_WEEK(BlindDetectRecord),
+    KOVA_LINKAGE(BlindDetectRecord, eventHandler)
+        .Week(KOVA_SCHEDULE_AT(BlindDetectRecord, week))
+        .AlwaysRead(),
 };
 constexpr FieldTable kBlindTable = KOVA_TABLE(kBlindFields);
 constexpr ResponseFrame kBlindFrame = AlarmSourceFrame<BlindDetectRecord, kBlindTable>();
