@@ -17,13 +17,13 @@
 namespace {
 
 struct EnumText {
-  const char* name;    // configuration
-  const char* table;   // the answer's table, with %s where the member goes
-  size_t recordSize;   // bytes of the record
-  size_t offset;       // of the member in the record
-  const char* key;     // JSON key of the member
-  const char* text;    // the device's text
-  int32_t value;       // the public constant
+  const char* name;   // configuration
+  const char* table;  // the answer's table, with %s where the member goes
+  size_t recordSize;  // bytes of the record
+  size_t offset;      // of the member in the record
+  const char* key;    // JSON key of the member
+  const char* text;   // the device's text
+  int32_t value;      // the public constant
 };
 
 constexpr size_t kSenseMethod = offsetof(AlarmInRecord, senseMethod);

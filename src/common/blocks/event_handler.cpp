@@ -185,53 +185,61 @@ constexpr FieldTable kEventHandler = KOVA_TABLE(kEventHandlerFields);
 
 #undef EH_AT
 
+// "TimeSection", the holiday schedule, with its own rules (intended): an
+// object (or any other non-array) leaves the schedule and what is kept
+// beside it as the caller left them, a null one clears the schedule, a
+// failed read is ignored; pack always writes it.
+void ParseBlock(const Json::Value& obj, EventHandlerRecord* r, const SchedulesBeside& beside) {
+  const Json::Value& timeSection = Member(obj, "TimeSection");
+  if (timeSection.isArray() || timeSection.isNull()) {
+    ParseHolidaySchedule(timeSection, &r->schedule, beside);
+  }
+  ParseFields(obj, r, kEventHandler);
+}
+
+constexpr SchedulesBeside kNothingBeside = {{nullptr, 0, 0, nullptr}, nullptr};
+
+// What a linkage field keeps beside its block, told apart by size.
+SchedulesBeside BesideOf(unsigned char* record, const Field& f) {
+  SchedulesBeside b = kNothingBeside;
+  unsigned char* at = record + f.beside.offset;
+  if (f.beside.size == sizeof(WeekSchedule7x6)) {
+    b.week = reinterpret_cast<WeekSchedule7x6*>(at);
+  } else if (f.beside.size == sizeof(WeekSchedule7x10)) {
+    // A rule's grid: no count of days is kept.
+    b.grid = {&reinterpret_cast<WeekSchedule7x10*>(at)->sections[0][0], KOVA_WEEK_DAYS,
+              KOVA_ANALYSE_SECTIONS_PER_DAY, nullptr};
+  }
+  return b;
+}
+
+void PackBeside(const unsigned char* record, const Field& f, Json::Value& handler) {
+  if (f.beside.size == 0) return;
+  const bool ruleGrid = f.beside.size == sizeof(WeekSchedule7x10);
+  Json::Value& timeSection = SetMember(handler, "TimeSection");
+  // A rule's grid replaces the block's own schedule; an alarm's week is
+  // written over its first seven days, the holiday left as it was.
+  if (ruleGrid) timeSection = Json::Value(Json::arrayValue);
+  const int32_t sectionsPerDay = ruleGrid ? KOVA_ANALYSE_SECTIONS_PER_DAY : KOVA_SECTIONS_PER_DAY;
+  PackTimeSectionGrid(timeSection,
+                      reinterpret_cast<const TimeSectionRecord*>(record + f.beside.offset),
+                      KOVA_WEEK_DAYS, sectionsPerDay);
+}
+
 }  // namespace
 
-// "TimeSection", the holiday schedule, with its own rules (intended): an
-// object (or any other non-array) leaves the schedule and the week as the
-// caller left them, a null one clears the schedule, a failed read is
-// ignored; pack always writes it.
 bool ParseEventHandler(const Json::Value& obj, EventHandlerRecord* r) {
   if (r == nullptr) return false;
-  const Json::Value& timeSection = Member(obj, "TimeSection");
-  if (timeSection.isArray() || timeSection.isNull())
-    ParseHolidaySchedule(timeSection, &r->schedule);
-  ParseFields(obj, r, kEventHandler);
+  ParseBlock(obj, r, kNothingBeside);
   return true;
 }
-
-bool ParseEventHandlerWithGrid(const Json::Value& obj, EventHandlerRecord* r,
-                               const SectionGrid& grid) {
-  if (r == nullptr) return false;
-  // A "TimeSection" that is not an array reads nothing into the grid.
-  const Json::Value& timeSection = Member(obj, "TimeSection");
-  if (timeSection.isArray() || timeSection.isNull()) {
-    ParseHolidayScheduleAndGrid(timeSection, &r->schedule, grid);
-  }
-  ParseFields(obj, r, kEventHandler);
-  return true;
-}
-
-namespace {
-
-// ParseEventHandler for a cleared record, reading the 7 x 6 week grid beside
-// it from the same texts in the same walk.
-void ParseWithWeek(const Json::Value& obj, EventHandlerRecord* r, WeekSchedule7x6* week) {
-  const Json::Value& timeSection = Member(obj, "TimeSection");
-  if (timeSection.isArray() || timeSection.isNull()) {
-    ParseHolidayScheduleWithWeek(timeSection, &r->schedule, week);
-  }
-  ParseFields(obj, r, kEventHandler);
-}
-
-}  // namespace
 
 bool ParseEventHandlerWithWeek(const Json::Value& obj, EventHandlerRecord* record,
                                WeekSchedule7x6* week) {
   if (record == nullptr || week == nullptr) return false;
   std::memset(week, 0, sizeof *week);
   std::memset(record, 0, sizeof *record);
-  ParseWithWeek(obj, record, week);
+  ParseBlock(obj, record, SchedulesBeside{kNothingBeside.grid, week});
   return true;
 }
 
@@ -241,52 +249,22 @@ void PackEventHandler(const EventHandlerRecord& r, Json::Value& obj) {
   PackFields(&r, obj, kEventHandler);
 }
 
-void PackWeekSections(const WeekSchedule7x6& week, Json::Value& timeSection) {
-  for (uint32_t d = 0; d < KOVA_WEEK_DAYS; ++d) {
-    Json::Value& day = SetElement(timeSection, d);
-    for (uint32_t s = 0; s < KOVA_SECTIONS_PER_DAY; ++s) {
-      PackTimeSection(SetElement(day, s), week.sections[d][s]);
-    }
-  }
-}
-
-namespace {
-
-EventHandlerRecord* LinkageAt(unsigned char* record, const Field& f) {
-  return reinterpret_cast<EventHandlerRecord*>(record + f.offset);
-}
-const EventHandlerRecord& LinkageAt(const unsigned char* record, const Field& f) {
-  return *reinterpret_cast<const EventHandlerRecord*>(record + f.offset);
-}
-WeekSchedule7x6* WeekAfter(unsigned char* record, const Field& f) {
-  return reinterpret_cast<WeekSchedule7x6*>(record + f.offset + sizeof(EventHandlerRecord));
-}
-const WeekSchedule7x6& WeekAfter(const unsigned char* record, const Field& f) {
-  return *reinterpret_cast<const WeekSchedule7x6*>(record + f.offset + sizeof(EventHandlerRecord));
-}
-
-}  // namespace
-
-void ParseEventHandlerStep(const Json::Value& obj, unsigned char* record, const Field& f) {
-  ParseEventHandler(Member(obj, f.key), LinkageAt(record, f));
-}
-
-void PackEventHandlerStep(const unsigned char* record, Json::Value& obj, const Field& f) {
-  PackEventHandler(LinkageAt(record, f), SetMember(obj, f.key));
-}
-
-void ParseEventHandlerWithWeekStep(const Json::Value& obj, unsigned char* record, const Field& f) {
+void ParseLinkageStep(const Json::Value& obj, unsigned char* record, const Field& f) {
+  const Json::Value& handler = Member(obj, f.key);
+  if (handler.isNull() && !f.alwaysRead) return;
   // The record was cleared before the walk: no second clearing of its
   // 338 KB here (ParseEventHandlerWithWeek would clear again).
-  ParseWithWeek(Member(obj, f.key), LinkageAt(record, f), WeekAfter(record, f));
+  ParseBlock(handler, reinterpret_cast<EventHandlerRecord*>(record + f.offset),
+             BesideOf(record, f));
+  MarkPresent(record, f);
+  if (f.table != nullptr) ParseFields(handler, record, *f.table);
 }
 
-void PackEventHandlerWithWeekStep(const unsigned char* record, Json::Value& obj, const Field& f) {
+void PackLinkageStep(const unsigned char* record, Json::Value& obj, const Field& f) {
   Json::Value& handler = SetMember(obj, f.key);
-  PackEventHandler(LinkageAt(record, f), handler);
-  // The grid beside the linkage block is the copy callers edit: it wins
-  // over the first seven days of the block's own schedule.
-  PackWeekSections(WeekAfter(record, f), SetMember(handler, "TimeSection"));
+  PackEventHandler(*reinterpret_cast<const EventHandlerRecord*>(record + f.offset), handler);
+  PackBeside(record, f, handler);
+  if (f.table != nullptr) PackFields(record, handler, *f.table);
 }
 
 }  // namespace kova

@@ -12,6 +12,8 @@
 #include <json/value.h>
 
 #include <cstddef>
+#include <cstdint>
+#include <type_traits>
 
 #include "common/blocks/time_schedule.h"
 #include "common/fields/field_table.h"
@@ -26,56 +28,83 @@ namespace kova {
 // is null.
 bool ParseEventHandler(const Json::Value& jsonEventHandler, EventHandlerRecord* record);
 
-// For the alarm configurations, whose records keep a 7 x 6 grid directly
-// after the linkage block: zeroes `record` and `week`, reads
-// "TimeSection"[d][s] for d < 7, s < 6 into `week` with ParseTimeSection
-// (failures ignored, a failing section keeps what converted), then calls
-// ParseEventHandler. False only when `record` or `week` is null.
+// For the alarm configurations, whose records keep a 7 x 6 grid beside the
+// linkage block: zeroes `record` and `week`, then reads the block as
+// ParseEventHandler does and "TimeSection"[d][s] for d < 7, s < 6 into
+// `week` with ParseTimeSection (failures ignored, a failing section keeps
+// what converted). False only when `record` or `week` is null.
 bool ParseEventHandlerWithWeek(const Json::Value& jsonEventHandler, EventHandlerRecord* record,
                                WeekSchedule7x6* week);
-
-// ParseEventHandler for records that keep a grid of "TimeSection" of their
-// own beside the linkage block (the 7 x 10 grid of analysis rules): `grid`
-// is read as ParseTimeSectionGrid reads it (result ignored), each section
-// text scanned once for both schedules. False only when `record` is null.
-bool ParseEventHandlerWithGrid(const Json::Value& jsonEventHandler, EventHandlerRecord* record,
-                               const SectionGrid& grid);
 
 // Writes the flagged members of `record` into the object `jsonEventHandler`
 // (made an object if it is not one). Counts are honoured only as far as the
 // record's arrays extend, whatever they hold. Always succeeds.
 void PackEventHandler(const EventHandlerRecord& record, Json::Value& jsonEventHandler);
 
-// The 7 x 6 grid written over the first seven days of a "TimeSection" value.
-void PackWeekSections(const WeekSchedule7x6& week, Json::Value& timeSection);
+// The step pair of every "EventHandler" field (see KOVA_LINKAGE). Parse
+// reads the member when it is given, or always with .AlwaysRead() (a
+// missing block still marks "RecordEnable" and "AlarmOutEnable" present),
+// sets the field's flag when it has one and does not clear what it fills:
+// the record is cleared before the walk. Pack writes the block, then the
+// schedule kept beside it, then the extra table's members.
+void ParseLinkageStep(const Json::Value& obj, unsigned char* record, const Field& f);
+void PackLinkageStep(const unsigned char* record, Json::Value& obj, const Field& f);
 
-// Custom steps of a field table for an "EventHandler" member, read whether
-// the member is given or not (a missing block still marks "RecordEnable"
-// and "AlarmOutEnable" present). The record must have been cleared before
-// the walk. Use KOVA_EVENT_HANDLER / KOVA_EVENT_HANDLER_WITH_WEEK.
-void ParseEventHandlerStep(const Json::Value& obj, unsigned char* record, const Field& f);
-void PackEventHandlerStep(const unsigned char* record, Json::Value& obj, const Field& f);
-// The same for a block followed directly by its 7 x 6 week grid: parse also
-// reads the grid, pack writes it over the block's "TimeSection".
-void ParseEventHandlerWithWeekStep(const Json::Value& obj, unsigned char* record, const Field& f);
-void PackEventHandlerWithWeekStep(const unsigned char* record, Json::Value& obj, const Field& f);
+// A schedule grid of type Grid kept in the record beside a linkage block.
+template <typename Grid>
+struct ScheduleSlot {
+  uint32_t offset;
+};
 
-template <size_t kHandler, size_t kWeek>
-constexpr Field MakeEventHandlerWithWeek() {
-  static_assert(kWeek == kHandler + sizeof(EventHandlerRecord),
-                "the week grid follows the linkage block directly");
-  return MakeCustom("EventHandler", kHandler, sizeof(EventHandlerRecord) + sizeof(WeekSchedule7x6),
-                    ParseEventHandlerWithWeekStep, PackEventHandlerWithWeekStep);
+// An "EventHandler" field, with the attributes only a linkage block takes
+// (before the attributes of every field: .AlwaysRead(), .Flag(...)).
+struct LinkageField : Field {
+  // The alarm family's 7 x 6 week: parse reads the first 7 days x 6
+  // sections of "TimeSection" into it one by one (a failing section keeps
+  // what converted and stops nothing); pack writes it over those sections
+  // of the block's own schedule: it is the copy callers edit.
+  constexpr LinkageField Week(ScheduleSlot<WeekSchedule7x6> at) const {
+    return Beside(at.offset, sizeof(WeekSchedule7x6));
+  }
+  // An analysis rule's 7 x 10 grid: parse reads "TimeSection" into it as a
+  // grid (a section that does not read stops it, keeping what converted);
+  // pack writes it in place of the block's own schedule.
+  constexpr LinkageField Grid(ScheduleSlot<WeekSchedule7x10> at) const {
+    return Beside(at.offset, sizeof(WeekSchedule7x10));
+  }
+  // Members of the "EventHandler" object that the record keeps outside the
+  // block, described by `t` over the whole record; walked after the block.
+  constexpr LinkageField Extra(const FieldTable& t) const {
+    LinkageField l = *this;
+    l.table = &t;
+    return l;
+  }
+
+ private:
+  // The step tells the week from the grid by its size.
+  constexpr LinkageField Beside(uint32_t offset, uint32_t size) const {
+    LinkageField l = *this;
+    l.beside = Slot{offset, size};
+    return l;
+  }
+};
+
+template <typename T>
+constexpr LinkageField MakeLinkage(size_t offset) {
+  static_assert(std::is_same<T, EventHandlerRecord>::value,
+                "an \"EventHandler\" field holds an EventHandlerRecord");
+  return LinkageField{MakeCustom("EventHandler", offset, static_cast<uint32_t>(sizeof(T)),
+                                 ParseLinkageStep, PackLinkageStep)};
 }
 
 }  // namespace kova
 
-// The "EventHandler" member of a record (an EventHandlerRecord).
-#define KOVA_EVENT_HANDLER(Rec, member)                                   \
-  KOVA_CUSTOM(Rec, member, "EventHandler", ::kova::ParseEventHandlerStep, \
-              ::kova::PackEventHandlerStep)
-// The "EventHandler" member `eventHandler` with the 7 x 6 grid `week` after it.
-#define KOVA_EVENT_HANDLER_WITH_WEEK(Rec) \
-  ::kova::MakeEventHandlerWithWeek<offsetof(Rec, eventHandler), offsetof(Rec, week)>()
+// The "EventHandler" member of a record (an EventHandlerRecord):
+//   KOVA_LINKAGE(Rec, eventHandler).Week(KOVA_SCHEDULE_AT(Rec, week)).AlwaysRead()
+#define KOVA_LINKAGE(Rec, member) \
+  ::kova::MakeLinkage<KOVA_MEMBER_T(Rec, member)>(offsetof(Rec, member))
+// A schedule grid member, for .Week() and .Grid().
+#define KOVA_SCHEDULE_AT(Rec, member) \
+  ::kova::ScheduleSlot<KOVA_MEMBER_T(Rec, member)> { static_cast<uint32_t>(offsetof(Rec, member)) }
 
 #endif  // KOVA_COMMON_EVENT_HANDLER_H_

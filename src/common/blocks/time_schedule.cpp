@@ -277,36 +277,20 @@ bool PackHolidaySchedule(Json::Value& jsonOut, const HolidaySchedule& schedule) 
 }
 
 bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule) {
-  if (schedule == nullptr) return false;
-  std::memset(schedule, 0, sizeof *schedule);
-  int32_t days = 0;
-  const bool read = ParseTimeSectionGrid(jsonIn, &schedule->sections[0][0], kHolidayDays,
-                                         kHolidaySections, &days);
-  return FinishHoliday(read, days, schedule);
+  return ParseHolidaySchedule(jsonIn, schedule, SchedulesBeside{{nullptr, 0, 0, nullptr}, nullptr});
 }
 
-bool ParseHolidayScheduleAndGrid(const Json::Value& jsonIn, HolidaySchedule* schedule,
-                                 const SectionGrid& grid) {
+bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule,
+                          const SchedulesBeside& beside) {
   if (schedule == nullptr) return false;
   std::memset(schedule, 0, sizeof *schedule);
   int32_t days = 0;
   GridRead reads[2] = {
       {{&schedule->sections[0][0], kHolidayDays, kHolidaySections, &days}, false, false},
-      {grid, false, false},
+      {beside.grid, false, false},
   };
-  ReadGrids(jsonIn, reads, 2);
+  ReadGrids(jsonIn, reads, beside.grid.sections != nullptr ? 2 : 1, beside.week);
   return FinishHoliday(reads[0].read, days, schedule);
-}
-
-bool ParseHolidayScheduleWithWeek(const Json::Value& jsonIn, HolidaySchedule* schedule,
-                                  WeekSchedule7x6* week) {
-  if (schedule == nullptr) return false;
-  std::memset(schedule, 0, sizeof *schedule);
-  int32_t days = 0;
-  GridRead read = {
-      {&schedule->sections[0][0], kHolidayDays, kHolidaySections, &days}, false, false};
-  ReadGrids(jsonIn, &read, 1, week);
-  return FinishHoliday(read.read, days, schedule);
 }
 
 bool ParseDaySections(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxSections) {

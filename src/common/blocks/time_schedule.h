@@ -63,20 +63,21 @@ bool PackHolidaySchedule(Json::Value& jsonOut, const HolidaySchedule& schedule);
 // parse fails or fewer than 7 days were given. `holidayEnabled` is 1 when 8
 // (or more) days were given.
 bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule);
-// ParseHolidaySchedule, and in the same walk over the texts the 7 x 6 grid
-// that ParseTimeSection reads from them ("TimeSection"[d][s], d < 7, s < 6,
-// a failing section keeping what converted, the rest still read) into
-// `week`, which is not cleared first. A text of the usual form is scanned
-// once for both: the two read forms agree on it.
-bool ParseHolidayScheduleWithWeek(const Json::Value& jsonIn, HolidaySchedule* schedule,
-                                  WeekSchedule7x6* week);
+// What a linkage block's "TimeSection" is read into beside its holiday
+// schedule, in the same walk over the texts (a text of the usual form is
+// scanned once for all: the read forms agree on it). `grid` (sections null:
+// none) is read as ParseTimeSectionGrid reads it, that result not returned;
+// `week` (null: none; not cleared first) takes "TimeSection"[d][s] for d < 7,
+// s < 6 as ParseTimeSection reads each, a failing section keeping what
+// converted and the rest still read.
+struct SchedulesBeside {
+  SectionGrid grid;
+  WeekSchedule7x6* week;
+};
 
-// ParseHolidaySchedule, and `grid` read from the same array as
-// ParseTimeSectionGrid reads it (that result is not returned), each
-// section text scanned once for both: for records that keep a grid of
-// their own beside a linkage block's schedule.
-bool ParseHolidayScheduleAndGrid(const Json::Value& jsonIn, HolidaySchedule* schedule,
-                                 const SectionGrid& grid);
+// ParseHolidaySchedule, and in the same walk the schedules of `beside`.
+bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule,
+                          const SchedulesBeside& beside);
 
 // One day's flat array of section strings into records 0..maxSections-1
 // (excess items ignored). Malformed text is deliberately not an error: it

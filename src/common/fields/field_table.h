@@ -225,7 +225,7 @@ struct Field {
   int64_t sentinel = 0;              // Presence::kSentinel
   const EnumNames* names = nullptr;  // kEnum
   Unnamed unnamed = Unnamed::kTable;
-  const FieldTable* table = nullptr;  // kNested: the member type's table
+  const FieldTable* table = nullptr;  // kNested: the member type's table; kCustom: its step's
   const Field* element = nullptr;     // kList: one entry, at offset 0 of its slot
   uint32_t capacity = 0;              // kList: slots; kTuple: items
   uint32_t minItems = 0;  // kTuple: an array with fewer items leaves the member as it was
@@ -238,6 +238,7 @@ struct Field {
   const char* noMemoryReport = nullptr;  // allocated kList: reported when its entries cannot be had
   CustomParse parse = nullptr;           // kCustom
   CustomPack pack = nullptr;             // kCustom
+  Slot beside = {0, 0};                  // kCustom: a second member its step keeps (size 0: none)
   // Parse rules for a member that is missing, null or of another JSON type
   // (see the builders below).
   bool alwaysRead = false;

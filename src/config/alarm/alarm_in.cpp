@@ -29,7 +29,7 @@ constexpr Field kFields[] = {
     KOVA_F(R, slot, "Slot", kInt).MissingAs(-1).Sentinel(-1),
     KOVA_F(R, level1, "Level1", kInt).MissingAs(-1).Sentinel(-1),
     KOVA_F(R, level2, "Level2", kInt).MissingAs(-1).Flag(KOVA_AT(R, level2Present)),
-    KOVA_EVENT_HANDLER_WITH_WEEK(R),
+    KOVA_LINKAGE(R, eventHandler).Week(KOVA_SCHEDULE_AT(R, week)).AlwaysRead(),
 };
 constexpr FieldTable kTable = KOVA_TABLE(kFields);
 

@@ -154,7 +154,7 @@ constexpr Field kFields[] = {
     KOVA_F(R, rows, "Row", kInt).ParseOnly(),
     KOVA_F(R, cols, "Col", kInt).ParseOnly(),
     KOVA_CUSTOM(R, windows, "MotionDetectWindow", ParseWindows, PackWindows),
-    KOVA_EVENT_HANDLER_WITH_WEEK(R),
+    KOVA_LINKAGE(R, eventHandler).Week(KOVA_SCHEDULE_AT(R, week)).AlwaysRead(),
 };
 constexpr FieldTable kTable = KOVA_TABLE(kFields);
 

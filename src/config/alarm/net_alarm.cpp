@@ -16,7 +16,7 @@ constexpr Field kFields[] = {
     KOVA_F(R, enable, "Enable", kBool),
     KOVA_F(R, name, "Name", kText),
     KOVA_ENUM(R, sensorType, "SensorType", kSensorTypeNames).UnnamedAs(Unnamed::kUnknownName),
-    KOVA_EVENT_HANDLER_WITH_WEEK(R),
+    KOVA_LINKAGE(R, eventHandler).Week(KOVA_SCHEDULE_AT(R, week)).AlwaysRead(),
 };
 constexpr FieldTable kTable = KOVA_TABLE(kFields);
 

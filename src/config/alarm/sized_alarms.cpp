@@ -41,7 +41,7 @@ constexpr Field kTemperatureFields[] = {
     KOVA_TUPLE_OF(T, lowerLimit, "NormalTemperature", double, kReal, 2)
         .MinItems(0)
         .Flag(KOVA_AT(T, limitsPresent)),
-    KOVA_EVENT_HANDLER_WITH_WEEK(T),
+    KOVA_LINKAGE(T, eventHandler).Week(KOVA_SCHEDULE_AT(T, week)).AlwaysRead(),
 };
 constexpr FieldTable kTemperatureTable = KOVA_TABLE(kTemperatureFields);
 
@@ -54,7 +54,7 @@ constexpr Field kFanFields[] = {
     KOVA_TUPLE(F, lowerLimit, "NormalSpeed", int32_t, 2)
         .MinItems(0)
         .Flag(KOVA_AT(F, limitsPresent)),
-    KOVA_EVENT_HANDLER_WITH_WEEK(F),
+    KOVA_LINKAGE(F, eventHandler).Week(KOVA_SCHEDULE_AT(F, week)).AlwaysRead(),
 };
 constexpr FieldTable kFanTable = KOVA_TABLE(kFanFields);
 

@@ -14,14 +14,14 @@ namespace {
 
 constexpr Field kEventFields[] = {
     KOVA_F(SystemEventRecord, enable, "Enable", kBool),
-    KOVA_EVENT_HANDLER(SystemEventRecord, eventHandler),
+    KOVA_LINKAGE(SystemEventRecord, eventHandler).AlwaysRead(),
 };
 constexpr FieldTable kEventTable = KOVA_TABLE(kEventFields);
 
 constexpr Field kLowSpaceFields[] = {
     KOVA_F(StorageLowSpaceRecord, enable, "Enable", kBool),
     KOVA_F(StorageLowSpaceRecord, lowerLimit, "LowerLimit", kInt),
-    KOVA_EVENT_HANDLER(StorageLowSpaceRecord, eventHandler),
+    KOVA_LINKAGE(StorageLowSpaceRecord, eventHandler).AlwaysRead(),
 };
 constexpr FieldTable kLowSpaceTable = KOVA_TABLE(kLowSpaceFields);
 

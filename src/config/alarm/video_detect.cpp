@@ -12,14 +12,18 @@ namespace {
 
 constexpr Field kLossFields[] = {
     KOVA_F(LossDetectRecord, enable, "Enable", kBool),
-    KOVA_EVENT_HANDLER_WITH_WEEK(LossDetectRecord),
+    KOVA_LINKAGE(LossDetectRecord, eventHandler)
+        .Week(KOVA_SCHEDULE_AT(LossDetectRecord, week))
+        .AlwaysRead(),
 };
 constexpr FieldTable kLossTable = KOVA_TABLE(kLossFields);
 
 constexpr Field kBlindFields[] = {
     KOVA_F(BlindDetectRecord, enable, "Enable", kBool),
     KOVA_F(BlindDetectRecord, level, "Level", kInt),
-    KOVA_EVENT_HANDLER_WITH_WEEK(BlindDetectRecord),
+    KOVA_LINKAGE(BlindDetectRecord, eventHandler)
+        .Week(KOVA_SCHEDULE_AT(BlindDetectRecord, week))
+        .AlwaysRead(),
 };
 constexpr FieldTable kBlindTable = KOVA_TABLE(kBlindFields);
 

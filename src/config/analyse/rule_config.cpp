@@ -3,7 +3,6 @@
 #include <cstddef>
 
 #include "common/blocks/event_handler.h"
-#include "common/blocks/time_schedule.h"
 #include "common/json/json.h"
 
 namespace kova {
@@ -22,32 +21,14 @@ constexpr Field kRuleHeadFields[] = {
         .KeepSlots(),
 };
 
+// The members of the rule object held in every record's RuleLinkage:
 // "EventHandler" with its 7 x 10 "TimeSection". The linkage block keeps
 // its own reading of "TimeSection" (the 8 x 6 holiday schedule) as every
 // linkage block does; the rule's grid is the one written back.
-// Custom steps get the start of the table's record: here the RuleLinkage.
-void ParseRuleHandler(const Json::Value& rule, unsigned char* linkage, const Field& f) {
-  const Json::Value& handler = Member(rule, f.key);
-  RuleLinkage* r = reinterpret_cast<RuleLinkage*>(linkage);
-  // A section that does not read stops the grid; the rule is kept anyway.
-  const SectionGrid grid = {&r->timeSection.sections[0][0], KOVA_WEEK_DAYS,
-                            KOVA_ANALYSE_SECTIONS_PER_DAY, nullptr};
-  ParseEventHandlerWithGrid(handler, &r->eventHandler, grid);
-}
-
-void PackRuleHandler(const unsigned char* linkage, Json::Value& rule, const Field& f) {
-  const RuleLinkage* r = reinterpret_cast<const RuleLinkage*>(linkage);
-  Json::Value& handler = SetMember(rule, f.key);
-  PackEventHandler(r->eventHandler, handler);
-  Json::Value& sections = SetMember(handler, "TimeSection");
-  sections = Json::Value(Json::arrayValue);
-  PackTimeSectionGrid(sections, &r->timeSection.sections[0][0], KOVA_WEEK_DAYS,
-                      KOVA_ANALYSE_SECTIONS_PER_DAY);
-}
-
-// The members of the rule object held in every record's RuleLinkage.
 constexpr Field kRuleLinkageFields[] = {
-    KOVA_CUSTOM(RuleLinkage, eventHandler, "EventHandler", ParseRuleHandler, PackRuleHandler),
+    KOVA_LINKAGE(RuleLinkage, eventHandler)
+        .Grid(KOVA_SCHEDULE_AT(RuleLinkage, timeSection))
+        .AlwaysRead(),
     KOVA_F(RuleLinkage, ptzPresetId, "PtzPresetId", kInt),
 };
 

@@ -3,7 +3,6 @@
 // with the alarm.
 #include "common/blocks/event_handler.h"
 #include "common/fields/field_table.h"
-#include "common/json/json.h"
 #include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/audio.h"
@@ -36,18 +35,7 @@ constexpr Field kInsideHandler[] = {
     KOVA_NESTED(AudioDetectConfig, lightingLink, "LightingLink")
         .Flag(KOVA_AT(AudioDetectConfig, lightingLinkPresent)),
 };
-
-constexpr Field kLinkage = KOVA_EVENT_HANDLER_WITH_WEEK(AudioDetectConfig);
-
-void ParseLinkage(const Json::Value& obj, unsigned char* record, const Field&) {
-  kova::ParseEventHandlerWithWeekStep(obj, record, kLinkage);
-  kova::ParseFields(kova::Member(obj, "EventHandler"), record, kInsideHandler);
-}
-
-void PackLinkage(const unsigned char* record, Json::Value& obj, const Field&) {
-  kova::PackEventHandlerWithWeekStep(record, obj, kLinkage);
-  kova::PackFields(record, kova::SetMember(obj, "EventHandler"), kInsideHandler);
-}
+constexpr kova::FieldTable kInsideHandlerTable = KOVA_TABLE(kInsideHandler);
 
 constexpr Field kAudioDetectFields[] = {
     KOVA_F(AudioDetectConfig, enable, "Enable", kBool),
@@ -59,7 +47,10 @@ constexpr Field kAudioDetectFields[] = {
     KOVA_F(AudioDetectConfig, intensityDecibelGate, "IntensityDecibelGate", kInt),
     KOVA_F(AudioDetectConfig, minVolume, "MinVolume", kInt),
     KOVA_F(AudioDetectConfig, maxVolume, "MaxVolume", kInt),
-    KOVA_CUSTOM(AudioDetectConfig, eventHandler, "EventHandler", ParseLinkage, PackLinkage),
+    KOVA_LINKAGE(AudioDetectConfig, eventHandler)
+        .Week(KOVA_SCHEDULE_AT(AudioDetectConfig, week))
+        .Extra(kInsideHandlerTable)
+        .AlwaysRead(),
 };
 
 }  // namespace

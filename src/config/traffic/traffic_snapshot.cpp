@@ -249,19 +249,6 @@ void PackValidUntil(const unsigned char* record, Json::Value& table, const Field
       FormatDateTimePacked(static_cast<uint32_t>(LoadInt(record + f.offset, f.size, false)), text);
 }
 
-// "EventHandler": the shared linkage block, read only when given.
-void ParseLinkage(const Json::Value& table, unsigned char* record, const Field& f) {
-  const Json::Value& v = Member(table, f.key);
-  if (v.isNull()) return;
-  ParseEventHandler(v, reinterpret_cast<EventHandlerRecord*>(record + f.offset));
-  StoreInt(record + f.flag.offset, f.flag.size, 1);
-}
-
-void PackLinkage(const unsigned char* record, Json::Value& table, const Field& f) {
-  PackEventHandler(*reinterpret_cast<const EventHandlerRecord*>(record + f.offset),
-                   SetMember(table, f.key));
-}
-
 // Every key, in the order the device's keys are read. The first three are
 // the sub-blocks that FillSnapshot reads apart.
 constexpr Field kSnapshotFields[] = {
@@ -305,8 +292,8 @@ constexpr Field kSnapshotFields[] = {
     KOVA_NESTED(R, osd, "OSD").Flag(KOVA_AT(R, osdPresent)),
     KOVA_NESTED(R, mergeOsd, "MergeOSD").Flag(KOVA_AT(R, mergeOsdPresent)),
     KOVA_F(R, roadwayCode, "RoadwayCode", kText),
-    KOVA_CUSTOM(R, eventHandler, "EventHandler", ParseLinkage, PackLinkage)
-        .Flag(KOVA_AT(R, eventHandlerPresent)),
+    // The shared linkage block, read only when given.
+    KOVA_LINKAGE(R, eventHandler).Flag(KOVA_AT(R, eventHandlerPresent)),
 };
 constexpr size_t kSubBlocks = 3;
 constexpr size_t kFieldCount = sizeof kSnapshotFields / sizeof kSnapshotFields[0];

@@ -225,6 +225,76 @@ TEST(EventHandler, WithWeekReadsTheSevenDayGridBesideTheRecord) {
   EXPECT_FALSE(kova::ParseEventHandler(Json::Value(), nullptr));
 }
 
+// A record holding a linkage block the ways configurations hold one.
+struct Linked {
+  int32_t given;
+  EventHandlerRecord block;
+  WeekSchedule7x6 week;
+  WeekSchedule7x10 grid;
+  int32_t lampPresent;
+  int32_t lamp;
+};
+constexpr kova::Field kLampFields[] = {
+    KOVA_F(Linked, lamp, "Lamp", kInt).Flag(KOVA_AT(Linked, lampPresent)),
+};
+constexpr kova::FieldTable kLamp = KOVA_TABLE(kLampFields);
+constexpr kova::Field kAlways[] = {KOVA_LINKAGE(Linked, block).AlwaysRead()};
+constexpr kova::Field kWhenGiven[] = {KOVA_LINKAGE(Linked, block).Flag(KOVA_AT(Linked, given))};
+constexpr kova::Field kWeek[] = {
+    KOVA_LINKAGE(Linked, block).Week(KOVA_SCHEDULE_AT(Linked, week)).Extra(kLamp).AlwaysRead()};
+constexpr kova::Field kGrid[] = {
+    KOVA_LINKAGE(Linked, block).Grid(KOVA_SCHEDULE_AT(Linked, grid)).AlwaysRead()};
+
+template <size_t N>
+std::unique_ptr<Linked> ParseLinked(const kova::Field (&fields)[N], const char* text) {
+  std::unique_ptr<Linked> r(new Linked);
+  std::memset(r.get(), 0, sizeof *r);
+  kova::ParseFields(Doc(text), r.get(), fields);
+  return r;
+}
+
+template <size_t N>
+Json::Value PackLinked(const kova::Field (&fields)[N], const Linked& r) {
+  Json::Value out(Json::objectValue);
+  kova::PackFields(&r, out, fields);
+  return out;
+}
+
+TEST(EventHandler, LinkageFieldReadsWhenAskedAndKeepsItsSchedulesBeside) {
+  // A missing block: read as empty only when always read; a flagged one waits to be given.
+  EXPECT_EQ(1, ParseLinked(kAlways, "{}")->block.present[KOVA_EH_RECORD_ENABLE]);
+  auto r = ParseLinked(kWhenGiven, "{}");
+  EXPECT_EQ(0, r->given);
+  EXPECT_EQ(0, r->block.present[KOVA_EH_RECORD_ENABLE]);
+  EXPECT_FALSE(PackLinked(kWhenGiven, *r).isMember("EventHandler"));
+  EXPECT_EQ(1, ParseLinked(kWhenGiven, R"({"EventHandler": 5})")->given);
+
+  // Eight days: the block keeps its holiday; the week is written over the
+  // first seven, the rule's grid replaces them all; "Lamp" travels inside.
+  std::string days;
+  for (int d = 0; d < 8; ++d)
+    days += std::string(d ? "," : "") + "[\"1 0" + std::to_string(d) + ":00:00-09:00:00\"]";
+  const std::string doc = R"({"EventHandler": {"Lamp": 3, "TimeSection": [)" + days + "]}}";
+  r = ParseLinked(kWeek, doc.c_str());
+  EXPECT_EQ(3, r->lamp);
+  EXPECT_EQ(6, r->week.sections[6][0].beginHour);
+  r->week.sections[0][0].endHour = 23;
+  Json::Value out = PackLinked(kWeek, *r);
+  const Json::Value& sections = Member(Member(out, "EventHandler"), "TimeSection");
+  EXPECT_EQ("1 00:00:00-23:00:00", kova::ToText(Element(Element(sections, 0), 0)));
+  EXPECT_EQ("1 07:00:00-09:00:00", kova::ToText(Element(Element(sections, 7), 0)));
+  EXPECT_EQ(6u, Count(Element(sections, 0)));
+  EXPECT_EQ(3, kova::ToInt32(Member(Member(out, "EventHandler"), "Lamp")));
+
+  r = ParseLinked(kGrid, doc.c_str());
+  EXPECT_EQ(6, r->grid.sections[6][0].beginHour);
+  EXPECT_EQ(1, r->block.schedule.holidayEnabled);
+  out = PackLinked(kGrid, *r);
+  EXPECT_EQ(7u, Count(Member(Member(out, "EventHandler"), "TimeSection")));
+  EXPECT_EQ(10u, Count(Element(Member(Member(out, "EventHandler"), "TimeSection"), 0)));
+  EXPECT_FALSE(Member(out, "EventHandler").isMember("Lamp"));
+}
+
 TEST(EventHandler, PackerReadsNoFurtherThanTheRecordWhateverItHolds) {
   // Every byte 0xFF: all flags set, counts -1, texts without terminators.
   auto r = Zeroed();

@@ -237,7 +237,7 @@ TEST(HolidaySchedule, ReadWithAGridAsTwoSeparateReads) {
     std::memset(&g2, 0x5A, sizeof g2);
     int32_t days1 = -1, days2 = -1;
     const kova::SectionGrid grid = {&g1.sections[0][0], 7, 10, &days1};
-    const bool r1 = kova::ParseHolidayScheduleAndGrid(json, &h1, grid);
+    const bool r1 = kova::ParseHolidaySchedule(json, &h1, kova::SchedulesBeside{grid, nullptr});
     const bool r2 = kova::ParseHolidaySchedule(json, &h2);
     kova::ParseTimeSectionGrid(json, &g2.sections[0][0], 7, 10, &days2);
     EXPECT_EQ(r2, r1) << text;
