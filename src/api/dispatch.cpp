@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <vector>
 
+#include "common/base/ascii.h"
 #include "common/base/log.h"
 
 namespace kova {
 
 namespace {
-
-char FoldAscii(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
 
 // The driver-served names close both lists.
 int DriverIndex(int i, size_t listCount) {
@@ -26,24 +25,12 @@ int NotBuilt(const char* name, const char* direction) {
 
 }  // namespace
 
-bool NameEquals(const char* a, const char* b) {
-  for (;; ++a, ++b) {
-    if (FoldAscii(*a) != FoldAscii(*b)) return false;
-    if (*a == '\0') return true;
-  }
-}
+bool NameEquals(const char* a, const char* b) { return AsciiEqualNoCase(a, b); }
 
 namespace {
 
 // Orders names as NameEquals compares them: byte by byte after folding A-Z.
-int FoldedCompare(const char* a, const char* b) {
-  for (;; ++a, ++b) {
-    const unsigned char x = static_cast<unsigned char>(FoldAscii(*a));
-    const unsigned char y = static_cast<unsigned char>(FoldAscii(*b));
-    if (x != y) return x < y ? -1 : 1;
-    if (x == '\0') return 0;
-  }
-}
+int FoldedCompare(const char* a, const char* b) { return AsciiCompareNoCase(a, b); }
 
 // The list indices ordered by folded name, made once, so that a lookup is
 // a binary search rather than a walk through up to 293 names (a fifth of a
