@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "common/base/ascii.h"
 #include "common/base/log.h"
 
 namespace kova {
@@ -52,8 +53,6 @@ const size_t kPackNameCount = sizeof kPackNames / sizeof kPackNames[0];
 
 namespace {
 
-char FoldAscii(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
-
 // A name whose translator is not built yet fails: never a silent success
 // with an empty record. One line to the error log says which.
 int NotBuilt(const char* name, const char* direction) {
@@ -75,24 +74,9 @@ uint32_t RecordSizeOf(const NameEntry* list, size_t count, int i) {
 
 }  // namespace
 
-bool NameEquals(const char* a, const char* b) {
-  for (;; ++a, ++b) {
-    if (FoldAscii(*a) != FoldAscii(*b)) return false;
-    if (*a == '\0') return true;
-  }
-}
+bool NameEquals(const char* a, const char* b) { return AsciiEqualNoCase(a, b); }
 
 namespace {
-
-// Orders names as NameEquals compares them: byte by byte after folding A-Z.
-int FoldedCompare(const char* a, const char* b) {
-  for (;; ++a, ++b) {
-    const unsigned char x = static_cast<unsigned char>(FoldAscii(*a));
-    const unsigned char y = static_cast<unsigned char>(FoldAscii(*b));
-    if (x != y) return x < y ? -1 : 1;
-    if (x == '\0') return 0;
-  }
-}
 
 // The list indices ordered by folded name, made once, so that a lookup is
 // a binary search rather than a walk through up to 293 names (a fifth of a
@@ -101,17 +85,18 @@ template <typename Entry>
 std::vector<int> FoldedOrder(const Entry* list, size_t count) {
   std::vector<int> order(count);
   for (size_t i = 0; i < count; ++i) order[i] = static_cast<int>(i);
-  std::stable_sort(order.begin(), order.end(),
-                   [list](int a, int b) { return FoldedCompare(list[a].name, list[b].name) < 0; });
+  std::stable_sort(order.begin(), order.end(), [list](int a, int b) {
+    return AsciiCompareNoCase(list[a].name, list[b].name) < 0;
+  });
   return order;
 }
 
 template <typename Entry>
 int FindIn(const Entry* list, const std::vector<int>& order, const char* name) {
   const auto it = std::lower_bound(order.begin(), order.end(), name, [list](int i, const char* n) {
-    return FoldedCompare(list[i].name, n) < 0;
+    return AsciiCompareNoCase(list[i].name, n) < 0;
   });
-  return it != order.end() && FoldedCompare(list[*it].name, name) == 0 ? *it : -1;
+  return it != order.end() && AsciiCompareNoCase(list[*it].name, name) == 0 ? *it : -1;
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
 #include "events/event_records.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdlib>
 
+#include "config/analyse/rule_types.h"
 #include "kova/records/events.h"
 
 namespace kova {
@@ -288,64 +288,28 @@ constexpr EventRecordKind Kind(const Field (&fields)[N]) {
   return EventRecordKind{sizeof(Record), FieldTable{fields, N}};
 }
 
-enum Family : uint8_t {
-  kGeneral,
-  kCommonOnly,
-  kCrossing,
-  kPresence,
-  kCrowd,
-  kFace,
-  kTraffic,
-  kAbnormality,
+// By EventFamily: the family of a code is in its row of the rule types.
+constexpr EventRecordKind kFamilyKinds[] = {
+    Kind<GeneralEventInfo>(kGeneralFields),
+    Kind<CrossingEventInfo>(kCrossingFields),
+    Kind<PresenceEventInfo>(kPresenceFields),
+    Kind<CrowdEventInfo>(kCrowdFields),
+    Kind<FaceEventInfo>(kFaceFields),
+    Kind<TrafficEventInfo>(kTrafficFields),
+    Kind<AbnormalityEventInfo>(kAbnormalityFields),
 };
+static_assert(sizeof kFamilyKinds / sizeof kFamilyKinds[0] == kAbnormalityEvents + 1,
+              "one record per event family");
 
-constexpr EventRecordKind kKinds[] = {
-    Kind<GeneralEventInfo>(kGeneralFields),   Kind<EventCommon>(kCommonFields),
-    Kind<CrossingEventInfo>(kCrossingFields), Kind<PresenceEventInfo>(kPresenceFields),
-    Kind<CrowdEventInfo>(kCrowdFields),       Kind<FaceEventInfo>(kFaceFields),
-    Kind<TrafficEventInfo>(kTrafficFields),   Kind<AbnormalityEventInfo>(kAbnormalityFields),
-};
-
-struct FamilyCodes {
-  Family family;
-  uint16_t codes[64];  // ends at the first 0
-};
-
-// The analysis type codes of each family; every other non-zero code is
-// general. (The lists are the ones documented with the records.)
-constexpr FamilyCodes kFamilyCodes[] = {
-    {kCrossing, {2, 3, 275, 276, 287, 296}},
-    {kPresence, {4, 5, 6, 7, 8, 277, 278, 286, 297, 341, 342, 343, 359}},
-    {kCrowd, {9, 10, 11, 14, 15, 16, 274, 291}},
-    {kFace, {26, 279}},
-    {kTraffic, {21,  22,  23,  24,  25,  27,  256, 257, 258, 259, 260, 261, 262, 263, 264, 265, 266,
-                267, 268, 270, 271, 273, 280, 281, 282, 283, 288, 292, 293, 295, 298, 299, 300, 301,
-                302, 303, 308, 310, 311, 312, 313, 314, 315, 316, 355, 360, 361, 368, 514}},
-    {kAbnormality, {17, 18, 19, 20, 290, 294, 339, 340, 349}},
-};
-
-constexpr uint32_t kCodeLimit = 1024;  // analysis type codes are below it
-
-constexpr std::array<uint8_t, kCodeLimit> MakeFamilyOfCode() {
-  std::array<uint8_t, kCodeLimit> families{};
-  families[0] = kCommonOnly;
-  for (const FamilyCodes& f : kFamilyCodes) {
-    for (uint16_t code : f.codes) {
-      if (code == 0) break;
-      families[code] = f.family;
-    }
-  }
-  return families;
-}
-
-constexpr std::array<uint8_t, kCodeLimit> kFamilyOfCode = MakeFamilyOfCode();
+// An event whose "Code" names no rule type.
+constexpr EventRecordKind kCommonOnlyKind = Kind<EventCommon>(kCommonFields);
 
 }  // namespace
 
 const FieldTable kEventObjectTable = Description<EventObject>::table;
 
 const EventRecordKind& EventRecordOf(uint32_t code) {
-  return kKinds[code < kCodeLimit ? kFamilyOfCode[code] : static_cast<uint8_t>(kGeneral)];
+  return code == 0 ? kCommonOnlyKind : kFamilyKinds[RuleEventFamily(code)];
 }
 
 void* BuildEventRecord(uint32_t code, uint32_t dictionaryCode, const Json::Value& event,

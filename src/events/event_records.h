@@ -13,7 +13,8 @@ namespace kova {
 
 // The record an event of `code` is delivered with: its size and the table
 // that reads it from "Data" (and releases it). Code 0 gets EventCommon
-// alone, every other code its family's record.
+// alone, every other code the record of its family, as its rule type's row
+// gives it (GeneralEventInfo for a code without a row).
 struct EventRecordKind {
   uint32_t size;
   FieldTable table;

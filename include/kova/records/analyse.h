@@ -20,8 +20,8 @@
 //      the shared blocks below (KOVA_POINT_LIST, KOVA_TRIGGER_POSITIONS,
 //      KOVA_NAME_LIST, KOVA_SIZE_FILTER) and the enumeration tables of
 //      src/common/blocks/analyse_blocks.h;
-//   3. `RuleType::Of<TheRule>(table)` bound to its code in the row of
-//      RuleConfigTable (src/config/analyse/rule_config.cpp).
+//   3. its description, `RuleTypeFor<TheRule>`, named in the row of its
+//      code in the table of rule types (src/config/analyse/rule_types.cpp).
 #ifndef KOVA_RECORDS_ANALYSE_H_
 #define KOVA_RECORDS_ANALYSE_H_
 

@@ -4,8 +4,10 @@
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
+#include <string_view>
 #include <utility>
 
+#include "common/base/ascii.h"
 #include "common/base/log.h"
 #include "common/fields/fields.h"
 #include "common/json/json.h"
@@ -14,19 +16,8 @@ namespace kova {
 
 namespace {
 
-bool TextEquals(const char* a, const std::string& b, bool exact) {
-  const size_t n = std::strlen(a);
-  if (n != b.size()) return false;
-  for (size_t i = 0; i < n; ++i) {
-    char x = a[i];
-    char y = b[i];
-    if (!exact) {
-      if (x >= 'A' && x <= 'Z') x = static_cast<char>(x - 'A' + 'a');
-      if (y >= 'A' && y <= 'Z') y = static_cast<char>(y - 'A' + 'a');
-    }
-    if (x != y) return false;
-  }
-  return true;
+bool TextEquals(std::string_view name, std::string_view text, bool exact) {
+  return exact ? name == text : AsciiEqualNoCase(name, text);
 }
 
 void WriteFlag(unsigned char* record, const Field& f, int64_t value) {

@@ -127,18 +127,18 @@ constexpr Field kShootingScoreConfig[] = {
 
 }  // namespace
 
-const RuleType kFireRuleType = RuleType::Of<FireRule>(kFireConfig<FireRule>);
-const RuleType kRioterRuleType = RuleType::Of<RioterRule>(kFireConfig<RioterRule>);
-const RuleType kFightRuleType = RuleType::Of<FightRule>(kFightConfig);
-const RuleType kMoveRuleType = RuleType::Of<MoveRule>(kMoveConfig);
-const RuleType kRunRuleType = RuleType::Of<RunRule>(kRunConfig);
-const RuleType kVideoAbnormalRuleType = RuleType::Of<VideoAbnormalRule>(kVideoAbnormalConfig);
-const RuleType kPrisonerRiseRuleType = RuleType::Of<PrisonerRiseRule>(kPrisonerRiseConfig);
-const RuleType kLeaveRuleType = RuleType::Of<LeaveRule>(kLeaveConfig);
-const RuleType kGetOutBedRuleType = RuleType::Of<GetOutBedRule>(kGetOutBedConfig<GetOutBedRule>);
-const RuleType kOnDutyRuleType = RuleType::Of<OnDutyRule>(kGetOutBedConfig<OnDutyRule>);
-const RuleType kPatrolRuleType = RuleType::Of<PatrolRule>(kPatrolConfig);
-const RuleType kStandUpRuleType = RuleType::Of<StandUpRule>(kStandUpConfig);
-const RuleType kShootingScoreRuleType = RuleType::Of<ShootingScoreRule>(kShootingScoreConfig);
+const RuleTypeFor<FireRule> kFireRuleType(kFireConfig<FireRule>);
+const RuleTypeFor<RioterRule> kRioterRuleType(kFireConfig<RioterRule>);
+const RuleTypeFor<FightRule> kFightRuleType(kFightConfig);
+const RuleTypeFor<MoveRule> kMoveRuleType(kMoveConfig);
+const RuleTypeFor<RunRule> kRunRuleType(kRunConfig);
+const RuleTypeFor<VideoAbnormalRule> kVideoAbnormalRuleType(kVideoAbnormalConfig);
+const RuleTypeFor<PrisonerRiseRule> kPrisonerRiseRuleType(kPrisonerRiseConfig);
+const RuleTypeFor<LeaveRule> kLeaveRuleType(kLeaveConfig);
+const RuleTypeFor<GetOutBedRule> kGetOutBedRuleType(kGetOutBedConfig<GetOutBedRule>);
+const RuleTypeFor<OnDutyRule> kOnDutyRuleType(kGetOutBedConfig<OnDutyRule>);
+const RuleTypeFor<PatrolRule> kPatrolRuleType(kPatrolConfig);
+const RuleTypeFor<StandUpRule> kStandUpRuleType(kStandUpConfig);
+const RuleTypeFor<ShootingScoreRule> kShootingScoreRuleType(kShootingScoreConfig);
 
 }  // namespace kova

@@ -32,9 +32,9 @@ constexpr Field kHeatMapConfig[] = {
 
 }  // namespace
 
-const RuleType kFlowStatRuleType = RuleType::Of<FlowStatRule>(kFlowStatConfig);
-const RuleType kNumberStatRuleType = RuleType::Of<NumberStatRule>(kNumberStatConfig);
-const RuleType kHeatMapRuleType = RuleType::Of<HeatMapRule>(kHeatMapConfig);
-const RuleType kQueueRuleType = RuleType::Of<QueueRule>();
+const RuleTypeFor<FlowStatRule> kFlowStatRuleType(kFlowStatConfig);
+const RuleTypeFor<NumberStatRule> kNumberStatRuleType(kNumberStatConfig);
+const RuleTypeFor<HeatMapRule> kHeatMapRuleType(kHeatMapConfig);
+const RuleTypeFor<QueueRule> kQueueRuleType;
 
 }  // namespace kova

@@ -38,7 +38,7 @@ constexpr Field kCrossRegionConfig[] = {
 
 }  // namespace
 
-const RuleType kCrossLineRuleType = RuleType::Of<CrossLineRule>(kCrossLineConfig);
-const RuleType kCrossRegionRuleType = RuleType::Of<CrossRegionRule>(kCrossRegionConfig);
+const RuleTypeFor<CrossLineRule> kCrossLineRuleType(kCrossLineConfig);
+const RuleTypeFor<CrossRegionRule> kCrossRegionRuleType(kCrossRegionConfig);
 
 }  // namespace kova

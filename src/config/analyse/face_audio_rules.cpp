@@ -36,8 +36,8 @@ constexpr Field kAudioAbnormalConfig[] = {
 
 }  // namespace
 
-const RuleType kFaceDetectionRuleType = RuleType::Of<FaceDetectionRule>(kFaceDetectionConfig);
-const RuleType kFaceRecognitionRuleType = RuleType::Of<FaceRecognitionRule>(kFaceRecognitionConfig);
-const RuleType kAudioAbnormalRuleType = RuleType::Of<AudioAbnormalRule>(kAudioAbnormalConfig);
+const RuleTypeFor<FaceDetectionRule> kFaceDetectionRuleType(kFaceDetectionConfig);
+const RuleTypeFor<FaceRecognitionRule> kFaceRecognitionRuleType(kFaceRecognitionConfig);
+const RuleTypeFor<AudioAbnormalRule> kAudioAbnormalRuleType(kAudioAbnormalConfig);
 
 }  // namespace kova

@@ -56,11 +56,11 @@ constexpr Field kRetrogradeConfig[] = {
 
 }  // namespace
 
-const RuleType kCrossFenceRuleType = RuleType::Of<CrossFenceRule>(kCrossFenceConfig);
-const RuleType kLeftRuleType = RuleType::Of<LeftRule>(kLeftConfig);
-const RuleType kStayRuleType = RuleType::Of<StayRule>(kStayConfig);
-const RuleType kPreservationRuleType = RuleType::Of<PreservationRule>(kPreservationConfig);
-const RuleType kClimbRuleType = RuleType::Of<ClimbRule>(kClimbConfig);
-const RuleType kRetrogradeRuleType = RuleType::Of<RetrogradeRule>(kRetrogradeConfig);
+const RuleTypeFor<CrossFenceRule> kCrossFenceRuleType(kCrossFenceConfig);
+const RuleTypeFor<LeftRule> kLeftRuleType(kLeftConfig);
+const RuleTypeFor<StayRule> kStayRuleType(kStayConfig);
+const RuleTypeFor<PreservationRule> kPreservationRuleType(kPreservationConfig);
+const RuleTypeFor<ClimbRule> kClimbRuleType(kClimbConfig);
+const RuleTypeFor<RetrogradeRule> kRetrogradeRuleType(kRetrogradeConfig);
 
 }  // namespace kova

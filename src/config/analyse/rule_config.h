@@ -7,8 +7,8 @@
 // Recipe for binding a rule type (a record, a table, a row):
 //
 //   1. kova/records/analyse_rules.h (or analyse_traffic_rules.h): the
-//      record, with KOVA_RULE_LAYOUT (its size is the body size of its code
-//      in rule_types.cpp) and static_asserts on its offsets:
+//      record, with KOVA_RULE_LAYOUT (its size is the body size of its
+//      code) and static_asserts on its offsets:
 //        typedef struct FireRule {
 //          RuleHead head;
 //          PointList detectRegion;   // "DetectRegion"
@@ -24,13 +24,15 @@
 //            KOVA_F(FireRule, minDuration, "MinDuration", kInt),
 //            KOVA_F(FireRule, sensitivity, "Sensitivity", kInt),
 //        };
-//        const RuleType kFireRuleType = RuleType::Of<FireRule>(kFireConfig);
-//      (a type without keys of its own: RuleType::Of<Rec>(); types with
+//        const RuleTypeFor<FireRule> kFireRuleType(kFireConfig);
+//      (a type without keys of its own: RuleTypeFor<Rec> kX; types with
 //      the same keys in bodies of different sizes: one table written as a
 //      variable template over the record, kFireConfig<Rec>); declare it
 //      below;
-//   3. rule_config.cpp: put &kFireRuleType in its code's row(s) of
-//      kRuleConfigTable (a type serving several codes goes in each row).
+//   3. rule_types.cpp: name it in its code's row(s) of kRuleTypeRows with
+//      the body size the devices give the code, which the record must be:
+//        Carried<341444>("FireDetection", 12, kFireRuleType, kGeneralEvents),
+//      (a type serving several codes is in each of their rows).
 //
 // A "Config" key that is also a member of the rule object ("TrackEnable")
 // gets a field of its own in the type's record: RuleHead keeps the rule
@@ -46,6 +48,8 @@
 
 #include "common/fields/field_table.h"
 #include "kova/records/analyse.h"
+#include "kova/records/analyse_rules.h"
+#include "kova/records/analyse_traffic_rules.h"
 
 namespace kova {
 
@@ -61,16 +65,7 @@ struct RuleType {
   const FieldTable* head;  // the rule object's members at the record's start
   FieldTable config;       // its "Config" keys, over the whole record
 
-  template <typename Rec, size_t N>
-  static constexpr RuleType Of(const Field (&config)[N]) {
-    return Laid<Rec>(FieldTable{config, N});
-  }
-  template <typename Rec>
-  static constexpr RuleType Of() {
-    return Laid<Rec>(FieldTable{nullptr, 0});
-  }
-
- private:
+ protected:
   template <typename Rec>
   static constexpr RuleType Laid(FieldTable config) {
     using Head = decltype(Rec::head);
@@ -85,19 +80,17 @@ struct RuleType {
   }
 };
 
-// One row of RuleConfigTable: a rule type code and its description.
-struct RuleConfigRow {
-  uint32_t code;
-  const RuleType* type;
+// The description of a rule type made from its record, which it carries as
+// its own type: the table of rule types learns the record (and with it the
+// body size) from the description it names, at compile time.
+template <typename Rec>
+struct RuleTypeFor : RuleType {
+  template <size_t N>
+  constexpr explicit RuleTypeFor(const Field (&config)[N])
+      : RuleType(Laid<Rec>(FieldTable{config, N})) {}
+  // A type without "Config" keys of its own.
+  constexpr RuleTypeFor() : RuleType(Laid<Rec>(FieldTable{nullptr, 0})) {}
 };
-
-// All 71 types the rule list carries, in the devices' table order.
-extern const RuleConfigRow kRuleConfigTable[];
-extern const size_t kRuleConfigRowCount;
-
-// The description of `code` (linear scan of the table); null when the
-// code has no row.
-const RuleType* FindRuleType(uint32_t code);
 
 // Fills the cleared rule record at `body` from the rule object: the head,
 // the type's "Config" keys and the linkage part. `body` holds
@@ -110,59 +103,59 @@ void PackRuleBody(const unsigned char* body, const RuleType& type, Json::Value& 
 
 // The bound rule types, by the file that describes them.
 // cross_rules.cpp
-extern const RuleType kCrossLineRuleType;
-extern const RuleType kCrossRegionRuleType;
+extern const RuleTypeFor<CrossLineRule> kCrossLineRuleType;
+extern const RuleTypeFor<CrossRegionRule> kCrossRegionRuleType;
 // perimeter_rules.cpp
-extern const RuleType kCrossFenceRuleType;
-extern const RuleType kLeftRuleType;
-extern const RuleType kStayRuleType;
-extern const RuleType kPreservationRuleType;
-extern const RuleType kClimbRuleType;
-extern const RuleType kRetrogradeRuleType;
+extern const RuleTypeFor<CrossFenceRule> kCrossFenceRuleType;
+extern const RuleTypeFor<LeftRule> kLeftRuleType;
+extern const RuleTypeFor<StayRule> kStayRuleType;
+extern const RuleTypeFor<PreservationRule> kPreservationRuleType;
+extern const RuleTypeFor<ClimbRule> kClimbRuleType;
+extern const RuleTypeFor<RetrogradeRule> kRetrogradeRuleType;
 // behaviour_rules.cpp
-extern const RuleType kFireRuleType;
-extern const RuleType kRioterRuleType;
-extern const RuleType kFightRuleType;
-extern const RuleType kMoveRuleType;
-extern const RuleType kRunRuleType;
-extern const RuleType kVideoAbnormalRuleType;
-extern const RuleType kPrisonerRiseRuleType;
-extern const RuleType kLeaveRuleType;
-extern const RuleType kGetOutBedRuleType;
-extern const RuleType kOnDutyRuleType;
-extern const RuleType kPatrolRuleType;
-extern const RuleType kStandUpRuleType;
-extern const RuleType kShootingScoreRuleType;
+extern const RuleTypeFor<FireRule> kFireRuleType;
+extern const RuleTypeFor<RioterRule> kRioterRuleType;
+extern const RuleTypeFor<FightRule> kFightRuleType;
+extern const RuleTypeFor<MoveRule> kMoveRuleType;
+extern const RuleTypeFor<RunRule> kRunRuleType;
+extern const RuleTypeFor<VideoAbnormalRule> kVideoAbnormalRuleType;
+extern const RuleTypeFor<PrisonerRiseRule> kPrisonerRiseRuleType;
+extern const RuleTypeFor<LeaveRule> kLeaveRuleType;
+extern const RuleTypeFor<GetOutBedRule> kGetOutBedRuleType;
+extern const RuleTypeFor<OnDutyRule> kOnDutyRuleType;
+extern const RuleTypeFor<PatrolRule> kPatrolRuleType;
+extern const RuleTypeFor<StandUpRule> kStandUpRuleType;
+extern const RuleTypeFor<ShootingScoreRule> kShootingScoreRuleType;
 // counting_rules.cpp
-extern const RuleType kFlowStatRuleType;
-extern const RuleType kNumberStatRuleType;
-extern const RuleType kHeatMapRuleType;
-extern const RuleType kQueueRuleType;
+extern const RuleTypeFor<FlowStatRule> kFlowStatRuleType;
+extern const RuleTypeFor<NumberStatRule> kNumberStatRuleType;
+extern const RuleTypeFor<HeatMapRule> kHeatMapRuleType;
+extern const RuleTypeFor<QueueRule> kQueueRuleType;
 // face_audio_rules.cpp
-extern const RuleType kFaceDetectionRuleType;
-extern const RuleType kFaceRecognitionRuleType;
-extern const RuleType kAudioAbnormalRuleType;
+extern const RuleTypeFor<FaceDetectionRule> kFaceDetectionRuleType;
+extern const RuleTypeFor<FaceRecognitionRule> kFaceRecognitionRuleType;
+extern const RuleTypeFor<AudioAbnormalRule> kAudioAbnormalRuleType;
 // traffic_rules.cpp
-extern const RuleType kTrafficControlRuleType;
-extern const RuleType kTrafficAccidentRuleType;
-extern const RuleType kTrafficJunctionRuleType;
-extern const RuleType kTrafficGateRuleType;
-extern const RuleType kTrafficJamRuleType;
-extern const RuleType kTrafficParkingRuleType;
-extern const RuleType kTrafficRunRedLightRuleType;
-extern const RuleType kTrafficRouteRuleType;
-extern const RuleType kTrafficBusRouteRuleType;
-extern const RuleType kTrafficOverYellowLineRuleType;
-extern const RuleType kTrafficUTurnRuleType;
-extern const RuleType kTrafficSpeedRuleType;
-extern const RuleType kTrafficTollGateRuleType;
-extern const RuleType kTrafficRetrogradeRuleType;
-extern const RuleType kTrafficParkingSpaceRuleType;
-extern const RuleType kTrafficSafeBeltRuleType;
-extern const RuleType kTrafficPedestrainRuleType;
-extern const RuleType kTrafficPlainRuleType;
-extern const RuleType kTrafficPassNotInOrderRuleType;
-extern const RuleType kTrafficParkingOnYellowBoxRuleType;
+extern const RuleTypeFor<TrafficControlRule> kTrafficControlRuleType;
+extern const RuleTypeFor<TrafficAccidentRule> kTrafficAccidentRuleType;
+extern const RuleTypeFor<TrafficJunctionRule> kTrafficJunctionRuleType;
+extern const RuleTypeFor<TrafficGateRule> kTrafficGateRuleType;
+extern const RuleTypeFor<TrafficJamRule> kTrafficJamRuleType;
+extern const RuleTypeFor<TrafficParkingRule> kTrafficParkingRuleType;
+extern const RuleTypeFor<TrafficRunRedLightRule> kTrafficRunRedLightRuleType;
+extern const RuleTypeFor<TrafficRouteRule> kTrafficRouteRuleType;
+extern const RuleTypeFor<TrafficBusRouteRule> kTrafficBusRouteRuleType;
+extern const RuleTypeFor<TrafficOverYellowLineRule> kTrafficOverYellowLineRuleType;
+extern const RuleTypeFor<TrafficUTurnRule> kTrafficUTurnRuleType;
+extern const RuleTypeFor<TrafficSpeedRule> kTrafficSpeedRuleType;
+extern const RuleTypeFor<TrafficTollGateRule> kTrafficTollGateRuleType;
+extern const RuleTypeFor<TrafficRetrogradeRule> kTrafficRetrogradeRuleType;
+extern const RuleTypeFor<TrafficParkingSpaceRule> kTrafficParkingSpaceRuleType;
+extern const RuleTypeFor<TrafficSafeBeltRule> kTrafficSafeBeltRuleType;
+extern const RuleTypeFor<TrafficPedestrainRule> kTrafficPedestrainRuleType;
+extern const RuleTypeFor<TrafficPlainRule> kTrafficPlainRuleType;
+extern const RuleTypeFor<TrafficPassNotInOrderRule> kTrafficPassNotInOrderRuleType;
+extern const RuleTypeFor<TrafficParkingOnYellowBoxRule> kTrafficParkingOnYellowBoxRuleType;
 
 }  // namespace kova
 

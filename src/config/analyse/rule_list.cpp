@@ -54,12 +54,16 @@ uint32_t SceneClass(const Json::Value& cls) {
     KOVA_REPORT(kErrMalformedData, "This class type is not exist!");
     return 0;
   }
-  const std::string text = ToText(cls);
-  const uint32_t c = text.find('\0') == std::string::npos ? SceneClassFromName(text.c_str()) : 0;
+  int32_t c = 0;
+  EnumValue(kSceneClassNames, cls, &c);
   // The devices' own words, misspelling included.
   if (c == 0) KOVA_REPORT(kErrMalformedData, "This calss type is unknown!");
-  return c;
+  return static_cast<uint32_t>(c);
 }
+
+// "Class" as an entry packs it; a class without a pack name packs as "".
+constexpr Field kPackedClass = KOVA_ENUM(RuleEntryHeader, sceneClass, "Class", kSceneClassPackNames)
+                                   .UnnamedAs(Unnamed::kEmptyText);
 
 // First pass over rule `rule`: false when its type is one the list does not
 // carry. A rule without "Type" passes here with code 0 and fails when its
@@ -152,7 +156,7 @@ bool PackEntry(const unsigned char* at, size_t left, Json::Value& rules, size_t*
   Json::Value& rule = Append(rules, Json::Value(Json::objectValue));
   PackRuleBody(body, *type, rule);
   SetMember(rule, "Type") = RuleTypeName(header.ruleType);
-  SetMember(rule, "Class") = SceneClassPackName(header.sceneClass);
+  PackFields(&header, rule, &kPackedClass, 1);
   *used = kHeaderSize + header.bodySize;
   return true;
 }

@@ -115,29 +115,26 @@ constexpr Field kPedestrainConfig[] = {
 
 }  // namespace
 
-const RuleType kTrafficControlRuleType = RuleType::Of<TrafficControlRule>(kTrafficControlConfig);
-const RuleType kTrafficAccidentRuleType =
-    RuleType::Of<TrafficAccidentRule>(kRegionConfig<TrafficAccidentRule>);
-const RuleType kTrafficJunctionRuleType = RuleType::Of<TrafficJunctionRule>(kJunctionConfig);
-const RuleType kTrafficGateRuleType = RuleType::Of<TrafficGateRule>(kGateConfig);
-const RuleType kTrafficJamRuleType = RuleType::Of<TrafficJamRule>(kJamConfig);
-const RuleType kTrafficParkingRuleType = RuleType::Of<TrafficParkingRule>(kParkingConfig);
-const RuleType kTrafficRunRedLightRuleType =
-    RuleType::Of<TrafficRunRedLightRule>(kRunRedLightConfig);
-const RuleType kTrafficRouteRuleType = RuleType::Of<TrafficRouteRule>(kRouteConfig);
-const RuleType kTrafficBusRouteRuleType = RuleType::Of<TrafficBusRouteRule>(kBusRouteConfig);
-const RuleType kTrafficOverYellowLineRuleType =
-    RuleType::Of<TrafficOverYellowLineRule>(kRegionConfig<TrafficOverYellowLineRule>);
-const RuleType kTrafficUTurnRuleType = RuleType::Of<TrafficUTurnRule>(kUTurnConfig);
-const RuleType kTrafficSpeedRuleType = RuleType::Of<TrafficSpeedRule>(kSpeedConfig);
-const RuleType kTrafficTollGateRuleType = RuleType::Of<TrafficTollGateRule>(kTollGateConfig);
-const RuleType kTrafficRetrogradeRuleType = RuleType::Of<TrafficRetrogradeRule>(kRetrogradeConfig);
-const RuleType kTrafficParkingSpaceRuleType =
-    RuleType::Of<TrafficParkingSpaceRule>(kParkingSpaceConfig);
-const RuleType kTrafficSafeBeltRuleType = RuleType::Of<TrafficSafeBeltRule>(kSafeBeltConfig);
-const RuleType kTrafficPedestrainRuleType = RuleType::Of<TrafficPedestrainRule>(kPedestrainConfig);
-const RuleType kTrafficPlainRuleType = RuleType::Of<TrafficPlainRule>();
-const RuleType kTrafficPassNotInOrderRuleType = RuleType::Of<TrafficPassNotInOrderRule>();
-const RuleType kTrafficParkingOnYellowBoxRuleType = RuleType::Of<TrafficParkingOnYellowBoxRule>();
+const RuleTypeFor<TrafficControlRule> kTrafficControlRuleType(kTrafficControlConfig);
+const RuleTypeFor<TrafficAccidentRule> kTrafficAccidentRuleType(kRegionConfig<TrafficAccidentRule>);
+const RuleTypeFor<TrafficJunctionRule> kTrafficJunctionRuleType(kJunctionConfig);
+const RuleTypeFor<TrafficGateRule> kTrafficGateRuleType(kGateConfig);
+const RuleTypeFor<TrafficJamRule> kTrafficJamRuleType(kJamConfig);
+const RuleTypeFor<TrafficParkingRule> kTrafficParkingRuleType(kParkingConfig);
+const RuleTypeFor<TrafficRunRedLightRule> kTrafficRunRedLightRuleType(kRunRedLightConfig);
+const RuleTypeFor<TrafficRouteRule> kTrafficRouteRuleType(kRouteConfig);
+const RuleTypeFor<TrafficBusRouteRule> kTrafficBusRouteRuleType(kBusRouteConfig);
+const RuleTypeFor<TrafficOverYellowLineRule> kTrafficOverYellowLineRuleType(
+    kRegionConfig<TrafficOverYellowLineRule>);
+const RuleTypeFor<TrafficUTurnRule> kTrafficUTurnRuleType(kUTurnConfig);
+const RuleTypeFor<TrafficSpeedRule> kTrafficSpeedRuleType(kSpeedConfig);
+const RuleTypeFor<TrafficTollGateRule> kTrafficTollGateRuleType(kTollGateConfig);
+const RuleTypeFor<TrafficRetrogradeRule> kTrafficRetrogradeRuleType(kRetrogradeConfig);
+const RuleTypeFor<TrafficParkingSpaceRule> kTrafficParkingSpaceRuleType(kParkingSpaceConfig);
+const RuleTypeFor<TrafficSafeBeltRule> kTrafficSafeBeltRuleType(kSafeBeltConfig);
+const RuleTypeFor<TrafficPedestrainRule> kTrafficPedestrainRuleType(kPedestrainConfig);
+const RuleTypeFor<TrafficPlainRule> kTrafficPlainRuleType;
+const RuleTypeFor<TrafficPassNotInOrderRule> kTrafficPassNotInOrderRuleType;
+const RuleTypeFor<TrafficParkingOnYellowBoxRule> kTrafficParkingOnYellowBoxRuleType;
 
 }  // namespace kova
