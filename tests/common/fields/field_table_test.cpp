@@ -168,7 +168,7 @@ const Case kCases[] = {
     {"sentinel written otherwise", V(i32, kInt).Sentinel(-1), "0", R"({ "V" : 0 })", true},
     {"negative not packed", V(i64, kInt).NonNegative(), "-3", "{  }", false},
     {"bool equals one", V(i32, kInt).PackBoolEqualsOne(), "2", R"({ "V" : false })", false},
-    {"bool non-zero", V(u16, kUInt).PackBool(), "2", R"({ "V" : true })", false},
+    {"bool non-zero", V(u16, kUInt).With(&kova::Field::packAs, kova::PackAs::kBoolNonZero), "2", R"({ "V" : true })", false},
     {"parse only", V(i32, kInt).ParseOnly(), "9", "{  }", false},
     {"pack only", V(i32, kInt).PackOnly(), "9", R"({ "V" : 0 })", false},
     {"packed when a flag is set", V(i32, kInt).WhenAnySet(KOVA_FLAGS(Probe, flag8, flag32)), "4", "{  }", false},

@@ -1,0 +1,32 @@
+// Pieces the field walker's files share (field_values.cpp, field_lists.cpp,
+// field_walker.cpp); not for translators, which use field_table.h.
+#ifndef KOVA_COMMON_FIELDS_FIELD_WALK_H_
+#define KOVA_COMMON_FIELDS_FIELD_WALK_H_
+
+#include <json/value.h>
+
+#include <cstdint>
+
+#include "common/fields/field_table.h"
+
+namespace kova {
+namespace walk {
+
+// Sets the presence flag of `f` in `record` to `value` (fields with a flag).
+void WriteFlag(unsigned char* record, const Field& f, int64_t value);
+// Whether a nested block or list reads a value that is not of its JSON type
+// (as empty).
+bool ReadsAnyType(const Field& f);
+// Whether `f` of `record` is written on pack, by its presence rule.
+bool Present(const unsigned char* record, const Field& f);
+// One scalar of kind f.kind and width f.size.
+bool ParseScalar(const Json::Value& v, unsigned char* p, const Field& f);
+bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out);
+// The list `f` of `record` (its offset and count counted from `record`).
+bool ParseList(const Json::Value& v, unsigned char* record, const Field& f);
+void PackList(const unsigned char* record, const Field& f, Json::Value* out);
+
+}  // namespace walk
+}  // namespace kova
+
+#endif  // KOVA_COMMON_FIELDS_FIELD_WALK_H_
