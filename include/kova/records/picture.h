@@ -73,9 +73,9 @@ typedef struct VideoInModeConfig {
 // ---------------------------------------------------------------------------
 // "SmartMotionDetect": motion detection filtered by object type, per channel.
 typedef struct SmartMotionDetectConfig {
-  int32_t enable;                      // "Enable": 0 or 1 (a JSON boolean)
-  int32_t human;                       // "ObjectTypes"."Human": 0 or 1 (a JSON boolean)
-  int32_t vehicle;                     // "ObjectTypes"."Vehicle": 0 or 1 (a JSON boolean)
+  int32_t enable;                        // "Enable": 0 or 1 (a JSON boolean)
+  int32_t human;                         // "ObjectTypes"."Human": 0 or 1 (a JSON boolean)
+  int32_t vehicle;                       // "ObjectTypes"."Vehicle": 0 or 1 (a JSON boolean)
   char sensitivity[KOVA_VIDEO_IN_TEXT];  // "Sensitivity": "Low", "Middle", "High"
 } SmartMotionDetectConfig;
 
@@ -156,7 +156,7 @@ typedef struct LightingSchemeSection {
 typedef struct LightingSchemeProfile {
   char lightingMode[KOVA_VIDEO_IN_TEXT];  // "LightingMode": "MixMode", "WhiteMode", "NormalMode",
                                           // "InfraredMode", "AIMode", "Off"
-  int32_t scheduleEnable;  // "SchemeSchedule"."Enable": 0 or 1 (a JSON boolean)
+  int32_t scheduleEnable;                 // "SchemeSchedule"."Enable": 0 or 1 (a JSON boolean)
   // "SchemeSchedule"."TimeSectionByWeek": 7 days of up to 6 sections. A day
   // keeps its well-formed texts in order (a text that is not a range and a
   // name is left out); `sectionCount[d]` is the sections kept and pack
@@ -202,11 +202,11 @@ typedef struct VideoInBacklightProfile {
                                   // "SSA"
   char backlightMode[KOVA_VIDEO_IN_TEXT];  // "BacklightMode": "Default", "Region", ...
   char intensityMode[KOVA_VIDEO_IN_TEXT];  // "IntensityMode": "Auto", "Manual", ...
-  int32_t backlightRegion[4];  // "BacklightRegion": [left, top, right, bottom] on a 0-8191 grid
-  int32_t glareInhibition;     // "GlareInhibition": level
-  int32_t intensity;           // "Intensity": strength of the scene adaptation
-  int32_t wideDynamicRange;    // "WideDynamicRange": level
-  char name[KOVA_VIDEO_IN_TEXT];  // "Name": the scene's name, on firmware with named scenes
+  int32_t backlightRegion[4];      // "BacklightRegion": [left, top, right, bottom] on a 0-8191 grid
+  int32_t glareInhibition;         // "GlareInhibition": level
+  int32_t intensity;               // "Intensity": strength of the scene adaptation
+  int32_t wideDynamicRange;        // "WideDynamicRange": level
+  char name[KOVA_VIDEO_IN_TEXT];   // "Name": the scene's name, on firmware with named scenes
   uint8_t backlightModePresent;    // "BacklightMode" given; written only then
   uint8_t intensityModePresent;    // "IntensityMode" given; written only then
   uint8_t backlightRegionPresent;  // "BacklightRegion" given as 4 numbers; written only then
@@ -290,19 +290,19 @@ typedef struct VideoSubColorConfig {
 // "VideoImageControl": flip, mirror, rotation and stabilisation, per
 // channel (no profile level).
 typedef struct VideoImageControlConfig {
-  int32_t flip;                     // "Flip": 0 or 1 (a JSON boolean)
-  int32_t mirror;                   // "Mirror": 0 or 1 (a JSON boolean)
-  int32_t freeze;                   // "Freeze": 0 or 1 (a JSON boolean)
-  int32_t rotate90;                 // "Rotate90": 0 none, 1 clockwise, 2 anticlockwise
-  int32_t stable;                   // "Stable": picture stabilisation, 0 off
-  int32_t horizontalFlip;           // "HorizontalFlip": 0 or 1 (a JSON boolean)
-  int32_t verticalFlip;             // "VerticalFlip": 0 or 1 (a JSON boolean)
+  int32_t flip;                       // "Flip": 0 or 1 (a JSON boolean)
+  int32_t mirror;                     // "Mirror": 0 or 1 (a JSON boolean)
+  int32_t freeze;                     // "Freeze": 0 or 1 (a JSON boolean)
+  int32_t rotate90;                   // "Rotate90": 0 none, 1 clockwise, 2 anticlockwise
+  int32_t stable;                     // "Stable": picture stabilisation, 0 off
+  int32_t horizontalFlip;             // "HorizontalFlip": 0 or 1 (a JSON boolean)
+  int32_t verticalFlip;               // "VerticalFlip": 0 or 1 (a JSON boolean)
   char flipMode[KOVA_VIDEO_IN_TEXT];  // "FlipMode": the firmware's flip mode text
-  uint8_t freezePresent;            // "Freeze" given; written only then
-  uint8_t stablePresent;            // "Stable" given; written only then
-  uint8_t horizontalFlipPresent;    // "HorizontalFlip" given; written only then
-  uint8_t verticalFlipPresent;      // "VerticalFlip" given; written only then
-  uint8_t flipModePresent;          // "FlipMode" given; written only then
+  uint8_t freezePresent;              // "Freeze" given; written only then
+  uint8_t stablePresent;              // "Stable" given; written only then
+  uint8_t horizontalFlipPresent;      // "HorizontalFlip" given; written only then
+  uint8_t verticalFlipPresent;        // "VerticalFlip" given; written only then
+  uint8_t flipModePresent;            // "FlipMode" given; written only then
 } VideoImageControlConfig;
 
 // ---------------------------------------------------------------------------
@@ -356,20 +356,20 @@ typedef struct MediaGlobalConfig {
   int32_t packetLength;  // "PacketLength": minutes of one recording file
   int32_t packetSize;    // "PacketSize": kilobytes of one recording file
   char snapFormatAs[KOVA_VIDEO_IN_TEXT];  // "SnapFormatAs": "MainFormat", "ExtraFormat"
-  uint8_t logRecordPresent;     // "LogRecord" given; written only then
-  uint8_t logEncodePresent;     // "LogEncode" given; written only then
-  uint8_t packetSizePresent;    // "PacketSize" given; written only then
-  uint8_t snapFormatAsPresent;  // "SnapFormatAs" given; written only then
+  uint8_t logRecordPresent;               // "LogRecord" given; written only then
+  uint8_t logEncodePresent;               // "LogEncode" given; written only then
+  uint8_t packetSizePresent;              // "PacketSize" given; written only then
+  uint8_t snapFormatAsPresent;            // "SnapFormatAs" given; written only then
 } MediaGlobalConfig;
 
 // ---------------------------------------------------------------------------
 // "UPnP": port mapping on the router.
 typedef struct UPnPMap {
-  int32_t enable;                                // "Enable": 0 or 1 (a JSON boolean)
-  int32_t innerPort;                             // "InnerPort"
-  int32_t outerPort;                             // "OuterPort"
-  char protocol[KOVA_VIDEO_IN_TEXT];             // "Protocol": "TCP", "UDP"
-  char serviceName[KOVA_PICTURE_ADDRESS_TEXT];   // "ServiceName": "HTTP", "RTSP", ...
+  int32_t enable;                               // "Enable": 0 or 1 (a JSON boolean)
+  int32_t innerPort;                            // "InnerPort"
+  int32_t outerPort;                            // "OuterPort"
+  char protocol[KOVA_VIDEO_IN_TEXT];            // "Protocol": "TCP", "UDP"
+  char serviceName[KOVA_PICTURE_ADDRESS_TEXT];  // "ServiceName": "HTTP", "RTSP", ...
 } UPnPMap;
 
 typedef struct UPnPConfig {

@@ -86,10 +86,11 @@ TEST(LightingScheme, SectionTextsKeepRangeAndModeName) {
 
   std::string week = R"([ [ "06:00:00-18:00:00 Off" ])";
   for (int d = 1; d < 7; ++d) week += R"(, [ "00:00:00-23:59:59 AIMode" ])";
-  EXPECT_EQ("[ { \"LightingMode\" : \"AIMode\", \"SchemeSchedule\" : { \"Enable\" : true, "
-            "\"TimeSectionByWeek\" : " +
-                week + " ] } }, { \"LightingMode\" : \"Off\" } ]\n",
-            kova_test::Pack("LightingScheme", *r));
+  EXPECT_EQ(
+      "[ { \"LightingMode\" : \"AIMode\", \"SchemeSchedule\" : { \"Enable\" : true, "
+      "\"TimeSectionByWeek\" : " +
+          week + " ] } }, { \"LightingMode\" : \"Off\" } ]\n",
+      kova_test::Pack("LightingScheme", *r));
 }
 
 // One object on some firmware, an array per channel on other: pack writes
@@ -106,7 +107,12 @@ TEST(PictureSettings, OneObjectOrPerChannelAndBareText) {
                               : "{ \"Enable\" : true }\n",
               kova_test::Pack("DisableLinkage", *r));
   }
+  // Neither form: a cleared record, packed as the object.
   int rc = 0;
+  const auto neither = ParseAs<DisableLinkageConfig>("DisableLinkage", Doc("5"), &rc);
+  ASSERT_EQ(1, rc);
+  EXPECT_EQ(0, neither->channelCount);
+  EXPECT_EQ("{ \"Enable\" : false }\n", kova_test::Pack("DisableLinkage", *neither));
   const auto flood = ParseAs<FloodLightModeConfig>("FLOODLIGHTMODE", Doc(R"([{"Mode":3}])"), &rc);
   ASSERT_EQ(1, rc);
   EXPECT_EQ("[ { \"Mode\" : 3 } ]\n", kova_test::Pack("FloodLightMode", *flood));
@@ -134,10 +140,10 @@ TEST(VideoInMode, WeekOfSectionsIsKeptWholeOrNotAtAll) {
   EXPECT_EQ(0, r->configExPresent);
   uint32_t ret = 0;
   std::unique_ptr<VideoInModeConfig[]> two(new VideoInModeConfig[2]);
-  ASSERT_EQ(1, KOVA_ParseData("VideoInMode",
-                              Doc(R"([{},{"Config":[0,1,2,0,1],"TimeSection":[["1 00:00"]]}])")
-                                  .c_str(),
-                              two.get(), 2 * sizeof(VideoInModeConfig), &ret));
+  ASSERT_EQ(
+      1, KOVA_ParseData("VideoInMode",
+                        Doc(R"([{},{"Config":[0,1,2,0,1],"TimeSection":[["1 00:00"]]}])").c_str(),
+                        two.get(), 2 * sizeof(VideoInModeConfig), &ret));
   EXPECT_EQ(4, two[1].configCount);
   EXPECT_EQ(0, two[1].timeSectionPresent);
   EXPECT_EQ(0, two[1].timeSection.sections[0][0].enable);

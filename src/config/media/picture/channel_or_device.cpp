@@ -15,8 +15,7 @@ namespace {
 // kChannels: the record's list of channel entries (at offset 0), counted
 // into `channelCount`.
 template <typename Config, const Field& kChannels>
-bool ParseEitherForm(const Json::Value& table, const StepContext& /*ctx*/,
-                     unsigned char* record) {
+bool ParseEitherForm(const Json::Value& table, const StepContext& /*ctx*/, unsigned char* record) {
   Config* r = reinterpret_cast<Config*>(record);
   if (table.isArray()) {
     ParseValue(table, record, kChannels);

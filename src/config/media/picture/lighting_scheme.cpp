@@ -34,9 +34,8 @@ std::string WriteSchemeSection(const LightingSchemeSection& s) {
   const int modeLength = end != nullptr ? static_cast<int>(static_cast<const char*>(end) - s.mode)
                                         : static_cast<int>(sizeof s.mode);
   char text[160];
-  std::snprintf(text, sizeof text, "%02d:%02d:%02d-%02d:%02d:%02d %.*s", s.beginHour,
-                s.beginMinute, s.beginSecond, s.endHour, s.endMinute, s.endSecond, modeLength,
-                s.mode);
+  std::snprintf(text, sizeof text, "%02d:%02d:%02d-%02d:%02d:%02d %.*s", s.beginHour, s.beginMinute,
+                s.beginSecond, s.endHour, s.endMinute, s.endSecond, modeLength, s.mode);
   return text;
 }
 
