@@ -1,6 +1,7 @@
 // kova: the command-line tool for people who debug device integrations.
 //
 //   kova names                                 every name, its directions, built or not
+//                                              (names beyond the protocol's lists marked "added")
 //   kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] [--rule-buffer N]
 //   kova pack NAME RECORD.bin [--size N]
 //   kova roundtrip NAME FILE [--size N] [--sized] [--channel N] [--rule-buffer N]
@@ -128,18 +129,24 @@ Options ParseOptions(int argc, char** argv) {
 }
 
 int Names() {
-  for (size_t i = 0; i < kova::kParseNameCount; ++i) {
-    const char* name = kova::kParseNames[i].name;
-    const int k = kova::FindPackName(name);
-    std::printf("%-45s parse %-9s pack %s\n", name,
-                kova::ParseBuilt(static_cast<int>(i)) ? "built" : "not-built",
-                k < 0 ? "-" : (kova::PackBuilt(k) ? "built" : "not-built"));
-  }
-  for (size_t k = 0; k < kova::kPackNameCount; ++k) {
-    const char* name = kova::kPackNames[k].name;
-    if (kova::FindParseName(name) >= 0) continue;
-    std::printf("%-45s parse %-9s pack %s\n", name, "-",
-                kova::PackBuilt(static_cast<int>(k)) ? "built" : "not-built");
+  // The device protocol's names first, in the parse list's order, then the
+  // pack-only ones; the names added beyond those lists last, marked.
+  for (bool added : {false, true}) {
+    for (size_t i = 0; i < kova::kParseNameCount; ++i) {
+      if (kova::kParseNames[i].added != added) continue;
+      const char* name = kova::kParseNames[i].name;
+      const int k = kova::FindPackName(name);
+      const char* pack = k < 0 ? "-" : (kova::PackBuilt(k) ? "built" : "not-built");
+      std::printf(added ? "%-45s parse %-9s pack %-9s added\n" : "%-45s parse %-9s pack %s\n", name,
+                  kova::ParseBuilt(static_cast<int>(i)) ? "built" : "not-built", pack);
+    }
+    if (added) break;
+    for (size_t k = 0; k < kova::kPackNameCount; ++k) {
+      const char* name = kova::kPackNames[k].name;
+      if (kova::FindParseName(name) >= 0) continue;
+      std::printf("%-45s parse %-9s pack %s\n", name, "-",
+                  kova::PackBuilt(static_cast<int>(k)) ? "built" : "not-built");
+    }
   }
   return 0;
 }

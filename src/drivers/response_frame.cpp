@@ -82,6 +82,17 @@ int ParseObjectMembers(const ResponseFrame& f, const Json::Value& root, const Js
   return 1;
 }
 
+// The first element of `v` that is not null (null when there is none).
+const Json::Value& FirstNonNull(const Json::Value& v) {
+  const Json::Value* found = &Null();
+  ForEachElement(v, [&](uint32_t, const Json::Value& e) {
+    if (e.isNull()) return true;
+    found = &e;
+    return false;
+  });
+  return *found;
+}
+
 // Whether an array table holds one element per record. For records that
 // are arrays themselves, the first element that is not null decides (a
 // channel left empty, [], must not turn the answer into one record).
@@ -89,12 +100,10 @@ bool ListsChannels(const ResponseFrame& f, const Json::Value& table) {
   if (f.arrayDepth > 0) return ArrayDepth(table, 4) == f.arrayDepth;
   if (!table.isArray()) return false;
   if (!f.arrayRecords) return true;
-  const uint32_t n = Count(table);
-  for (uint32_t i = 0; i < n; ++i) {
-    const Json::Value& e = Element(table, i);
-    if (!e.isNull()) return e.isArray();
-  }
-  return false;
+  const Json::Value& first = FirstNonNull(table);
+  if (!first.isArray() || !f.nestedArrayRecords) return first.isArray();
+  const Json::Value& inner = FirstNonNull(first);
+  return inner.isNull() || inner.isArray();
 }
 
 }  // namespace

@@ -133,6 +133,11 @@ struct ResponseFrame {
   // table lists channels only when its first non-null element is an array;
   // otherwise the table is one record.
   bool arrayRecords = false;
+  // With arrayRecords: a record's own JSON is an array of arrays (a
+  // channel's profiles, each a list of lights), so the table lists channels
+  // only when the first non-null element of its first non-null element is
+  // an array (or that element holds nothing but nulls).
+  bool nestedArrayRecords = false;
   // Per-channel: the table lists records only when its ArrayDepth (sampled
   // with shift 4) equals this; 0: whenever it is an array.
   int32_t arrayDepth = 0;
@@ -187,6 +192,9 @@ struct ResponseFrame {
                                                                         : PackWalk::kObjectMembers);
   }
   constexpr ResponseFrame ArrayRecords() const { return With(&ResponseFrame::arrayRecords, true); }
+  constexpr ResponseFrame NestedArrayRecords() const {
+    return ArrayRecords().With(&ResponseFrame::nestedArrayRecords, true);
+  }
   constexpr ResponseFrame Returned(ReturnedLength r) const {
     return With(&ResponseFrame::returned, r);
   }

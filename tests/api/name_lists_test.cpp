@@ -45,11 +45,19 @@ const Vocabulary& PackVocabulary() {
   return v;
 }
 
+// The names added beyond the two vocabularies follow every listed name.
+size_t ListedCount(const kova::NameEntry* list, size_t count) {
+  size_t listed = 0;
+  while (listed < count && !list[listed].added) ++listed;
+  for (size_t i = listed; i < count; ++i) EXPECT_TRUE(list[i].added) << list[i].name;
+  return listed;
+}
+
 TEST(NameLists, ParseTableHoldsTheVocabularyInOrder) {
   const std::vector<std::string>& names = ParseVocabulary().names;
   ASSERT_EQ(293u, names.size());
-  ASSERT_EQ(names.size(), kova::kParseNameCount);
-  for (size_t i = 0; i < kova::kParseNameCount; ++i) {
+  ASSERT_EQ(names.size(), ListedCount(kova::kParseNames, kova::kParseNameCount));
+  for (size_t i = 0; i < names.size(); ++i) {
     EXPECT_EQ(names[i], kova::kParseNames[i].name) << "index " << i;
   }
 }
@@ -59,9 +67,10 @@ TEST(NameLists, ParseTableHoldsTheVocabularyInOrder) {
 TEST(NameLists, PackTableHoldsTheVocabulary) {
   std::vector<std::string> names = PackVocabulary().names;
   ASSERT_EQ(252u, names.size());
-  ASSERT_EQ(names.size(), kova::kPackNameCount);
+  const size_t listed = ListedCount(kova::kPackNames, kova::kPackNameCount);
+  ASSERT_EQ(names.size(), listed);
   std::vector<std::string> table;
-  for (size_t i = 0; i < kova::kPackNameCount; ++i) table.push_back(kova::kPackNames[i].name);
+  for (size_t i = 0; i < listed; ++i) table.push_back(kova::kPackNames[i].name);
   std::sort(names.begin(), names.end());
   std::sort(table.begin(), table.end());
   EXPECT_EQ(names, table);

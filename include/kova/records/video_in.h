@@ -11,10 +11,13 @@
 // an array; an input shorter than one record is refused.
 //
 // Profile names: a channel's JSON is an array of profiles, in the device's
-// order (the day, night and normal profiles, a fourth on some devices), so
-// the all-channel answer is an array of arrays and a one-channel answer a
-// single array of profiles. Their records hold up to KOVA_VIDEO_IN_PROFILES
-// profiles and the count taken; profile i of the device lands in slot i.
+// order (the day, night and normal profiles, a fourth on some devices; 9 on
+// newer cameras and recorders, 6 or more named scenes on scene-based
+// cameras), so the all-channel answer is an array of arrays and a
+// one-channel answer a single array of profiles. Their records hold up to
+// KOVA_VIDEO_IN_PROFILES profiles and the count taken; profile i of the
+// device lands in slot i, and profiles past the capacity are left out.
+// Every profile carries the scene's "Name" where the device gives one.
 //
 // Members a device leaves out stay zero. Members that not every device
 // sends carry a presence flag (`xxxPresent`, one byte): set when the key was
@@ -37,7 +40,7 @@ extern "C" {
 #endif
 
 enum {
-  KOVA_VIDEO_IN_PROFILES = 4,    // profile slots of a profile record
+  KOVA_VIDEO_IN_PROFILES = 16,   // profile slots of a profile record
   KOVA_DAY_NIGHT_PROFILES = 3,   // profiles of a "VideoInDayNight" record
   KOVA_LIGHTING_LIGHTS = 4,      // entries of each light list of a lighting profile
   KOVA_VIDEO_WIDGET_COVERS = 8,  // privacy masks of a "VideoWidget" record
@@ -64,11 +67,13 @@ typedef struct VideoColorProfile {
   uint8_t chromaSuppressPresent;  // "ChromaSuppress" given; written only then
   uint8_t stylePresent;           // "Style" given; written only then
   uint8_t timeSectionPresent;     // "TimeSection" given and well formed; written only then
+  char name[KOVA_VIDEO_IN_TEXT];  // "Name": the scene's name, on scene-based cameras
+  uint8_t namePresent;            // "Name" given; written only then
 } VideoColorProfile;
 
 typedef struct VideoColorConfig {
   VideoColorProfile profiles[KOVA_VIDEO_IN_PROFILES];  // the channel's array
-  int32_t profileCount;  // profiles given, at most 4; pack writes this many (cut to 4)
+  int32_t profileCount;  // profiles given, at most 16; pack writes this many (cut to 16)
 } VideoColorConfig;
 
 // ---------------------------------------------------------------------------
@@ -102,11 +107,13 @@ typedef struct VideoInExposureProfile {
   uint8_t slowShutterPresent;       // "SlowShutter" given; written only then
   uint8_t slowSpeedPresent;         // "SlowSpeed" given; written only then
   uint8_t speedPresent;             // "Speed" given; written only then
+  char name[KOVA_VIDEO_IN_TEXT];    // "Name": the scene's name, on scene-based cameras
+  uint8_t namePresent;              // "Name" given; written only then
 } VideoInExposureProfile;
 
 typedef struct VideoInExposureConfig {
   VideoInExposureProfile profiles[KOVA_VIDEO_IN_PROFILES];
-  int32_t profileCount;  // profiles given, at most 4
+  int32_t profileCount;  // profiles given, at most 16
 } VideoInExposureConfig;
 
 // ---------------------------------------------------------------------------
@@ -121,24 +128,28 @@ typedef struct VideoInFocusProfile {
   uint8_t autoFocusTracePresent;                  // "AutoFocusTrace" given; written only then
   uint8_t focusLimitPresent;                      // "FocusLimit" given; written only then
   uint8_t focusLimitSelectModePresent;            // "FocusLimitSelectMode" given; written only then
+  char name[KOVA_VIDEO_IN_TEXT];  // "Name": the scene's name, on scene-based cameras
+  uint8_t namePresent;            // "Name" given; written only then
 } VideoInFocusProfile;
 
 typedef struct VideoInFocusConfig {
   VideoInFocusProfile profiles[KOVA_VIDEO_IN_PROFILES];
-  int32_t profileCount;  // profiles given, at most 4
+  int32_t profileCount;  // profiles given, at most 16
 } VideoInFocusConfig;
 
 // ---------------------------------------------------------------------------
 // "VideoInZoom": zoom per profile.
 typedef struct VideoInZoomProfile {
-  int32_t digitalZoom;  // "DigitalZoom": 0 or 1 (a JSON boolean)
-  int32_t speed;        // "Speed": zoom speed level
-  int32_t zoomLimit;    // "ZoomLimit": highest zoom factor allowed
+  int32_t digitalZoom;            // "DigitalZoom": 0 or 1 (a JSON boolean)
+  int32_t speed;                  // "Speed": zoom speed level
+  int32_t zoomLimit;              // "ZoomLimit": highest zoom factor allowed
+  char name[KOVA_VIDEO_IN_TEXT];  // "Name": the scene's name, on scene-based cameras
+  uint8_t namePresent;            // "Name" given; written only then
 } VideoInZoomProfile;
 
 typedef struct VideoInZoomConfig {
   VideoInZoomProfile profiles[KOVA_VIDEO_IN_PROFILES];
-  int32_t profileCount;  // profiles given, at most 4
+  int32_t profileCount;  // profiles given, at most 16
 } VideoInZoomConfig;
 
 // ---------------------------------------------------------------------------
@@ -152,16 +163,18 @@ typedef struct VideoInDefogProfile {
   uint8_t camDefogEnablePresent;                // "CamDefogEnable" given; written only then
   uint8_t lightIntensityLevelPresent;           // "LightIntensityLevel" given; written only then
   uint8_t lightIntensityModePresent;            // "LightIntensityMode" given; written only then
+  char name[KOVA_VIDEO_IN_TEXT];                // "Name": the scene's name, on scene-based cameras
+  uint8_t namePresent;                          // "Name" given; written only then
 } VideoInDefogProfile;
 
 typedef struct VideoInDefogConfig {
   VideoInDefogProfile profiles[KOVA_VIDEO_IN_PROFILES];
-  int32_t profileCount;  // profiles given, at most 4
+  int32_t profileCount;  // profiles given, at most 16
 } VideoInDefogConfig;
 
 // ---------------------------------------------------------------------------
 // "Lighting": infrared and white-light illuminators per profile (devices
-// send 4 profiles).
+// send 4 profiles, newer ones 9).
 
 // One lamp group of a light list: {"Angle", "Light"}.
 typedef struct LightingLight {
@@ -181,13 +194,15 @@ typedef struct LightingProfile {
   int32_t nearLightCount;
   int32_t middleLightCount;
   int32_t farLightCount;
-  uint8_t nearLightPresent;  // "NearLight" given as an array; written only then
-  uint8_t farLightPresent;   // "FarLight" given as an array; written only then
+  uint8_t nearLightPresent;       // "NearLight" given as an array; written only then
+  uint8_t farLightPresent;        // "FarLight" given as an array; written only then
+  char name[KOVA_VIDEO_IN_TEXT];  // "Name": the scene's name, on scene-based cameras
+  uint8_t namePresent;            // "Name" given; written only then
 } LightingProfile;
 
 typedef struct LightingConfig {
   LightingProfile profiles[KOVA_VIDEO_IN_PROFILES];
-  int32_t profileCount;  // profiles given, at most 4
+  int32_t profileCount;  // profiles given, at most 16
 } LightingConfig;
 
 // ---------------------------------------------------------------------------
@@ -399,6 +414,23 @@ typedef struct VideoWidgetConfig {
 }
 static_assert(sizeof(VideoInDayNightProfile) == 16, "VideoInDayNightProfile layout");
 static_assert(sizeof(VideoInDayNightConfig) == 48, "VideoInDayNightConfig layout");
+// The profile records: 16 profiles, then the count.
+static_assert(sizeof(VideoColorProfile) == 124, "VideoColorProfile layout");
+static_assert(sizeof(VideoColorConfig) == 1988, "VideoColorConfig layout");
+static_assert(offsetof(VideoColorConfig, profileCount) == 1984, "VideoColorConfig layout");
+static_assert(sizeof(VideoInExposureProfile) == 128, "VideoInExposureProfile layout");
+static_assert(sizeof(VideoInExposureConfig) == 2056, "VideoInExposureConfig layout");
+static_assert(offsetof(VideoInExposureConfig, profileCount) == 2048,
+              "VideoInExposureConfig layout");
+static_assert(sizeof(VideoInFocusProfile) == 88, "VideoInFocusProfile layout");
+static_assert(sizeof(VideoInFocusConfig) == 1412, "VideoInFocusConfig layout");
+static_assert(sizeof(VideoInZoomProfile) == 48, "VideoInZoomProfile layout");
+static_assert(sizeof(VideoInZoomConfig) == 772, "VideoInZoomConfig layout");
+static_assert(sizeof(VideoInDefogProfile) == 112, "VideoInDefogProfile layout");
+static_assert(sizeof(VideoInDefogConfig) == 1796, "VideoInDefogConfig layout");
+static_assert(sizeof(LightingProfile) == 184, "LightingProfile layout");
+static_assert(sizeof(LightingConfig) == 2948, "LightingConfig layout");
+static_assert(offsetof(LightingConfig, profileCount) == 2944, "LightingConfig layout");
 #endif
 
 #endif  // KOVA_RECORDS_VIDEO_IN_H_

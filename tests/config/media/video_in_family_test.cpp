@@ -12,6 +12,7 @@
 #include "common/json/json_writer.h"
 #include "config/alarm/alarm_test_util.h"
 #include "kova/kova.h"
+#include "kova/records/picture.h"
 #include "kova/records/video_in.h"
 
 namespace {
@@ -36,6 +37,18 @@ const Name kNames[] = {
     {"VideoInOptions", sizeof(VideoInOptionsConfig), false},
     {"ChannelTitle", sizeof(ChannelTitleConfig), false},
     {"VideoWidget", sizeof(VideoWidgetConfig), false},
+    {"VideoInMode", sizeof(VideoInModeConfig), false},
+    {"SmartMotionDetect", sizeof(SmartMotionDetectConfig), false},
+    {"Lighting_V2", sizeof(LightingV2Config), false},
+    {"LightingScheme", sizeof(LightingSchemeConfig), false},
+    {"VideoInWhiteBalance", sizeof(VideoInWhiteBalanceConfig), false},
+    {"VideoInBacklight", sizeof(VideoInBacklightConfig), false},
+    {"VideoInSharpness", sizeof(VideoInSharpnessConfig), false},
+    {"VideoInDenoise", sizeof(VideoInDenoiseConfig), false},
+    {"VideoInIRExposure", sizeof(VideoInIRExposureConfig), false},
+    {"VideoSubColor", sizeof(VideoSubColorConfig), false},
+    {"VideoImageControl", sizeof(VideoImageControlConfig), false},
+    {"LightGlobal", sizeof(LightGlobalConfig), false},
 };
 
 constexpr unsigned char kJunk = 0xA5;

@@ -40,13 +40,17 @@ TEST(VideoInDayNight, NamesIgnoreCaseUnknownsAreLeftOut) {
 }
 
 TEST(VideoColor, SectionAndOptionalMembers) {
-  // Five profiles: four are kept. The section's time fields take two digits
-  // at most; "1 00:00" gives too few numbers and is dropped.
+  // Seventeen profiles: sixteen are kept, the scene's name where given. The
+  // section's time fields take two digits at most; "1 00:00" gives too few
+  // numbers and is dropped.
+  std::string rest;
+  for (int i = 0; i < 14; ++i) rest += ",{}";
   const auto r = ParseOne<VideoColorConfig>(
       "VideoColor",
       R"([{"Brightness":40,"Contrast":50,"Saturation":50,"Hue":50,"TimeSection":"1 8:00:00-18:30:00"},)"
-      R"({"Brightness":60,"Gamma":45,"Style":"Gentle","TimeSection":"1 00:00"},7,{},{}])");
-  EXPECT_EQ(4, r.profileCount);
+      R"({"Brightness":60,"Gamma":45,"Style":"Gentle","TimeSection":"1 00:00","Name":"Gate"},7)" +
+          rest + "]");
+  EXPECT_EQ(16, r.profileCount);
   EXPECT_EQ(1, r.profiles[0].timeSectionPresent);
   EXPECT_EQ(8, r.profiles[0].timeSection.beginHour);
   EXPECT_EQ(30, r.profiles[0].timeSection.endMinute);
@@ -54,13 +58,16 @@ TEST(VideoColor, SectionAndOptionalMembers) {
   EXPECT_EQ(0, r.profiles[1].timeSection.enable);
   EXPECT_EQ(1, r.profiles[1].gammaPresent);
   EXPECT_EQ(0, r.profiles[1].chromaSuppressPresent);
+  std::string zeros;
+  for (int i = 0; i < 14; ++i) {
+    zeros += ", { \"Brightness\" : 0, \"Contrast\" : 0, \"Hue\" : 0, \"Saturation\" : 0 }";
+  }
   EXPECT_EQ(
       "[ { \"Brightness\" : 40, \"Contrast\" : 50, \"Hue\" : 50, \"Saturation\" : 50, "
       "\"TimeSection\" : \"1 08:00:00-18:30:00\" }, "
-      "{ \"Brightness\" : 60, \"Contrast\" : 0, \"Gamma\" : 45, \"Hue\" : 0, \"Saturation\" : 0, "
-      "\"Style\" : \"Gentle\" }, "
-      "{ \"Brightness\" : 0, \"Contrast\" : 0, \"Hue\" : 0, \"Saturation\" : 0 }, "
-      "{ \"Brightness\" : 0, \"Contrast\" : 0, \"Hue\" : 0, \"Saturation\" : 0 } ]\n",
+      "{ \"Brightness\" : 60, \"Contrast\" : 0, \"Gamma\" : 45, \"Hue\" : 0, \"Name\" : \"Gate\", "
+      "\"Saturation\" : 0, \"Style\" : \"Gentle\" }" +
+          zeros + " ]\n",
       Pack("VideoColor", r));
 }
 

@@ -17,6 +17,8 @@ constexpr Field kDefogProfileFields[] = {
     KOVA_F(VideoInDefogProfile, mode, "Mode", kText),
     KOVA_F(VideoInDefogProfile, lightIntensityMode, "LightIntensityMode", kText)
         .Flag(KOVA_AT(VideoInDefogProfile, lightIntensityModePresent)),
+    KOVA_F(VideoInDefogProfile, name, "Name", kText)
+        .Flag(KOVA_AT(VideoInDefogProfile, namePresent)),
 };
 
 KOVA_DESCRIBE(VideoInDefogProfile, kova::kDefogProfileFields)

@@ -37,6 +37,8 @@ constexpr Field kExposureProfileFields[] = {
         .Flag(KOVA_AT(VideoInExposureProfile, slowShutterPresent)),
     KOVA_F(VideoInExposureProfile, value1, "Value1", kReal),
     KOVA_F(VideoInExposureProfile, value2, "Value2", kReal),
+    KOVA_F(VideoInExposureProfile, name, "Name", kText)
+        .Flag(KOVA_AT(VideoInExposureProfile, namePresent)),
 };
 
 KOVA_DESCRIBE(VideoInExposureProfile, kova::kExposureProfileFields)

@@ -18,12 +18,15 @@ constexpr Field kFocusProfileFields[] = {
     KOVA_F(VideoInFocusProfile, sensitivity, "Sensitivity", kInt),
     KOVA_F(VideoInFocusProfile, focusLimitSelectMode, "FocusLimitSelectMode", kText)
         .Flag(KOVA_AT(VideoInFocusProfile, focusLimitSelectModePresent)),
+    KOVA_F(VideoInFocusProfile, name, "Name", kText)
+        .Flag(KOVA_AT(VideoInFocusProfile, namePresent)),
 };
 
 constexpr Field kZoomProfileFields[] = {
     KOVA_F(VideoInZoomProfile, digitalZoom, "DigitalZoom", kBool),
     KOVA_F(VideoInZoomProfile, speed, "Speed", kInt),
     KOVA_F(VideoInZoomProfile, zoomLimit, "ZoomLimit", kInt),
+    KOVA_F(VideoInZoomProfile, name, "Name", kText).Flag(KOVA_AT(VideoInZoomProfile, namePresent)),
 };
 
 KOVA_DESCRIBE(VideoInFocusProfile, kova::kFocusProfileFields)

@@ -2,19 +2,13 @@
 // channel's profiles, with the lamp groups of the near, middle and far
 // beams.
 #include "common/fields/field_table.h"
+#include "config/media/video_in/lamp_group.h"
 #include "config/media/video_in/profiles.h"
 #include "drivers/response_frame.h"
 #include "kova/records/media.h"
 #include "kova/records/video_in.h"
 
 namespace kova {
-
-constexpr Field kLightFields[] = {
-    KOVA_F(LightingLight, angle, "Angle", kInt),
-    KOVA_F(LightingLight, light, "Light", kInt),
-};
-
-KOVA_DESCRIBE(LightingLight, kova::kLightFields)
 
 constexpr Field kLight = KOVA_ITEM_NESTED(LightingLight);
 
@@ -30,6 +24,7 @@ constexpr Field kLightingProfileFields[] = {
     KOVA_LIST(LightingProfile, farLight, "FarLight", kLight)
         .Count(KOVA_AT(LightingProfile, farLightCount), CountRule::kTaken)
         .Flag(KOVA_AT(LightingProfile, farLightPresent)),
+    KOVA_F(LightingProfile, name, "Name", kText).Flag(KOVA_AT(LightingProfile, namePresent)),
 };
 
 KOVA_DESCRIBE(LightingProfile, kova::kLightingProfileFields)

@@ -43,6 +43,7 @@ constexpr Field kVideoColorProfileFields[] = {
     KOVA_F(VideoColorProfile, style, "Style", kText).Flag(KOVA_AT(VideoColorProfile, stylePresent)),
     KOVA_CUSTOM(VideoColorProfile, timeSection, "TimeSection", ParseSection, PackSection)
         .Flag(KOVA_AT(VideoColorProfile, timeSectionPresent)),
+    KOVA_F(VideoColorProfile, name, "Name", kText).Flag(KOVA_AT(VideoColorProfile, namePresent)),
 };
 
 KOVA_DESCRIBE(VideoColorProfile, kova::kVideoColorProfileFields)
