@@ -1,6 +1,10 @@
 // kova: the command-line tool for people who debug device integrations.
 //
-//   kova names                                 every name, its directions, built or not
+//   kova names                                 every name, its directions, built or not,
+//                                              and which read a flat document
+//
+// Any NAME may be given as "flat:NAME": the answer's payload as a flat list
+// of paths and values (kova/records/flat.h).
 //   kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] [--rule-buffer N]
 //   kova pack NAME RECORD.bin [--size N]
 //   kova roundtrip NAME FILE [--size N] [--sized] [--channel N] [--rule-buffer N]
@@ -55,6 +59,7 @@ int Usage() {
   std::fprintf(
       stderr,
       "usage: kova names\n"
+      "       (any NAME below may be given as flat:NAME: the payload as paths and values)\n"
       "       kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] "
       "[--rule-buffer N]\n"
       "       kova pack NAME RECORD.bin [--size N]\n"
@@ -131,9 +136,10 @@ int Names() {
   for (size_t i = 0; i < kova::kParseNameCount; ++i) {
     const char* name = kova::kParseNames[i].name;
     const int k = kova::FindPackName(name);
-    std::printf("%-45s parse %-9s pack %s\n", name,
+    std::printf("%-45s parse %-9s pack %s%s\n", name,
                 kova::ParseBuilt(static_cast<int>(i)) ? "built" : "not-built",
-                k < 0 ? "-" : (kova::PackBuilt(k) ? "built" : "not-built"));
+                k < 0 ? "-" : (kova::PackBuilt(k) ? "built" : "not-built"),
+                kova::ParseReadsFlat(static_cast<int>(i)) ? "  reads flat" : "");
   }
   for (size_t k = 0; k < kova::kPackNameCount; ++k) {
     const char* name = kova::kPackNames[k].name;
@@ -216,9 +222,12 @@ int ParseInto(const std::string& name, const std::string& file, const Options& o
   return 0;
 }
 
-int Pack(const std::string& name, const void* in, uint32_t inLen, uint32_t outLen) {
+// Packs a record as KOVA_PacketData does; `writeBack` (the round trip) also
+// writes the records of parse-only names back through their description.
+int Pack(const std::string& name, const void* in, uint32_t inLen, uint32_t outLen, bool writeBack) {
   std::vector<char> text(outLen);
-  const int rc = KOVA_PacketData(name.c_str(), in, inLen, text.data(), outLen);
+  const int rc = writeBack ? kova::WriteBackParsed(name.c_str(), in, inLen, text.data(), outLen)
+                           : KOVA_PacketData(name.c_str(), in, inLen, text.data(), outLen);
   if (rc == 0) {
     std::fprintf(stderr, "kova: pack of %s failed (input %u bytes)\n", name.c_str(), inLen);
     return 1;
@@ -396,7 +405,7 @@ int Run(int argc, char** argv) {
       std::fprintf(stderr, "kova: cannot read %s\n", o.args[1].c_str());
       return 1;
     }
-    return Pack(o.args[0], record.data(), static_cast<uint32_t>(record.size()), o.size);
+    return Pack(o.args[0], record.data(), static_cast<uint32_t>(record.size()), o.size, false);
   }
 
   if (cmd == "roundtrip" && o.args.size() == 2) {
@@ -406,7 +415,7 @@ int Run(int argc, char** argv) {
     uint32_t retLen = 0;
     const int rc = ParseInto(o.args[0], o.args[1], o, &record, &retLen);
     if (rc != 0) return rc;
-    return Pack(o.args[0], record.data(), retLen, o.size);
+    return Pack(o.args[0], record.data(), retLen, o.size, true);
   }
   return Usage();
 }
