@@ -29,8 +29,8 @@
 extern "C" {
 #endif
 
-#define KOVA_PTZ_CAPS_DIRECTIONS 8    // "UnSupportDirections" entries kept
-#define KOVA_PTZ_CAPS_EXTRAS 32       // other boolean and integer members kept
+#define KOVA_PTZ_CAPS_DIRECTIONS 8  // "UnSupportDirections" entries kept
+#define KOVA_PTZ_CAPS_EXTRAS 32     // other boolean and integer members kept
 #define KOVA_RECORD_CAPS_PACKET_TYPES 4
 #define KOVA_ENCODE_CAPS_CHANNELS 64  // "VideoEncodeDevices" entries kept
 #define KOVA_ENCODE_CAPS_STREAMS 4    // "SupportDynamicBitrate" entries kept per channel
@@ -40,19 +40,19 @@ extern "C" {
 // an integer (a Min/Max pair is two of these), kept as given. Members of any
 // other type are not kept.
 typedef struct PtzCapsExtra {
-  char key[48];     // the member's name, bytes as sent; a longer name is not kept
-  int64_t value;    // the integer, or 0/1 for a boolean
-  int32_t isBool;   // 1: the member was a boolean
-  int32_t reserved; // never read or written
+  char key[48];      // the member's name, bytes as sent; a longer name is not kept
+  int64_t value;     // the integer, or 0/1 for a boolean
+  int32_t isBool;    // 1: the member was a boolean
+  int32_t reserved;  // never read or written
 } PtzCapsExtra;
 
 // "PtzMotionRange": the angles the head can reach, degrees.
 typedef struct PtzMotionRange {
-  int32_t horizontalAngle[2];       // "HorizontalAngle": [min, max]
-  int32_t verticalAngle[2];         // "VerticalAngle": [min, max]; the minimum is below 0
-  uint8_t horizontalAnglePresent;   // 1 when "HorizontalAngle" held two numbers
-  uint8_t verticalAnglePresent;     // 1 when "VerticalAngle" held two numbers
-  uint8_t reserved[2];              // never read or written
+  int32_t horizontalAngle[2];      // "HorizontalAngle": [min, max]
+  int32_t verticalAngle[2];        // "VerticalAngle": [min, max]; the minimum is below 0
+  uint8_t horizontalAnglePresent;  // 1 when "HorizontalAngle" held two numbers
+  uint8_t verticalAnglePresent;    // 1 when "VerticalAngle" held two numbers
+  uint8_t reserved[2];             // never read or written
 } PtzMotionRange;
 
 // "ptz.getCurrentProtocolCaps": what the PTZ protocol of one channel
@@ -115,8 +115,8 @@ typedef struct PtzProtocolCaps {
   // capacity.
   char unSupportDirections[KOVA_PTZ_CAPS_DIRECTIONS][16];
   uint32_t unSupportDirectionCount;
-  uint32_t extraCount;                           // entries of `extras` filled
-  PtzCapsExtra extras[KOVA_PTZ_CAPS_EXTRAS];     // other booleans and integers, in key order
+  uint32_t extraCount;                        // entries of `extras` filled
+  PtzCapsExtra extras[KOVA_PTZ_CAPS_EXTRAS];  // other booleans and integers, in key order
 } PtzProtocolCaps;
 
 // "recordManager.getCaps": recording limits, from "params"."caps".
@@ -161,8 +161,8 @@ typedef struct EncodeCaps {
   int32_t maxExtraStream;  // "MaxExtraStream": extra streams per channel
   uint8_t maxExtraStreamPresent;
   uint8_t videoEncodeDevicesPresent;
-  uint8_t reserved[2];               // never read or written
-  uint32_t videoEncodeDeviceCount;   // elements looked at, cut to the capacity
+  uint8_t reserved[2];              // never read or written
+  uint32_t videoEncodeDeviceCount;  // elements looked at, cut to the capacity
   // "VideoEncodeDevices": entry i is channel i; a null element leaves its entry empty.
   EncodeDeviceCaps videoEncodeDevices[KOVA_ENCODE_CAPS_CHANNELS];
 } EncodeCaps;
@@ -184,7 +184,7 @@ typedef struct ActiveUser {
 
 // "userManager.getActiveUserInfoAll": who is logged in, from "params"."users".
 typedef struct ActiveUserList {
-  uint32_t count;                      // entries taken, at most KOVA_ACTIVE_USERS
+  uint32_t count;                       // entries taken, at most KOVA_ACTIVE_USERS
   ActiveUser users[KOVA_ACTIVE_USERS];  // "users", in the answer's order
 } ActiveUserList;
 

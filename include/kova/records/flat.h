@@ -83,9 +83,9 @@ typedef struct FlatValue {
 
 // The caller's buffer: this header, then as many values as fit.
 typedef struct FlatDocument {
-  uint32_t count;        // values stored in `values`
-  uint32_t leafCount;    // leaves of the payload, stored or not
-  FlatValue values[1];   // runs on to the end of the caller's buffer
+  uint32_t count;       // values stored in `values`
+  uint32_t leafCount;   // leaves of the payload, stored or not
+  FlatValue values[1];  // runs on to the end of the caller's buffer
 } FlatDocument;
 
 #ifdef __cplusplus

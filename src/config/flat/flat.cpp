@@ -166,7 +166,8 @@ int ParseFlat(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* ret
     Json::Value root;
     if (!ReadJson(jsonText, &root) || !ResultIsTrue(root)) return 0;
     const uint32_t count = FlattenInto(PayloadOf(Member(root, "params")), out, outLen);
-    if (retLen != nullptr) *retLen = kHeaderBytes + count * static_cast<uint32_t>(sizeof(FlatValue));
+    if (retLen != nullptr)
+      *retLen = kHeaderBytes + count * static_cast<uint32_t>(sizeof(FlatValue));
     return 1;
   } catch (...) {
     std::memset(outBuf, 0, outLen);
