@@ -19,8 +19,8 @@ using kova_test::ParseAs;
 TEST(CapsAnswers, PayloadPlacesExtrasAndRefusals) {
   int rc = 0;
   uint32_t ret = 0;
-  auto caps = ParseAs<PtzProtocolCaps>(
-      "ptz.getCurrentProtocolCaps", kova_test::Sample("ptz.getCurrentProtocolCaps"), &rc, &ret);
+  auto caps = ParseAs<PtzProtocolCaps>("ptz.getCurrentProtocolCaps",
+                                       kova_test::Sample("ptz.getCurrentProtocolCaps"), &rc, &ret);
   ASSERT_EQ(1, rc);
   EXPECT_EQ(sizeof(PtzProtocolCaps), ret);
   EXPECT_EQ(4294967295u, caps->lowMask);
@@ -40,8 +40,8 @@ TEST(CapsAnswers, PayloadPlacesExtrasAndRefusals) {
   EXPECT_EQ(1, rc);
   EXPECT_EQ(0, focus->focusPresent);
   EXPECT_EQ(0.25, focus->zoom);
-  auto none = ParseAs<VideoStatSummary>("videoStatServer.getSummary", R"({"result": true})", &rc,
-                                        &ret);
+  auto none =
+      ParseAs<VideoStatSummary>("videoStatServer.getSummary", R"({"result": true})", &rc, &ret);
   EXPECT_EQ(1, rc);
   EXPECT_EQ(sizeof(VideoStatSummary), ret);
 
