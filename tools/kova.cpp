@@ -1,7 +1,12 @@
 // kova: the command-line tool for people who debug device integrations.
 //
-//   kova names                                 every name, its directions, built or not
-//                                              (names beyond the protocol's lists marked "added")
+//   kova names                                 every name, its directions, built or not,
+//                                              which read a flat document, and (last,
+//                                              marked "added") the names beyond the
+//                                              protocol's lists
+//
+// Any NAME may be given as "flat:NAME": the answer's payload as a flat list
+// of paths and values (kova/records/flat.h).
 //   kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] [--rule-buffer N]
 //   kova pack NAME RECORD.bin [--size N]
 //   kova roundtrip NAME FILE [--size N] [--sized] [--channel N] [--rule-buffer N]
@@ -56,6 +61,7 @@ int Usage() {
   std::fprintf(
       stderr,
       "usage: kova names\n"
+      "       (any NAME below may be given as flat:NAME: the payload as paths and values)\n"
       "       kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] "
       "[--rule-buffer N]\n"
       "       kova pack NAME RECORD.bin [--size N]\n"
@@ -136,9 +142,11 @@ int Names() {
       if (kova::kParseNames[i].added != added) continue;
       const char* name = kova::kParseNames[i].name;
       const int k = kova::FindPackName(name);
-      const char* pack = k < 0 ? "-" : (kova::PackBuilt(k) ? "built" : "not-built");
-      std::printf(added ? "%-45s parse %-9s pack %-9s added\n" : "%-45s parse %-9s pack %s\n", name,
-                  kova::ParseBuilt(static_cast<int>(i)) ? "built" : "not-built", pack);
+      std::printf("%-45s parse %-9s pack %-9s%s%s\n", name,
+                  kova::ParseBuilt(static_cast<int>(i)) ? "built" : "not-built",
+                  k < 0 ? "-" : (kova::PackBuilt(k) ? "built" : "not-built"),
+                  kova::ParseReadsFlat(static_cast<int>(i)) ? " reads flat" : "",
+                  added ? " added" : "");
     }
     if (added) break;
     for (size_t k = 0; k < kova::kPackNameCount; ++k) {
@@ -223,9 +231,12 @@ int ParseInto(const std::string& name, const std::string& file, const Options& o
   return 0;
 }
 
-int Pack(const std::string& name, const void* in, uint32_t inLen, uint32_t outLen) {
+// Packs a record as KOVA_PacketData does; `writeBack` (the round trip) also
+// writes the records of parse-only names back through their description.
+int Pack(const std::string& name, const void* in, uint32_t inLen, uint32_t outLen, bool writeBack) {
   std::vector<char> text(outLen);
-  const int rc = KOVA_PacketData(name.c_str(), in, inLen, text.data(), outLen);
+  const int rc = writeBack ? kova::WriteBackParsed(name.c_str(), in, inLen, text.data(), outLen)
+                           : KOVA_PacketData(name.c_str(), in, inLen, text.data(), outLen);
   if (rc == 0) {
     std::fprintf(stderr, "kova: pack of %s failed (input %u bytes)\n", name.c_str(), inLen);
     return 1;
@@ -403,7 +414,7 @@ int Run(int argc, char** argv) {
       std::fprintf(stderr, "kova: cannot read %s\n", o.args[1].c_str());
       return 1;
     }
-    return Pack(o.args[0], record.data(), static_cast<uint32_t>(record.size()), o.size);
+    return Pack(o.args[0], record.data(), static_cast<uint32_t>(record.size()), o.size, false);
   }
 
   if (cmd == "roundtrip" && o.args.size() == 2) {
@@ -413,7 +424,7 @@ int Run(int argc, char** argv) {
     uint32_t retLen = 0;
     const int rc = ParseInto(o.args[0], o.args[1], o, &record, &retLen);
     if (rc != 0) return rc;
-    return Pack(o.args[0], record.data(), retLen, o.size);
+    return Pack(o.args[0], record.data(), retLen, o.size, true);
   }
   return Usage();
 }

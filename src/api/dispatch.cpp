@@ -5,6 +5,7 @@
 
 #include "common/base/ascii.h"
 #include "common/base/log.h"
+#include "config/flat/flat.h"
 
 namespace kova {
 
@@ -133,14 +134,18 @@ bool PackTakesShortInput(int k, uint32_t inLen) {
 
 int DispatchParse(const char* name, const char* jsonText, void* outBuf, uint32_t outLen,
                   uint32_t* retLen) {
+  if (HasFlatPrefix(name)) return ParseFlat(jsonText, outBuf, outLen, retLen);
   const int i = FindParseName(name);
   if (i < 0) return 0;
   if (!ParseBuilt(i)) return NotBuilt(kParseNames[i].name, "parse");
+  // A name whose record is the flat list: the caller's whole buffer is the document.
+  if (kParseNames[i].frame == &kFlatCapsFrame) return ParseFlat(jsonText, outBuf, outLen, retLen);
   return ParseWithFrame(*kParseNames[i].frame, jsonText, outBuf, outLen, retLen);
 }
 
 int DispatchPack(const char* name, const void* inBuf, uint32_t inLen, char* outJson,
                  uint32_t outLen) {
+  if (HasFlatPrefix(name)) return PackFlat(inBuf, inLen, outJson, outLen);
   const int i = FindPackName(name);
   if (i < 0) return 0;
   if (!PackBuilt(i)) return NotBuilt(kPackNames[i].name, "pack");

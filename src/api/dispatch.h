@@ -52,6 +52,14 @@ int DispatchParse(const char* name, const char* jsonText, void* outBuf, uint32_t
 int DispatchPack(const char* name, const void* inBuf, uint32_t inLen, char* outJson,
                  uint32_t outLen);
 
+// For the tool's round trip, not exported: writes a parsed record back
+// through its name's frame, the parse-only names included (KOVA_PacketData
+// refuses those), and a flat document for the names that read one.
+int WriteBackParsed(const char* name, const void* inBuf, uint32_t inLen, char* outJson,
+                    uint32_t outLen);
+// Whether parse list index `i` reads into a flat document (kova/records/flat.h).
+bool ParseReadsFlat(int i);
+
 }  // namespace kova
 
 #endif  // KOVA_API_DISPATCH_H_

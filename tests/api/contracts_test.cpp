@@ -120,6 +120,23 @@ const Contract kContracts[] = {
     {"UPnP", "TEWSLRRA"},
     {"FloodLightMode", "TEWSLRRO"},
     {"PictureHttpUpload", "TEWSLRRA"},
+    {"devVideoAnalyse.getCaps", "TSWS----"},
+    {"devVideoInput.getCaps", "TSWS----"},
+    {"userManager.getActiveUserInfoAll", "TZWS----"},
+    {"videoStatServer.getSummary", "TZWS----"},
+    {"alarm.getAlarmCaps", "TSWS----"},
+    {"devAudioAnalyse.getCaps", "TSWS----"},
+    {"netApp.getCaps", "TSWS----"},
+    {"devVideoInput.getFocusStatus", "TZWS----"},
+    {"ptz.factory.instance", "TSWS----"},
+    {"recordManager.getCaps", "TZWS----"},
+    {"ptz.getCurrentProtocolCaps", "TZWS----"},
+    {"encode.getCaps", "TZWS----"},
+    {"devVideoInput.getCapsEx", "TSWS----"},
+    {"eventManager.getCaps", "TSWS----"},
+    {"log.getCaps", "TSWS----"},
+    {"speak.getCaps", "TSWS----"},
+    {"accessControlManager.getCaps", "TSWS----"},
 };
 // clang-format on
 

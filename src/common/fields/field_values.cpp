@@ -248,7 +248,6 @@ const char* EnumName(const EnumNames& e, int64_t value) {
   return e.names[i];
 }
 
-
 uint32_t CutCount(int64_t count, uint32_t capacity) {
   if (count <= 0) return 0;
   return count < static_cast<int64_t>(capacity) ? static_cast<uint32_t>(count) : capacity;

@@ -1,0 +1,65 @@
+// The capability and status answers: what is irregular about them (the
+// payload's place, the PTZ caps' other members, the object id in "result",
+// parse only).
+#include "kova/records/caps.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "config/alarm/alarm_test_util.h"
+#include "kova/kova.h"
+
+namespace {
+
+using kova_test::ParseAs;
+
+TEST(CapsAnswers, PayloadPlacesExtrasAndRefusals) {
+  int rc = 0;
+  uint32_t ret = 0;
+  auto caps = ParseAs<PtzProtocolCaps>("ptz.getCurrentProtocolCaps",
+                                       kova_test::Sample("ptz.getCurrentProtocolCaps"), &rc, &ret);
+  ASSERT_EQ(1, rc);
+  EXPECT_EQ(sizeof(PtzProtocolCaps), ret);
+  EXPECT_EQ(4294967295u, caps->lowMask);
+  EXPECT_EQ(-15, caps->motionRange.verticalAngle[0]);
+  // Booleans and integers no field names are kept by name, in key order.
+  ASSERT_EQ(3u, caps->extraCount);
+  EXPECT_STREQ("Flip", caps->extras[0].key);
+  EXPECT_EQ(1, caps->extras[0].isBool);
+  EXPECT_STREQ("ZoomMax", caps->extras[1].key);
+  EXPECT_EQ(30, caps->extras[1].value);
+
+  // A table is not where these answers put their payload; a missing one is a zero record.
+  auto focus = ParseAs<FocusStatus>(
+      "devVideoInput.getFocusStatus",
+      R"({"result": true, "params": {"table": {"Focus": 0.5}, "status": {"Zoom": 0.25}}})", &rc,
+      &ret);
+  EXPECT_EQ(1, rc);
+  EXPECT_EQ(0, focus->focusPresent);
+  EXPECT_EQ(0.25, focus->zoom);
+  auto none =
+      ParseAs<VideoStatSummary>("videoStatServer.getSummary", R"({"result": true})", &rc, &ret);
+  EXPECT_EQ(1, rc);
+  EXPECT_EQ(sizeof(VideoStatSummary), ret);
+
+  // The object id is "result" itself; false is the device's refusal.
+  auto id = ParseAs<PtzInstance>("ptz.factory.instance", R"({"result": 21348976})", &rc, &ret);
+  EXPECT_EQ(1, rc);
+  EXPECT_EQ(21348976u, id->objectId);
+  ParseAs<PtzInstance>("ptz.factory.instance", R"({"result": false, "id": 9})", &rc, &ret);
+  EXPECT_EQ(0, rc);
+
+  // Method answers are read only.
+  for (const char* name : {"ptz.getCurrentProtocolCaps", "recordManager.getCaps", "encode.getCaps",
+                           "userManager.getActiveUserInfoAll", "videoStatServer.getSummary",
+                           "devVideoInput.getFocusStatus", "ptz.factory.instance"}) {
+    std::vector<unsigned char> record(4096, 0);
+    std::vector<char> out(4096);
+    EXPECT_EQ(0, KOVA_PacketData(name, record.data(), 4096, out.data(), 4096)) << name;
+  }
+}
+
+}  // namespace
