@@ -34,15 +34,15 @@ enum {
 // (its place is the preset's number less one), kept in place even when the
 // element is not an object.
 typedef struct PtzPresetEntry {
-  int32_t enable;               // "Enable" (boolean), 0 or 1
+  int32_t enable;                // "Enable" (boolean), 0 or 1
   char name[KOVA_PTZ_NAME_LEN];  // "Name", at most 63 bytes kept
-  int32_t position[3];          // "Position": [pan, tilt, zoom] in the head's own units;
-                                // an array of fewer than three leaves all three 0
-  int32_t type;                 // "Type": the preset's kind as the head numbers it
-  int32_t panAngleHD;           // "PanAngleHD": pan in hundredths of a degree
-  int32_t tiltAngleHD;          // "TiltAngleHD": tilt in hundredths of a degree
-  int32_t zoomMapValue;         // "ZoomMapValue": the zoom motor's position
-  int32_t focusMapValue;        // "FocusMapValue": the focus motor's position
+  int32_t position[3];           // "Position": [pan, tilt, zoom] in the head's own units;
+                                 // an array of fewer than three leaves all three 0
+  int32_t type;                  // "Type": the preset's kind as the head numbers it
+  int32_t panAngleHD;            // "PanAngleHD": pan in hundredths of a degree
+  int32_t tiltAngleHD;           // "TiltAngleHD": tilt in hundredths of a degree
+  int32_t zoomMapValue;          // "ZoomMapValue": the zoom motor's position
+  int32_t focusMapValue;         // "FocusMapValue": the focus motor's position
   // 1 when the key was given (pack writes it only then); the four
   // high-definition members are sent by some heads only.
   uint8_t typePresent;
@@ -96,13 +96,13 @@ typedef struct PtzAutoMovementEntry {
   // "Function": "None", "Scan", "Preset", "Pattern", "Tour" or any other
   // text the head names, kept as given (at most 31 bytes)
   char function[KOVA_PTZ_FUNCTION_LEN];
-  int32_t scanId;                // "ScanId"
-  int32_t presetId;              // "PresetId"
-  int32_t patternId;             // "PatternId"
-  int32_t tourId;                // "TourId"
-  PtzAutoHoming autoHoming;      // "AutoHoming"
-  int32_t snapshotEnable;        // "SnapshotEnable" (boolean), 0 or 1
-  int32_t snapshotDelayTime;     // "SnapshotDelayTime": seconds after arriving
+  int32_t scanId;                       // "ScanId"
+  int32_t presetId;                     // "PresetId"
+  int32_t patternId;                    // "PatternId"
+  int32_t tourId;                       // "TourId"
+  PtzAutoHoming autoHoming;             // "AutoHoming"
+  int32_t snapshotEnable;               // "SnapshotEnable" (boolean), 0 or 1
+  int32_t snapshotDelayTime;            // "SnapshotDelayTime": seconds after arriving
   TimeSectionRecord timeSection[7][6];  // "TimeSection": 7 days x 6 sections
   // 1 when the key was given (pack writes it only then): older heads send
   // neither the homing block nor the snapshot keys.
@@ -125,13 +125,14 @@ typedef struct IdleMotionConfig {
   // "Function": "None", "Preset", "Tour", "ScanTour", "Scan", "Pattern" or
   // any other text the head names, kept as given (at most 31 bytes)
   char function[KOVA_PTZ_FUNCTION_LEN];
-  int32_t presetId;         // "PresetId"
-  int32_t tourId;           // "TourId"
-  int32_t scanTourId;       // "ScanTourId"
-  int32_t scanId;           // "ScanId"
-  int32_t patternId;        // "PatternId"
-  int32_t timer;            // "Timer": minutes without control
-  int32_t scanTourIdPresent;  // 1 when "ScanTourId" was given (newer heads); pack writes it only then
+  int32_t presetId;    // "PresetId"
+  int32_t tourId;      // "TourId"
+  int32_t scanTourId;  // "ScanTourId"
+  int32_t scanId;      // "ScanId"
+  int32_t patternId;   // "PatternId"
+  int32_t timer;       // "Timer": minutes without control
+  int32_t
+      scanTourIdPresent;  // 1 when "ScanTourId" was given (newer heads); pack writes it only then
 } IdleMotionConfig;
 
 // "PowerUp": what the head of one channel does when it powers up. A fixed
@@ -141,7 +142,7 @@ typedef struct IdleMotionConfig {
 // one record bare, several as an array. "ScanTourId" has no room in the
 // record: it is not read and not written.
 typedef struct PowerUpConfig {
-  int32_t enable;     // "Enable" (boolean), 0 or 1
+  int32_t enable;  // "Enable" (boolean), 0 or 1
   // "Function": 0 "Auto", 1 "Preset", 2 "Tour", 3 "ScanTour", 4 "Scan",
   // 5 "Pattern" (case ignored); any other text (or a missing key) reads -1,
   // which pack leaves out

@@ -13,17 +13,17 @@ extern "C" {
 // picture colours. Temperatures in the unit `temperatureUnit` names.
 // Other members a camera sends in the block have no room and are dropped.
 typedef struct HeatImagingIsotherm {
-  int32_t enable;                  // "Enable" (boolean), 0 or 1
-  uint8_t colorBarDisplay;         // "ColorBarDisplay" (boolean), 0 or 1
+  int32_t enable;           // "Enable" (boolean), 0 or 1
+  uint8_t colorBarDisplay;  // "ColorBarDisplay" (boolean), 0 or 1
   // 1 when the key was given (pack writes it only then): older cameras
   // leave these two out
   uint8_t colorBarDisplayPresent;  // "ColorBarDisplay"
   uint8_t saturationTempPresent;   // "SaturationTemp"
   uint8_t reserved;
-  double maxLimitTemp;        // "MaxLimitTemp": upper end of the band
-  double minLimitTemp;        // "MinLimitTemp": lower end of the band
-  double mediumCenterValue;   // "MediumCenterValue": centre of the band
-  double saturationTemp;      // "SaturationTemp": temperature shown saturated
+  double maxLimitTemp;       // "MaxLimitTemp": upper end of the band
+  double minLimitTemp;       // "MinLimitTemp": lower end of the band
+  double mediumCenterValue;  // "MediumCenterValue": centre of the band
+  double saturationTemp;     // "SaturationTemp": temperature shown saturated
 } HeatImagingIsotherm;
 
 // "HeatImagingThermometry": the measuring conditions of a thermal camera,

@@ -1,8 +1,9 @@
 // "VideoOut": margins, colour and mode of each video output.
+#include "kova/records/video_out.h"
+
 #include "common/fields/field_table.h"
 #include "drivers/described_record.h"
 #include "drivers/response_frame.h"
-#include "kova/records/video_out.h"
 
 namespace kova {
 

@@ -14,8 +14,7 @@ constexpr Field kWLanEapFields[] = {
     KOVA_F(WLanEap, method, "Method", kText).Flag(KOVA_AT(WLanEap, methodPresent)),
     KOVA_F(WLanEap, authType, "AuthType", kText).Flag(KOVA_AT(WLanEap, authTypePresent)),
     KOVA_F(WLanEap, identity, "Identity", kText).Flag(KOVA_AT(WLanEap, identityPresent)),
-    KOVA_F(WLanEap, anonymousId, "AnonymousID", kText)
-        .Flag(KOVA_AT(WLanEap, anonymousIdPresent)),
+    KOVA_F(WLanEap, anonymousId, "AnonymousID", kText).Flag(KOVA_AT(WLanEap, anonymousIdPresent)),
     KOVA_F(WLanEap, password, "Password", kText).Flag(KOVA_AT(WLanEap, passwordPresent)),
 };
 KOVA_DESCRIBE(WLanEap, kWLanEapFields)

@@ -24,8 +24,8 @@ extern const ResponseFrame kIdleMotionFrame = DescribedObject<IdleMotionConfig>:
 
 namespace {
 
-constexpr const char* kPowerUpFunctionNames[] = {"Auto", "Preset",  "Tour",
-                                                 "ScanTour", "Scan", "Pattern"};
+constexpr const char* kPowerUpFunctionNames[] = {"Auto",     "Preset", "Tour",
+                                                 "ScanTour", "Scan",   "Pattern"};
 // No room for text in the record: an unknown name is -1, left out on pack.
 constexpr EnumNames kPowerUpFunctions =
     EnumNames::Of(kPowerUpFunctionNames).UnknownAs(-1).OmitUnnamed();

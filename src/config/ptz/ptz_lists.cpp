@@ -85,7 +85,6 @@ constexpr Field kTasks = KOVA_LIST(PtzAutoMovementConfig, tasks, nullptr, kTask)
 // the one channel a client asked for.
 extern const ResponseFrame kPtzPresetFrame = DescribedFrame<PtzPresetConfig, kPresets>();
 extern const ResponseFrame kPtzTourFrame = DescribedFrame<PtzTourConfig, kTours>();
-extern const ResponseFrame kPtzAutoMovementFrame =
-    DescribedFrame<PtzAutoMovementConfig, kTasks>();
+extern const ResponseFrame kPtzAutoMovementFrame = DescribedFrame<PtzAutoMovementConfig, kTasks>();
 
 }  // namespace kova

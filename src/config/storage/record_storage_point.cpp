@@ -18,8 +18,8 @@ constexpr Field kStoragePointTargetFields[] = {
 };
 KOVA_DESCRIBE(StoragePointTargets, kStoragePointTargetFields)
 
-#define KOVA_STORAGE_KIND(member, key, i)                       \
-  KOVA_NESTED(RecordStoragePointConfig, member, key)            \
+#define KOVA_STORAGE_KIND(member, key, i)            \
+  KOVA_NESTED(RecordStoragePointConfig, member, key) \
       .Flag(KOVA_AT_ITEM(RecordStoragePointConfig, present, i))
 
 constexpr Field kRecordStoragePointFields[] = {

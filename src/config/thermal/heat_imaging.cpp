@@ -46,8 +46,7 @@ constexpr FieldTable kThermometry = KOVA_TABLE(kThermometryFields);
 
 }  // namespace
 
-extern const ResponseFrame kHeatImagingThermometryFrame =
-    DriverFrame<HeatImagingThermometryConfig>(ParseTableStep<kThermometry>,
-                                              PackTableStep<kThermometry>, {0, false, true, false});
+extern const ResponseFrame kHeatImagingThermometryFrame = DriverFrame<HeatImagingThermometryConfig>(
+    ParseTableStep<kThermometry>, PackTableStep<kThermometry>, {0, false, true, false});
 
 }  // namespace kova
