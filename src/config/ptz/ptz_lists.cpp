@@ -79,12 +79,28 @@ constexpr Field kTasks = KOVA_LIST(PtzAutoMovementConfig, tasks, nullptr, kTask)
                              .KeepSlots()
                              .Count(KOVA_AT(PtzAutoMovementConfig, taskCount), CountRule::kAll);
 
-}  // namespace
+// A channel's list holds objects: one whose elements are arrays belongs to
+// a table of another depth and reads as empty rather than as entries
+// (intended).
+template <const Field& kList>
+bool ParseChannelList(const Json::Value& element, const StepContext& ctx, unsigned char* record) {
+  if (ArrayDepth(element, 4) > 1) return true;
+  return ParseDescribed<kList>(element, ctx, record);
+}
 
 // A table whose elements are arrays lists channels; a table of objects is
 // the one channel a client asked for.
-extern const ResponseFrame kPtzPresetFrame = DescribedFrame<PtzPresetConfig, kPresets>();
-extern const ResponseFrame kPtzTourFrame = DescribedFrame<PtzTourConfig, kTours>();
-extern const ResponseFrame kPtzAutoMovementFrame = DescribedFrame<PtzAutoMovementConfig, kTasks>();
+template <typename Rec, const Field& kList>
+constexpr ResponseFrame ChannelListFrame() {
+  return DescribedFrame<Rec, kList>().With(&ResponseFrame::parse,
+                                           ParseStep{ParseChannelList<kList>});
+}
+
+}  // namespace
+
+extern const ResponseFrame kPtzPresetFrame = ChannelListFrame<PtzPresetConfig, kPresets>();
+extern const ResponseFrame kPtzTourFrame = ChannelListFrame<PtzTourConfig, kTours>();
+extern const ResponseFrame kPtzAutoMovementFrame =
+    ChannelListFrame<PtzAutoMovementConfig, kTasks>();
 
 }  // namespace kova
