@@ -1,6 +1,8 @@
 // What is irregular about the PTZ movement tables: a list per channel that
 // comes either as the whole table or as one channel's list, lists cut to
 // their capacity, and the power-up action with no room for an unknown name.
+#include "kova/records/ptz_motion.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -8,7 +10,6 @@
 
 #include "config/alarm/alarm_test_util.h"
 #include "kova/kova.h"
-#include "kova/records/ptz_motion.h"
 
 namespace {
 
@@ -50,16 +51,15 @@ TEST(PtzMotion, PresetListsReadAsTheWholeTableOrOneChannelAndAreCutToCapacity) {
   EXPECT_EQ(std::string::npos, packed.find(R"("Name" : "P513")"));
 
   // A table one level too deep is no list of presets: nothing is misread.
-  ASSERT_EQ(1, KOVA_ParseData("PtzPreset", Doc("[[" + Presets(2) + "]]").c_str(), r.data(),
-                              bytes, &ret));
+  ASSERT_EQ(
+      1, KOVA_ParseData("PtzPreset", Doc("[[" + Presets(2) + "]]").c_str(), r.data(), bytes, &ret));
   EXPECT_EQ(0, r[0].presetCount);
 }
 
 TEST(PtzMotion, TourStopsAndTasksKeepTheirPlaces) {
   std::vector<PtzTourConfig> r(1);
   PtzTourConfig& tour = r[0];
-  const std::string tours =
-      R"([null,{"Enable":true,"Name":"T2","Presets":[[3,10],[4,20,5],"x"]}])";
+  const std::string tours = R"([null,{"Enable":true,"Name":"T2","Presets":[[3,10],[4,20,5],"x"]}])";
   ASSERT_EQ(1, KOVA_ParseData("PtzTour", Doc(tours).c_str(), &tour, sizeof tour, nullptr));
   EXPECT_EQ(2, tour.tourCount);  // the null tour keeps its place (tour 1 stays empty)
   EXPECT_EQ(2, tour.tours[1].stopCount);
@@ -70,9 +70,8 @@ TEST(PtzMotion, TourStopsAndTasksKeepTheirPlaces) {
 TEST(PtzMotion, PowerUpActionOutsideTheListIsLeftOutOnPack) {
   PowerUpConfig r[2];
   uint32_t ret = 8;  // the table drivers add to the caller's count
-  const std::string table =
-      R"([{"Enable":true,"Function":"ScanTour","ScanTourId":4},)"
-      R"({"Enable":true,"Function":"Patrol","PresetId":2}])";
+  const std::string table = R"([{"Enable":true,"Function":"ScanTour","ScanTourId":4},)"
+                            R"({"Enable":true,"Function":"Patrol","PresetId":2}])";
   ASSERT_EQ(1, KOVA_ParseData("PowerUp", Doc(table).c_str(), r, sizeof r, &ret));
   EXPECT_EQ(8 + 2 * sizeof(PowerUpConfig), ret);
   EXPECT_EQ(3, r[0].function);
