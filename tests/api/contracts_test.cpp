@@ -137,6 +137,23 @@ const Contract kContracts[] = {
     {"log.getCaps", "TSWS----"},
     {"speak.getCaps", "TSWS----"},
     {"accessControlManager.getCaps", "TSWS----"},
+    {"PtzAutoMovement", "TEWSLRRA"},
+    {"VideoOut", "TEWSLRRA"},
+    {"RecordStoragePoint", "TEWSLRRA"},
+    {"FlashLight", "TEWSLRRA"},
+    {"PtzPreset", "TEWSLRRA"},
+    {"AlarmServer", "TEWSLRRO"},
+    {"CommGlobal", "TEWSLRRO"},
+    {"AccessTimeSchedule", "TEWSLRRA"},
+    {"AudioInput", "TEWSLRRA"},
+    {"IdleMotion", "TEWSLRRA"},
+    {"VideoTalkPhoneGeneral", "TEWSLRRO"},
+    {"PtzTour", "TEWSLRRA"},
+    {"UnFocusDetect", "TEWSLRRA"},
+    {"MovedDetect", "TEWSLRRA"},
+    {"HeatImagingThermometry", "TEWALRRO"},
+    {"PowerUp", "TEWALNNA"},
+    {"WLan", "TEWALRRO"},
 };
 // clang-format on
 

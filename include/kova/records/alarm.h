@@ -285,6 +285,19 @@ typedef struct FanSpeedAlarmRecord {
   WeekSchedule week;                // "EventHandler"."TimeSection", first 7 days x 6 sections
 } FanSpeedAlarmRecord;
 
+// "MovedDetect" (the scene moved: the camera was turned away) and
+// "UnFocusDetect" (the picture went out of focus): one channel per record.
+// The device answers the whole table (an array: record i from channel i,
+// as many as the buffer holds) or one channel's object (record 0); the
+// buffer is cleared first and the returned length is the records filled.
+typedef struct SceneChangeDetectRecord {
+  int32_t enable;                   // "Enable", 0 or 1
+  int32_t sensitivity;              // "Sensitivity": 1 (least) to 10 (most) on most cameras
+  int32_t sensitivityPresent;       // 1 when "Sensitivity" was given; pack writes it only then
+  EventHandlerRecord eventHandler;  // "EventHandler"
+  WeekSchedule week;                // "EventHandler"."TimeSection", first 7 days x 6 sections
+} SceneChangeDetectRecord;
+
 #ifdef __cplusplus
 }
 static_assert(sizeof(AlarmLampRecord) == 4, "AlarmLampRecord layout");
@@ -320,6 +333,10 @@ static_assert(offsetof(LossDetectRecord, eventHandler) == 8, "LossDetectRecord l
 static_assert(sizeof(LossDetectRecord) == 8 + 337124 + 1176, "LossDetectRecord layout");
 static_assert(offsetof(BlindDetectRecord, eventHandler) == 12, "BlindDetectRecord layout");
 static_assert(sizeof(BlindDetectRecord) == 12 + 337124 + 1176, "BlindDetectRecord layout");
+static_assert(offsetof(SceneChangeDetectRecord, eventHandler) == 12,
+              "SceneChangeDetectRecord layout");
+static_assert(sizeof(SceneChangeDetectRecord) == 12 + 337124 + 1176,
+              "SceneChangeDetectRecord layout");
 static_assert(offsetof(SystemEventRecord, eventHandler) == 4, "SystemEventRecord layout");
 static_assert(sizeof(SystemEventRecord) == 4 + 337124, "SystemEventRecord layout");
 static_assert(offsetof(StorageLowSpaceRecord, eventHandler) == 8, "StorageLowSpaceRecord layout");

@@ -56,12 +56,23 @@ typedef struct AudioVolumeConfig {
   int32_t volume;  // 0 to 100
 } AudioVolumeConfig;
 
+// "AudioInput": where the sound of one channel comes from. The device
+// answers the whole table (an array: record i from channel i, as many as
+// the buffer holds) or one channel's object (record 0); the buffer is
+// cleared first.
+typedef struct AudioInputConfig {
+  // "AudioSource": "Coaxial", "BNC", "HDCVI_BNC", "LineIn", "Mic",
+  // "MicOut", ... kept as given (at most 31 bytes)
+  char audioSource[32];
+} AudioInputConfig;
+
 #ifdef __cplusplus
 }
 static_assert(sizeof(AudioLightingLink) == 44, "AudioLightingLink layout");
 static_assert(offsetof(AudioDetectConfig, lightingLink) == 40, "AudioDetectConfig layout");
 static_assert(offsetof(AudioDetectConfig, eventHandler) % 4 == 0, "AudioDetectConfig layout");
 static_assert(sizeof(AudioVolumeConfig) == 4, "AudioVolumeConfig layout");
+static_assert(sizeof(AudioInputConfig) == 32, "AudioInputConfig layout");
 #endif
 
 #endif  // KOVA_RECORDS_AUDIO_H_

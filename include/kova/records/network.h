@@ -172,6 +172,81 @@ typedef struct MulticastConfig {
   MulticastStream rtp[KOVA_MULTICAST_MAX_STREAMS];  // "RTP": RTP multicast
 } MulticastConfig;
 
+// "AlarmServer": the alarm centre the device reports its alarms to, one
+// object for the device. The buffer is cleared first; a key left out reads
+// 0 or empty text.
+typedef struct AlarmServerConfig {
+  int32_t enable;     // "Enable" (boolean), 0 or 1
+  char address[256];  // "Address": host name or address, at most 255 bytes kept
+  int32_t port;       // "Port"
+  char protocol[32];  // "Protocol": the centre's protocol name, kept as given (at most 31 bytes)
+} AlarmServerConfig;
+
+enum {
+  KOVA_WLAN_MAX_INTERFACES = 20,
+  KOVA_WLAN_ADDRESS_LEN = 40,  // an IPv4 or IPv6 address in text
+};
+
+// "EAP" of a wireless interface: the 802.1X login of an enterprise network.
+typedef struct WLanEap {
+  char method[32];       // "Method": "PEAP", "TLS", "TTLS", ... kept as given
+  char authType[32];     // "AuthType": the inner authentication, e.g. "MSCHAPV2"
+  char identity[64];     // "Identity"
+  char anonymousId[64];  // "AnonymousID"
+  char password[64];     // "Password"
+  // 1 when the key was given (pack writes it only then).
+  uint8_t methodPresent;
+  uint8_t authTypePresent;
+  uint8_t identityPresent;
+  uint8_t anonymousIdPresent;
+  uint8_t passwordPresent;
+  uint8_t reserved[3];
+} WLanEap;
+
+// "Network" of a wireless interface: its addressing.
+typedef struct WLanNetwork {
+  int32_t dhcpEnable;                          // "DhcpEnable" (boolean), 0 or 1
+  char ipAddress[KOVA_WLAN_ADDRESS_LEN];       // "IPAddress"
+  char subnetMask[KOVA_WLAN_ADDRESS_LEN];      // "SubnetMask"
+  char defaultGateway[KOVA_WLAN_ADDRESS_LEN];  // "DefaultGateway"
+  char dnsServers[2][KOVA_WLAN_ADDRESS_LEN];   // "DnsServers": [preferred, alternate]
+  // 1 when the key was given (pack writes it only then).
+  uint8_t dhcpEnablePresent;
+  uint8_t ipAddressPresent;
+  uint8_t subnetMaskPresent;
+  uint8_t defaultGatewayPresent;
+  uint8_t dnsServersPresent;
+  uint8_t reserved[3];
+} WLanNetwork;
+
+// One wireless interface, a member of the "WLan" object named by the
+// interface ("wlan0", ...).
+typedef struct WLanInterface {
+  char name[32];        // the member's name, at most 31 bytes kept
+  char ssid[64];        // "SSID": the network joined, at most 63 bytes kept
+  char encryption[32];  // "Encryption": "On", "Off", "WEP", ... kept as given
+  WLanEap eap;          // "EAP"
+  WLanNetwork network;  // "Network"
+  // 1 when the key was given (pack writes it only then): a device sends
+  // only the members it has, and they stay absent when packed back.
+  uint8_t ssidPresent;
+  uint8_t encryptionPresent;
+  uint8_t eapPresent;
+  uint8_t networkPresent;
+} WLanInterface;
+
+// "WLan": the wireless interfaces of the device, one object whose members
+// are the interfaces. A fixed 13316-byte record served by the table
+// drivers: the buffer is cleared, "table" is one object (never an array),
+// the returned length is added to, pack writes one object. Members that
+// hold no object take no slot; interfaces beyond KOVA_WLAN_MAX_INTERFACES
+// (in the order of their names) are dropped.
+typedef struct WLanConfig {
+  int32_t interfaceCount;  // interfaces read, 0 to KOVA_WLAN_MAX_INTERFACES; pack writes that many
+  WLanInterface interfaces[KOVA_WLAN_MAX_INTERFACES];
+  uint8_t reserved[13316 - 4 - KOVA_WLAN_MAX_INTERFACES * 608];  // always 0
+} WLanConfig;
+
 #ifdef __cplusplus
 }
 static_assert(sizeof(G3G4AutoChangeRecord) == 4, "G3G4AutoChangeRecord layout");
@@ -200,6 +275,13 @@ static_assert(offsetof(RtspConfig, rtpEndPort) == 16, "RtspConfig layout");
 static_assert(offsetof(RtspConfig, httpTunnelEnable) == 20, "RtspConfig layout");
 static_assert(offsetof(RtspConfig, httpTunnelPort) == 24, "RtspConfig layout");
 static_assert(sizeof(RtspConfig) == 28, "RtspConfig layout");
+static_assert(sizeof(AlarmServerConfig) == 296, "AlarmServerConfig layout");
+static_assert(sizeof(WLanEap) == 264, "WLanEap layout");
+static_assert(sizeof(WLanNetwork) == 212, "WLanNetwork layout");
+static_assert(offsetof(WLanInterface, eap) == 128, "WLanInterface layout");
+static_assert(offsetof(WLanInterface, network) == 392, "WLanInterface layout");
+static_assert(sizeof(WLanInterface) == 608, "WLanInterface layout");
+static_assert(sizeof(WLanConfig) == 13316, "WLanConfig layout");
 #endif
 
 #endif  // KOVA_RECORDS_NETWORK_H_

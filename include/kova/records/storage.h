@@ -226,6 +226,42 @@ typedef struct RecordModeConfig {
   int32_t modeExtra1;  // "ModeExtra1": the same for the first extra stream
 } RecordModeConfig;
 
+// Where one kind of recording of "RecordStoragePoint" is stored. Each key
+// is read as a boolean (true/false, or 1/0 as some firmware sends) and
+// written back as a boolean.
+typedef struct StoragePointTargets {
+  int32_t local;      // "Local": the device's own disks
+  int32_t ftp;        // "FTP": the FTP server
+  int32_t remote;     // "Remote": the network storage
+  int32_t redundant;  // "Redundant": the redundant disk group
+  // 1 when the key was given (pack writes it only then).
+  uint8_t localPresent;
+  uint8_t ftpPresent;
+  uint8_t remotePresent;
+  uint8_t redundantPresent;
+} StoragePointTargets;
+
+// "RecordStoragePoint": where each kind of recording and snapshot of one
+// channel is stored. The device answers the whole table (an array: record
+// i from channel i, as many as the buffer holds) or one channel's object
+// (record 0); the buffer is cleared first. A kind the device leaves out
+// keeps its flag 0 and is not written back.
+typedef struct RecordStoragePointConfig {
+  StoragePointTargets timingRecord;         // "TimingRecord"
+  StoragePointTargets manualRecord;         // "ManualRecord"
+  StoragePointTargets videoDetectRecord;    // "VideoDetectRecord"
+  StoragePointTargets alarmRecord;          // "AlarmRecord"
+  StoragePointTargets eventRecord;          // "EventRecord"
+  StoragePointTargets timingSnapShot;       // "TimingSnapShot"
+  StoragePointTargets manualSnapShot;       // "ManualSnapShot"
+  StoragePointTargets videoDetectSnapShot;  // "VideoDetectSnapShot"
+  StoragePointTargets alarmSnapShot;        // "AlarmSnapShot"
+  StoragePointTargets eventSnapShot;        // "EventSnapShot"
+  // present[i]: 1 when the i-th kind above was given (pack writes it only then)
+  uint8_t present[10];
+  uint8_t reserved[2];
+} RecordStoragePointConfig;
+
 #ifdef __cplusplus
 }
 static_assert(sizeof(RecordConfig) == 1372, "RecordConfig layout");
@@ -279,6 +315,10 @@ static_assert(offsetof(RaidRecord, memberCount) == 72, "RaidRecord layout");
 static_assert(offsetof(RaidRecord, members) == 76, "RaidRecord layout");
 
 static_assert(sizeof(RecordModeConfig) == 8, "RecordModeConfig layout");
+static_assert(sizeof(StoragePointTargets) == 20, "StoragePointTargets layout");
+static_assert(offsetof(RecordStoragePointConfig, eventSnapShot) == 180,
+              "RecordStoragePointConfig layout");
+static_assert(sizeof(RecordStoragePointConfig) == 212, "RecordStoragePointConfig layout");
 #endif
 
 #endif  // KOVA_RECORDS_STORAGE_H_

@@ -191,6 +191,26 @@ typedef struct LanguageConfig {
   char language[64];  // e.g. "English", "SimpChinese" (kept as text)
 } LanguageConfig;
 
+// "CommGlobal": the alarm hub's global settings, one object for the
+// device. The buffer is cleared first; a key left out reads 0 or empty.
+typedef struct CommGlobalConfig {
+  int32_t alarmEnable;           // "AlarmEnable" (boolean): alarms reported at all
+  char currentProfile[32];       // "CurrentProfile": the scene in force ("AtHome", "Outdoor", ...),
+                                 // kept as given (at most 31 bytes)
+  int32_t profileEnable;         // "ProfileEnable" (boolean): scenes switch the alarm inputs
+  int32_t profileEnablePresent;  // 1 when "ProfileEnable" was given; pack writes it only then
+} CommGlobalConfig;
+
+// "FlashLight": the flash (fill) light of a channel. The device answers
+// one object (record 0) or an array of them (one record per channel); the
+// buffer is cleared first.
+typedef struct FlashLightConfig {
+  int32_t enable;                       // "Enable" (boolean), 0 or 1
+  int32_t brightness;                   // "Brightness": 0 to 100
+  TimeSectionRecord timeSection[7][6];  // "TimeSection": 7 days x 6 sections
+  int32_t timeSectionPresent;           // 1 when "TimeSection" was given; pack writes it only then
+} FlashLightConfig;
+
 #ifdef __cplusplus
 }
 static_assert(sizeof(GeneralConfig) == 256 + 5 * 4 + 64 + 32 + 4 + 4, "GeneralConfig layout");
@@ -206,6 +226,9 @@ static_assert(offsetof(EmailConfig, receivers) == 408, "EmailConfig layout");
 static_assert(sizeof(EmailConfig) == 408 + 8 * 128 + 256 + 5 * 4, "EmailConfig layout");
 static_assert(sizeof(AutoMaintainConfig) == 16, "AutoMaintainConfig layout");
 static_assert(sizeof(LanguageConfig) == 64, "LanguageConfig layout");
+static_assert(sizeof(CommGlobalConfig) == 44, "CommGlobalConfig layout");
+static_assert(offsetof(FlashLightConfig, timeSection) == 8, "FlashLightConfig layout");
+static_assert(sizeof(FlashLightConfig) == 8 + 1176 + 4, "FlashLightConfig layout");
 #endif
 
 #endif  // KOVA_RECORDS_SYSTEM_H_

@@ -238,6 +238,50 @@ typedef struct VideoInDayNightConfig {
 // very different subsets, so every member of the option set has a presence
 // flag.
 
+// "Snapshot" of an option set: exposure, gain and white balance used for
+// snapshots instead of the live picture's. Each member has a flag: the key
+// was given; pack writes it only then.
+typedef struct VideoInSnapshotOptions {
+  double exposureValue1;                  // "ExposureValue1": shortest shutter, milliseconds
+  double exposureValue2;                  // "ExposureValue2": longest shutter, milliseconds
+  int32_t exposureSpeed;                  // "ExposureSpeed": shutter level, 0 automatic
+  int32_t gain;                           // "Gain", 0-100
+  int32_t gainAuto;                       // "GainAuto": 0 or 1 (a JSON boolean)
+  int32_t gainRed;                        // "GainRed"
+  int32_t gainGreen;                      // "GainGreen"
+  int32_t gainBlue;                       // "GainBlue"
+  int32_t colorTemperatureLevel;          // "ColorTemperatureLevel"
+  char whiteBalance[KOVA_VIDEO_IN_TEXT];  // "WhiteBalance": "Auto", "Custom", ...
+  uint8_t exposureValue1Present;
+  uint8_t exposureValue2Present;
+  uint8_t exposureSpeedPresent;
+  uint8_t gainPresent;
+  uint8_t gainAutoPresent;
+  uint8_t gainRedPresent;
+  uint8_t gainGreenPresent;
+  uint8_t gainBluePresent;
+  uint8_t colorTemperatureLevelPresent;
+  uint8_t whiteBalancePresent;
+} VideoInSnapshotOptions;
+
+// "TemporaryConfigs" of an option set: exposure settings a device applies
+// for a while (while an alarm lasts) before returning to the set's own.
+// Each member has a flag: the key was given; pack writes it only then.
+typedef struct VideoInTemporaryOptions {
+  double exposureValue1;  // "ExposureValue1": shortest shutter, milliseconds
+  double exposureValue2;  // "ExposureValue2": longest shutter, milliseconds
+  int32_t antiFlicker;    // "AntiFlicker": 0 outdoor, 1 50 Hz, 2 60 Hz
+  int32_t exposureMode;   // "ExposureMode"
+  int32_t gainMin;        // "GainMin"
+  int32_t gainMax;        // "GainMax"
+  uint8_t exposureValue1Present;
+  uint8_t exposureValue2Present;
+  uint8_t antiFlickerPresent;
+  uint8_t exposureModePresent;
+  uint8_t gainMinPresent;
+  uint8_t gainMaxPresent;
+} VideoInTemporaryOptions;
+
 // The option members, read from the channel's object or from a nested block.
 typedef struct VideoInOptionSet {
   int32_t brightness;            // "Brightness", 0-100
@@ -349,6 +393,15 @@ typedef struct VideoInOptionSet {
   uint8_t referenceLevelEnablePresent;
   uint8_t externalSyncPresent;
   uint8_t externalSyncPhasePresent;
+  int32_t profile;  // "Profile": the profile the set belongs to, as the device numbers it
+  int32_t brightnessThreshold;      // "BrightnessThreshold": light level that switches the set
+  VideoInSnapshotOptions snapshot;  // "Snapshot"
+  VideoInTemporaryOptions temporaryConfigs;  // "TemporaryConfigs"
+  // The key was given (a block: as an object); pack writes it only then.
+  uint8_t profilePresent;
+  uint8_t brightnessThresholdPresent;
+  uint8_t snapshotPresent;
+  uint8_t temporaryConfigsPresent;
 } VideoInOptionSet;
 
 // "FlashControl": the flash lamp of a snapshot camera.
@@ -369,7 +422,22 @@ typedef struct VideoInOptionsConfig {
   uint8_t normalOptionsPresent;      // "NormalOptions" given as an object; written only then
   uint8_t duskOptionsPresent;        // "DuskOptions" given as an object; written only then
   uint8_t flashControlPresent;       // "FlashControl" given as an object; written only then
+  uint8_t autoSyncPhasePresent;      // "AutoSyncPhase" given; written only then
+  int32_t autoSyncPhase;             // "AutoSyncPhase": 0 or 1 (a JSON boolean), the phase of
+                                     // the external sync found by the device
 } VideoInOptionsConfig;
+
+#ifdef __cplusplus
+static_assert(sizeof(VideoInSnapshotOptions) == 88, "VideoInSnapshotOptions layout");
+static_assert(offsetof(VideoInSnapshotOptions, exposureValue1Present) == 76,
+              "VideoInSnapshotOptions layout");
+static_assert(sizeof(VideoInTemporaryOptions) == 40, "VideoInTemporaryOptions layout");
+static_assert(offsetof(VideoInOptionSet, profile) == 368, "VideoInOptionSet layout");
+static_assert(offsetof(VideoInOptionSet, snapshot) == 376, "VideoInOptionSet layout");
+static_assert(sizeof(VideoInOptionSet) == 512, "VideoInOptionSet layout");
+static_assert(offsetof(VideoInOptionsConfig, autoSyncPhase) == 2072, "VideoInOptionsConfig layout");
+static_assert(sizeof(VideoInOptionsConfig) == 2080, "VideoInOptionsConfig layout");
+#endif
 
 // ---------------------------------------------------------------------------
 // "ChannelTitle": the channel's name.

@@ -15,7 +15,46 @@
   KOVA_TUPLE(VideoInOptionSet, member, key, int32_t, 4) \
       .Flag(KOVA_AT(VideoInOptionSet, member##Present))
 
+// The same for the snapshot and temporary blocks.
+#define KOVA_SNAPSHOT(member, key, KIND)            \
+  KOVA_F(VideoInSnapshotOptions, member, key, KIND) \
+      .Flag(KOVA_AT(VideoInSnapshotOptions, member##Present))
+#define KOVA_TEMPORARY(member, key, KIND)            \
+  KOVA_F(VideoInTemporaryOptions, member, key, KIND) \
+      .Flag(KOVA_AT(VideoInTemporaryOptions, member##Present))
+
 namespace kova {
+
+constexpr Field kSnapshotOptionFields[] = {
+    KOVA_SNAPSHOT(exposureSpeed, "ExposureSpeed", kInt),
+    KOVA_SNAPSHOT(exposureValue1, "ExposureValue1", kReal),
+    KOVA_SNAPSHOT(exposureValue2, "ExposureValue2", kReal),
+    KOVA_SNAPSHOT(gain, "Gain", kInt),
+    KOVA_SNAPSHOT(gainAuto, "GainAuto", kBool),
+    KOVA_SNAPSHOT(gainRed, "GainRed", kInt),
+    KOVA_SNAPSHOT(gainGreen, "GainGreen", kInt),
+    KOVA_SNAPSHOT(gainBlue, "GainBlue", kInt),
+    KOVA_SNAPSHOT(colorTemperatureLevel, "ColorTemperatureLevel", kInt),
+    KOVA_SNAPSHOT(whiteBalance, "WhiteBalance", kText),
+};
+
+constexpr Field kTemporaryOptionFields[] = {
+    KOVA_TEMPORARY(antiFlicker, "AntiFlicker", kInt),
+    KOVA_TEMPORARY(exposureMode, "ExposureMode", kInt),
+    KOVA_TEMPORARY(exposureValue1, "ExposureValue1", kReal),
+    KOVA_TEMPORARY(exposureValue2, "ExposureValue2", kReal),
+    KOVA_TEMPORARY(gainMin, "GainMin", kInt),
+    KOVA_TEMPORARY(gainMax, "GainMax", kInt),
+};
+
+}  // namespace kova
+
+#undef KOVA_SNAPSHOT
+#undef KOVA_TEMPORARY
+
+namespace kova {
+KOVA_DESCRIBE(VideoInSnapshotOptions, kova::kSnapshotOptionFields)
+KOVA_DESCRIBE(VideoInTemporaryOptions, kova::kTemporaryOptionFields)
 
 constexpr Field kOptionSetFields[] = {
     KOVA_OPTION(brightness, "Brightness", kInt),
@@ -71,6 +110,12 @@ constexpr Field kOptionSetFields[] = {
     KOVA_OPTION(referenceLevelEnable, "ReferenceLevelEnable", kBool),
     KOVA_OPTION(externalSync, "ExternalSync", kInt),
     KOVA_OPTION(externalSyncPhase, "ExternalSyncPhase", kInt),
+    KOVA_OPTION(profile, "Profile", kInt),
+    KOVA_OPTION(brightnessThreshold, "BrightnessThreshold", kInt),
+    KOVA_NESTED(VideoInOptionSet, snapshot, "Snapshot")
+        .Flag(KOVA_AT(VideoInOptionSet, snapshotPresent)),
+    KOVA_NESTED(VideoInOptionSet, temporaryConfigs, "TemporaryConfigs")
+        .Flag(KOVA_AT(VideoInOptionSet, temporaryConfigsPresent)),
 };
 
 constexpr Field kFlashControlFields[] = {
@@ -113,6 +158,8 @@ constexpr Field kOptionsFields[] = {
         .Flag(KOVA_AT(VideoInOptionsConfig, duskOptionsPresent)),
     KOVA_NESTED(VideoInOptionsConfig, flashControl, "FlashControl")
         .Flag(KOVA_AT(VideoInOptionsConfig, flashControlPresent)),
+    KOVA_F(VideoInOptionsConfig, autoSyncPhase, "AutoSyncPhase", kBool)
+        .Flag(KOVA_AT(VideoInOptionsConfig, autoSyncPhasePresent)),
 };
 
 KOVA_DESCRIBE(VideoInOptionsConfig, kova::kOptionsFields)
