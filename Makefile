@@ -110,29 +110,93 @@ package: build
 package-check: package
 	sh tests/install/deb_test.sh $$(ls $(BUILD)/kova_*.deb | head -n 1) tests/install/consumer
 
-# kova.dll (with its import library kova.lib) and kova.exe for 64-bit
-# Windows, cross-built with MinGW-w64, in $(WINDOWS_BUILD)/. jsoncpp is built
-# from Debian's source package, unpacked there by apt-get source.
-WINDOWS_WINE := WINEPREFIX=$(abspath $(WINDOWS_BUILD))/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
+# kova.dll (with its import library kova.lib) and kova.exe for Windows,
+# cross-built with MinGW-w64 from the same sources: 64-bit in
+# $(WINDOWS_BUILD)/, 32-bit (__stdcall entry points) in $(WINDOWS32_BUILD)/.
+# jsoncpp is built from Debian's source package, unpacked there by apt-get
+# source.
+WINDOWS32_BUILD ?= build-windows32
+WINDOWS32_PACKAGES := cmake make ninja-build g++-mingw-w64-i686-posix binutils-mingw-w64-i686 \
+	googletest dpkg-dev
+# Wine's 32-bit loader comes from the archive's i386 architecture.
+WINDOWS32_WINE_PACKAGES := wine wine32:i386
+
+.PHONY: windows32 windows32-test windows32-deps windows32-wine windows32-wine-packages \
+	windows32-clean
+
+# $(call windows-build,FOLDER,PROCESSOR): configures FOLDER with the
+# MinGW-w64 toolchain for PROCESSOR (x86_64, i686), builds the DLL and the
+# tool, and checks the DLL's export and import tables.
+define windows-build
+	sh tools/debian_source.sh libjsoncpp $(1)/debian-source
+	cmake -S . -B $(1) -G Ninja -DCMAKE_BUILD_TYPE=Release \
+	  -DCMAKE_TOOLCHAIN_FILE=cmake/mingw-w64-$(2).cmake \
+	  -DKOVA_JSONCPP_SOURCE_DIR=$$(ls -d $(abspath $(1))/debian-source/libjsoncpp-*/ | head -n 1) \
+	  >/dev/null
+	cmake --build $(1) -j $(JOBS) --target kova_shared kova_tool
+	@sh tests/windows/exported_symbols.sh $(1)/kova.dll $(2)-w64-mingw32-objdump
+endef
+
+# $(call windows-ctest,FOLDER): runs the test programs built in FOLDER under
+# Wine, in a prefix of the folder's own, quietly.
+windows-ctest = [ -d $(1)/wine ] || \
+	WINEPREFIX=$(abspath $(1))/wine WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml= wineboot --init; \
+	cd $(1) && ctest --output-on-failure -j $(JOBS)
 
 windows: windows-deps
-	sh tools/debian_source.sh libjsoncpp $(WINDOWS_BUILD)/debian-source
-	cmake -S . -B $(WINDOWS_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=Release \
-	  -DCMAKE_TOOLCHAIN_FILE=cmake/mingw-w64-x86_64.cmake \
-	  -DKOVA_JSONCPP_SOURCE_DIR=$$(ls -d $(abspath $(WINDOWS_BUILD))/debian-source/libjsoncpp-*/ | head -n 1) \
-	  >/dev/null
-	cmake --build $(WINDOWS_BUILD) -j $(JOBS) --target kova_shared kova_tool
-	@sh tests/windows/exported_symbols.sh $(WINDOWS_BUILD)/kova.dll x86_64-w64-mingw32-objdump
+	$(call windows-build,$(WINDOWS_BUILD),x86_64)
+
+windows32: windows32-deps
+	$(call windows-build,$(WINDOWS32_BUILD),i686)
 
 # The unit and bad-input suites as Windows executables under Wine, kova.dll
-# loaded by LoadLibrary, and its export table checked.
+# loaded by LoadLibrary and linked through kova.lib, and its export and
+# import tables checked.
 windows-test: windows
 	cmake --build $(WINDOWS_BUILD) -j $(JOBS)
-	@[ -d $(WINDOWS_BUILD)/wine ] || $(WINDOWS_WINE) wineboot --init
-	cd $(WINDOWS_BUILD) && ctest --output-on-failure -j $(JOBS)
+	$(call windows-ctest,$(WINDOWS_BUILD))
+
+# The same for 32-bit Windows, under 32-bit Wine. Where that cannot be
+# installed, the programs are still built (a client has then linked
+# kova.lib's decorated __stdcall names) and the export and import tables are
+# checked; nothing is run.
+windows32-test: windows32
+	cmake --build $(WINDOWS32_BUILD) -j $(JOBS)
+	@if $(MAKE) --no-print-directory windows32-wine; then \
+	  $(call windows-ctest,$(WINDOWS32_BUILD)); \
+	else \
+	  echo "windows32-test: 32-bit Wine cannot be installed on this machine: the 32-bit test"; \
+	  echo "programs are built but NOT run; only the export and import tables are checked."; \
+	  sh tests/windows/exported_symbols.sh $(WINDOWS32_BUILD)/kova.dll i686-w64-mingw32-objdump \
+	    $(WINDOWS32_BUILD)/kova_import_library_test.exe; \
+	fi
 
 windows-deps:
 	$(call install-missing,$(WINDOWS_PACKAGES))
+
+windows32-deps:
+	$(call install-missing,$(WINDOWS32_PACKAGES))
+
+# Adds the i386 architecture to dpkg when it is missing and installs Wine
+# with its 32-bit loader. When that fails, an architecture added here is
+# removed again, so that apt is left as it was found.
+windows32-wine:
+	@SUDO=""; [ "$$(id -u)" -ne 0 ] && SUDO=sudo; added=""; \
+	if ! dpkg --print-foreign-architectures | grep -qx i386; then \
+	  echo "adding the i386 architecture to dpkg"; $$SUDO dpkg --add-architecture i386; added=yes; \
+	fi; \
+	$(MAKE) --no-print-directory windows32-wine-packages && exit 0; \
+	if [ -n "$$added" ] && $$SUDO dpkg --remove-architecture i386; then \
+	  echo "the i386 architecture removed again"; $$SUDO apt-get update -qq || true; \
+	fi; \
+	exit 1
+
+windows32-wine-packages:
+	$(call install-missing,$(WINDOWS32_WINE_PACKAGES))
+
+clean: windows32-clean
+windows32-clean:
+	rm -rf $(WINDOWS32_BUILD)
 
 clean:
 	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD) $(TSAN_BUILD) $(BENCH_BUILD) $(COVERAGE_BUILD) \

@@ -1,13 +1,3 @@
-# Toolchain for 64-bit Windows with Debian's MinGW-w64, in its posix thread
-# model (std::thread and std::mutex). `make windows` passes it to CMake.
-set(CMAKE_SYSTEM_NAME Windows)
+# Toolchain for 64-bit Windows (`make windows`).
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
-set(KOVA_MINGW_TRIPLET x86_64-w64-mingw32)
-set(CMAKE_C_COMPILER ${KOVA_MINGW_TRIPLET}-gcc-posix)
-set(CMAKE_CXX_COMPILER ${KOVA_MINGW_TRIPLET}-g++-posix)
-set(CMAKE_RC_COMPILER ${KOVA_MINGW_TRIPLET}-windres)
-set(CMAKE_FIND_ROOT_PATH /usr/${KOVA_MINGW_TRIPLET})
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+include(${CMAKE_CURRENT_LIST_DIR}/mingw-w64.cmake)

@@ -12,7 +12,7 @@ namespace {
 
 const char kLampJson[] = R"({"result":true,"params":{"table":{"Mode":1}}})";
 
-int CountingCallback(uint32_t, const void*, uint32_t, const void*, uint32_t, void* user) {
+int KOVA_CALL CountingCallback(uint32_t, const void*, uint32_t, const void*, uint32_t, void* user) {
   ++*static_cast<int*>(user);
   return 0;
 }

@@ -279,7 +279,9 @@ std::vector<char32_t> LocalToCodePoints(const char* src, size_t n) {
 #if defined(__MINGW32__)
 namespace {
 
-void NothingToDestroy(void*) {}
+// The C++ runtime calls thread-exit destructors as member functions:
+// __thiscall on 32-bit Windows, which _GLIBCXX_CDTOR_CALLABI names.
+void _GLIBCXX_CDTOR_CALLABI NothingToDestroy(void*) {}
 
 __attribute__((constructor(101))) void CreateThreadExitKeyFirst() {
   abi::__cxa_thread_atexit(NothingToDestroy, nullptr, nullptr);
