@@ -190,8 +190,7 @@ const char* WalkName(kova::RecordWalk w) {
 bool DriverSettingsOf(const kova::ResponseFrame& f, std::string* text) {
   if (f.returned != kova::ReturnedLength::kAddBytes || !f.skipNullElements) return false;
   const bool arrayAllowed = f.walk == kova::RecordWalk::kPerChannel;
-  *text = "driver settings: depth " +
-          std::to_string(arrayAllowed ? f.arrayDepth - 1 : 0) +
+  *text = "driver settings: depth " + std::to_string(arrayAllowed ? f.arrayDepth - 1 : 0) +
           ", parse array " + (arrayAllowed ? "allowed" : "refused") + ", zero-fill " +
           (f.clearing == kova::Clearing::kWholeBuffer ? "yes" : "no") + ", pack array " +
           (f.packWalk == kova::PackWalk::kPerChannel ? "allowed" : "refused");
@@ -281,9 +280,10 @@ int ShowLayout(const std::string& name, const ShowOptions& o) {
     std::printf("  %6u %6u  undescribed\n", b.offset, b.size);
   }
   if (frame == &kova::kVideoAnalyseRuleFrame) {
-    std::printf("each rule entry: RuleEntryHeader (%zu bytes: ruleType, bodySize, sceneClass), "
-                "then the type's record:\n",
-                sizeof(RuleEntryHeader));
+    std::printf(
+        "each rule entry: RuleEntryHeader (%zu bytes: ruleType, bodySize, sceneClass), "
+        "then the type's record:\n",
+        sizeof(RuleEntryHeader));
     for (size_t i = 0; i < kova::kRuleConfigRowCount; ++i) {
       const kova::RuleConfigRow& row = kova::kRuleConfigTable[i];
       const char* typeName = kova::RuleTypeName(row.code);
@@ -293,8 +293,8 @@ int ShowLayout(const std::string& name, const ShowOptions& o) {
       const RecordView body = kova::LayoutOf(&description.whole, row.type->recordSize);
       for (const ViewRow& r : body.rows) {
         const std::string member = std::string(2 * static_cast<size_t>(r.depth), ' ') + r.member;
-        std::printf("  %6u %6u  %-28s %-40s %s\n", r.offset, r.size, r.type.c_str(),
-                    member.c_str(), r.key.c_str());
+        std::printf("  %6u %6u  %-28s %-40s %s\n", r.offset, r.size, r.type.c_str(), member.c_str(),
+                    r.key.c_str());
       }
       for (const ByteRange& b : body.undescribed) {
         std::printf("  %6u %6u  undescribed\n", b.offset, b.size);

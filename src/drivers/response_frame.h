@@ -302,6 +302,13 @@ bool PackTableStep(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
+// The frame of a record that is one field table, described by it.
+template <typename Rec, const FieldTable& kTable>
+constexpr ResponseFrame TableFrame() {
+  return ResponseFrame::For<Rec>(ParseTableStep<kTable>, PackTableStep<kTable>)
+      .Describe(WholeTable<Rec, kTable>::kField);
+}
+
 // The caller's record size from the first record's leading uint32: 0 when
 // the buffer cannot hold the size word, or the size is 0 or above `len`.
 uint32_t CallerRecordSize(const void* buf, uint32_t len);

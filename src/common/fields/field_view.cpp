@@ -27,6 +27,7 @@ std::string Indexed(const std::string& prefix, uint32_t i) {
 void ItemType(const Field& f, std::string* base, std::string* dims) {
   *base = f.type != nullptr ? f.type : (f.shape == FieldShape::kNested ? "struct" : "?");
   dims->clear();
+  if (f.shape == FieldShape::kTuple) *dims = "[" + std::to_string(f.capacity) + "]";
   if ((f.kind == FieldKind::kText || f.kind == FieldKind::kTextRaw) &&
       f.shape != FieldShape::kList) {
     *dims = "[" + std::to_string(f.size) + "]";
@@ -45,7 +46,6 @@ std::string TypeOf(const Field& f) {
     return f.type != nullptr ? std::string(f.type) : "(" + std::to_string(f.size) + " bytes)";
   }
   ItemType(f, &base, &dims);
-  if (f.shape == FieldShape::kTuple) return base + "[" + std::to_string(f.capacity) + "]" + dims;
   return base + dims;
 }
 
@@ -228,7 +228,8 @@ class Walker {
       case FieldShape::kScalar:
         row.size = f.size;
         Cover(at, f.size);
-        if (record_ != nullptr && Inside(at, f.size)) ScalarValue(f, record_ + at, &row.text, &row.value);
+        if (record_ != nullptr && Inside(at, f.size))
+          ScalarValue(f, record_ + at, &row.text, &row.value);
         Emit(&row, rows);
         return;
     }

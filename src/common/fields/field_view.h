@@ -40,12 +40,12 @@ struct ViewRow {
   bool hasFlag = false;  // a presence flag governs the member...
   bool present = true;   // ...and says this
   uint32_t flagOffset = 0;
-  bool zero = false;        // every byte of the member is 0
-  bool unused = false;      // a list entry beyond the list's count
-  std::string text;         // the value for people: 7 (H.264), "Main", [1, 2]
-  Json::Value value;        // the value for scripts
-  std::string note;         // what kind of value it is when it is not plain ("hand-written")
-  int64_t entries = -1;     // kList: entries the count member says (-1: no count member)
+  bool zero = false;     // every byte of the member is 0
+  bool unused = false;   // a list entry beyond the list's count
+  std::string text;      // the value for people: 7 (H.264), "Main", [1, 2]
+  Json::Value value;     // the value for scripts
+  std::string note;      // what kind of value it is when it is not plain ("hand-written")
+  int64_t entries = -1;  // kList: entries the count member says (-1: no count member)
 };
 
 struct ByteRange {
