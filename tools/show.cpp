@@ -257,6 +257,7 @@ int ShowLayout(const std::string& name, const ShowOptions& o) {
       f["offset"] = r.offset;
       f["size"] = r.size;
       f["type"] = r.type;
+      if (r.hasFlag) f["flagOffset"] = r.flagOffset;
     }
     Json::Value& un = json["undescribed"] = Json::Value(Json::arrayValue);
     for (const ByteRange& b : v.undescribed) {
@@ -273,8 +274,10 @@ int ShowLayout(const std::string& name, const ShowOptions& o) {
   std::printf("  %6s %6s  %-28s %-40s %s\n", "offset", "size", "type", "member", "key");
   for (const ViewRow& r : v.rows) {
     const std::string member = std::string(2 * static_cast<size_t>(r.depth), ' ') + r.member;
-    std::printf("  %6u %6u  %-28s %-40s %s\n", r.offset, r.size, r.type.c_str(), member.c_str(),
-                r.key.c_str());
+    const std::string flag =
+        r.hasFlag ? "  (presence flag at " + std::to_string(r.flagOffset) + ")" : "";
+    std::printf("  %6u %6u  %-28s %-40s %s%s\n", r.offset, r.size, r.type.c_str(), member.c_str(),
+                r.key.c_str(), flag.c_str());
   }
   for (const ByteRange& b : v.undescribed) {
     std::printf("  %6u %6u  undescribed\n", b.offset, b.size);

@@ -3,6 +3,7 @@
 #include <json/writer.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -49,14 +50,21 @@ std::string TypeOf(const Field& f) {
   return base + dims;
 }
 
-// Shortest text of `v` that reads back to the same value.
+// Shortest text of `v` that reads back to the same value; plain decimals
+// for everyday magnitudes.
 std::string RealText(double v, int maxDigits) {
-  char buf[40];
-  for (int digits = 1; digits <= maxDigits; ++digits) {
-    std::snprintf(buf, sizeof buf, "%.*g", digits, v);
-    const double back = std::strtod(buf, nullptr);
-    if (maxDigits <= 9 ? static_cast<float>(back) == static_cast<float>(v) : back == v) break;
+  const bool isFloat = maxDigits <= 9;
+  auto same = [&](const char* text) {
+    const double back = std::strtod(text, nullptr);
+    return isFloat ? static_cast<float>(back) == static_cast<float>(v) : back == v;
+  };
+  char buf[64];
+  const bool plain = v == 0 || (std::fabs(v) >= 1e-4 && std::fabs(v) < 1e15);
+  for (int digits = plain ? 0 : 1; digits <= maxDigits; ++digits) {
+    std::snprintf(buf, sizeof buf, plain ? "%.*f" : "%.*g", digits, v);
+    if (same(buf)) return buf;
   }
+  std::snprintf(buf, sizeof buf, "%.*g", maxDigits, v);
   return buf;
 }
 
@@ -138,14 +146,17 @@ class Walker {
   void Walk(const Field& f, uint32_t base, const std::string& member, const std::string& key,
             int depth, bool rows) {
     const uint32_t at = base + f.offset;
-    const std::string path = Join(member, f.member);
+    // A member the description does not name is called after its key.
+    const bool unnamed = f.member == nullptr && f.key != nullptr && f.shape != FieldShape::kNested;
+    const std::string path =
+        unnamed ? Join(member, Lowered(f.key).c_str()) : Join(member, f.member);
     const std::string keys = Join(key, f.key);
     if (f.presence == Presence::kFlag) Cover(base + f.flag.offset, f.flag.size);
     if (f.shape == FieldShape::kList) Cover(base + f.count.offset, f.count.size);
 
     ViewRow row;
     row.depth = depth;
-    row.member = path.empty() && f.key != nullptr ? Lowered(f.key) : path;
+    row.member = path;
     row.key = keys;
     row.type = TypeOf(f);
     row.offset = at;

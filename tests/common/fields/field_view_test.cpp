@@ -22,8 +22,8 @@ size_t SizeOfType(const std::string& type) {
   const struct {
     const char* name;
     size_t size;
-  } kScalars[] = {{"int8_t", 1},  {"uint8_t", 1},  {"char", 1},    {"bool", 1},
-                  {"int16_t", 2}, {"uint16_t", 2}, {"int32_t", 4}, {"uint32_t", 4},
+  } kScalars[] = {{"int8_t", 1},  {"uint8_t", 1},  {"char", 1},     {"bool", 1},
+                  {"int16_t", 2}, {"uint16_t", 2}, {"int32_t", 4},  {"uint32_t", 4},
                   {"float", 4},   {"int64_t", 8},  {"uint64_t", 8}, {"double", 8}};
   size_t size = 0;
   for (const auto& s : kScalars) size = base == s.name ? s.size : size;
@@ -82,9 +82,7 @@ TEST(FieldView, EveryBuiltLayoutAccountsForEveryByte) {
   EXPECT_GT(described, 0u);
 }
 
-const ResponseFrame& FrameOf(const char* name) {
-  return *kParseNames[FindParseName(name)].frame;
-}
+const ResponseFrame& FrameOf(const char* name) { return *kParseNames[FindParseName(name)].frame; }
 
 const ViewRow* RowOf(const RecordView& v, const std::string& member) {
   for (const ViewRow& r : v.rows) {
@@ -118,9 +116,8 @@ TEST(FieldView, ValuesOfAParsedRecord) {
       "\"Enable\":true,\"Port\":123}}}";
   std::vector<unsigned char> record(sizeof(NtpConfig));
   uint32_t retLen = 0;
-  ASSERT_EQ(KOVA_ParseData("NTP", json, record.data(), static_cast<uint32_t>(record.size()),
-                           &retLen),
-            1);
+  ASSERT_EQ(
+      KOVA_ParseData("NTP", json, record.data(), static_cast<uint32_t>(record.size()), &retLen), 1);
   const RecordView v = ViewOf(FrameOf("NTP").description, record.data(), sizeof(NtpConfig));
   EXPECT_EQ(RowOf(v, "address")->text, "\"time.\xc3\xa9x\"");
   EXPECT_EQ(RowOf(v, "port")->value.asInt(), 123);
@@ -133,8 +130,8 @@ TEST(FieldView, ValuesOfAParsedRecord) {
   const ViewRow* compression = RowOf(encode, "mainFormat[0].video.compression");
   ASSERT_NE(compression, nullptr);
   ASSERT_TRUE(compression->hasFlag);
-  const RecordView shown = ViewOf(FrameOf("Encode").description,
-                                  reinterpret_cast<const unsigned char*>(&e), sizeof e);
+  const RecordView shown =
+      ViewOf(FrameOf("Encode").description, reinterpret_cast<const unsigned char*>(&e), sizeof e);
   const ViewRow* second = RowOf(shown, "mainFormat[1].video.compression");
   ASSERT_NE(second, nullptr);
   EXPECT_EQ(second->text, "7 (H.264)");
