@@ -58,7 +58,7 @@ std::string RealText(double v, int maxDigits) {
     const double back = std::strtod(text, nullptr);
     return isFloat ? static_cast<float>(back) == static_cast<float>(v) : back == v;
   };
-  char buf[64];
+  char buf[400];  // room for any double in %f
   const bool plain = v == 0 || (std::fabs(v) >= 1e-4 && std::fabs(v) < 1e15);
   for (int digits = plain ? 0 : 1; digits <= maxDigits; ++digits) {
     std::snprintf(buf, sizeof buf, plain ? "%.*f" : "%.*g", digits, v);
