@@ -10,7 +10,10 @@
 //   kova parse NAME FILE [-o RECORD.bin] [--size N] [--sized] [--channel N] [--rule-buffer N]
 //   kova pack NAME RECORD.bin [--size N]
 //   kova roundtrip NAME FILE [--size N] [--sized] [--channel N] [--rule-buffer N]
-//   kova events FILE [--by-callback]           every event (or record) of a notification
+//   kova events FILE [--by-callback] [--show]  every event (or record) of a notification
+//   kova show NAME FILE [--channel N] [--sized] [--rule-buffer N] [--json] [--all]
+//                                              what the records parse filled, field by field
+//   kova layout NAME [--json]                  the record's fields: offset, size, C type, key
 //
 // `--sized` is for the configurations whose records begin with their own
 // size, set by the caller: the record size is written into every slot of
@@ -52,6 +55,7 @@
 #include "events/event_code_dictionary.h"
 #include "kova/records/analyse.h"
 #include "kova/records/events.h"
+#include "show.h"
 
 namespace {
 
@@ -66,7 +70,9 @@ int Usage() {
       "[--rule-buffer N]\n"
       "       kova pack NAME RECORD.bin [--size N]\n"
       "       kova roundtrip NAME FILE [--size N] [--sized] [--channel N] [--rule-buffer N]\n"
-      "       kova events FILE [--by-callback]\n"
+      "       kova events FILE [--by-callback] [--show]\n"
+      "       kova show NAME FILE [--channel N] [--sized] [--rule-buffer N] [--json] [--all]\n"
+      "       kova layout NAME [--json]\n"
       "option: --log FILE  append the library's error reports to FILE\n");
   return 2;
 }
@@ -90,6 +96,8 @@ struct Options {
   uint32_t size = kDefaultSize;
   bool sized = false;
   bool byCallback = false;
+  ShowOptions show;
+  bool showEvents = false;
   uint32_t ruleBuffer = 0;  // bytes of the rule buffer; 0: none
   bool hasChannel = false;
   int32_t channel = 0;
@@ -119,6 +127,12 @@ Options ParseOptions(int argc, char** argv) {
       o.sized = true;
     } else if (a == "--by-callback") {
       o.byCallback = true;
+    } else if (a == "--json") {
+      o.show.json = true;
+    } else if (a == "--all") {
+      o.show.all = true;
+    } else if (a == "--show") {
+      o.showEvents = true;
     } else if (a == "--channel" && i + 1 < argc) {
       char* end = nullptr;
       const long long n = std::strtoll(argv[++i], &end, 10);
@@ -200,7 +214,7 @@ bool SetChannel(int32_t channel, std::string* json) {
 
 // Parses FILE as NAME into `record`; prints the outcome. Returns the exit code.
 int ParseInto(const std::string& name, const std::string& file, const Options& o,
-              std::vector<unsigned char>* record, uint32_t* retLen) {
+              std::vector<unsigned char>* record, uint32_t* retLen, bool quiet = false) {
   std::string json;
   if (!ReadFile(file, &json)) {
     std::fprintf(stderr, "kova: cannot read %s\n", file.c_str());
@@ -223,7 +237,7 @@ int ParseInto(const std::string& name, const std::string& file, const Options& o
   *retLen = 0;
   const int rc = KOVA_ParseData(name.c_str(), json.c_str(), record->data(),
                                 static_cast<uint32_t>(record->size()), retLen);
-  std::printf("parse %s: return %d, retLen %u\n", name.c_str(), rc, *retLen);
+  if (!quiet) std::printf("parse %s: return %d, retLen %u\n", name.c_str(), rc, *retLen);
   if (rc == 0) {
     std::fprintf(stderr, "kova: parse of %s failed\n", name.c_str());
     return 1;
@@ -248,6 +262,7 @@ int Pack(const std::string& name, const void* in, uint32_t inLen, uint32_t outLe
 // ---- kova events ----------------------------------------------------------
 
 struct EventTally {
+  const ShowOptions* show = nullptr;  // --show: each record field by field
   uint32_t delivered = 0;
   uint32_t withRecord = 0;
   uint32_t withoutRecord = 0;
@@ -336,20 +351,23 @@ int KOVA_CALL OnEvent(uint32_t code, const void* info, uint32_t size, const void
   if (code >= KOVA_CALLBACK_PTZ_STATUS) {
     ++tally.otherRecords;
     PrintOtherRecord(code, info, size);
+    if (tally.show != nullptr) ShowEventRecord(code, info, size, *tally.show);
     return 0;
   }
   ++(info != nullptr ? tally.withRecord : tally.withoutRecord);
   PrintEvent(code, info);
+  if (tally.show != nullptr) ShowEventRecord(code, info, size, *tally.show);
   return 0;
 }
 
-int Events(const std::string& file, bool byCallback) {
+int Events(const std::string& file, bool byCallback, const ShowOptions* show) {
   std::string text;
   if (!ReadFile(file, &text)) {
     std::fprintf(stderr, "kova: cannot read %s\n", file.c_str());
     return 1;
   }
   EventTally tally;
+  tally.show = show;
   const uint32_t len = static_cast<uint32_t>(text.size());
   const int rc = byCallback ? KOVA_ParseDataByCallback(text.c_str(), len, OnEvent, &tally)
                             : KOVA_ParseAnalyzerEventData(text.c_str(), len, OnEvent, &tally);
@@ -381,7 +399,18 @@ int Run(int argc, char** argv) {
   if (!o.ok) return Usage();
   if (cmd == "names" && o.args.empty() && !o.hasChannel) return Names();
   if (cmd == "events" && o.args.size() == 1 && !o.hasChannel)
-    return Events(o.args[0], o.byCallback);
+    return Events(o.args[0], o.byCallback, o.showEvents ? &o.show : nullptr);
+  if (cmd == "layout" && o.args.size() == 1 && !o.hasChannel) return ShowLayout(o.args[0], o.show);
+
+  if (cmd == "show" && o.args.size() == 2) {
+    std::vector<unsigned char> record(o.size);
+    std::vector<unsigned char> rules;
+    AttachRuleBuffer(o.ruleBuffer, &record, &rules);
+    uint32_t retLen = 0;
+    const int rc = ParseInto(o.args[0], o.args[1], o, &record, &retLen, o.show.json);
+    if (rc != 0) return rc;
+    return ShowRecords(o.args[0], record, retLen, rules, o.show);
+  }
 
   if (cmd == "parse" && o.args.size() == 2) {
     std::vector<unsigned char> record(o.size);

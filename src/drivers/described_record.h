@@ -53,7 +53,8 @@ template <typename Rec, const Field& kWhole>
 constexpr ResponseFrame DescribedFrame() {
   constexpr ResponseFrame frame =
       ResponseFrame::For<Rec>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
-          .Walk(RecordWalk::kPerChannel);
+          .Walk(RecordWalk::kPerChannel)
+          .Describe(kWhole);
   return kWhole.shape == FieldShape::kList ? frame.ArrayRecords() : frame;
 }
 

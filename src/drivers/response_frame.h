@@ -159,6 +159,9 @@ struct ResponseFrame {
   uint32_t minTextPerRecord = 0;
   bool refuseEmptyText = false;  // an empty text fails before anything is cleared
   NonArrayTable nonArray = NonArrayTable::kOneRecord;
+  // What describes the whole record (a Field at offset 0), for tools that
+  // show records; null: nothing does, its bytes show as undescribed.
+  const Field* description = nullptr;
 
   template <typename Rec>
   static constexpr ResponseFrame For(ParseStep p, PackStep k) {
@@ -217,6 +220,9 @@ struct ResponseFrame {
   }
   constexpr ResponseFrame NonArray(NonArrayTable n) const {
     return With(&ResponseFrame::nonArray, n);
+  }
+  constexpr ResponseFrame Describe(const Field& whole) const {
+    return With(&ResponseFrame::description, &whole);
   }
   // The table drivers' envelope and walk: "result" must be true; with array
   // mode a table of the expected depth fills one record per element (a null
@@ -284,6 +290,13 @@ int ParseWithFrame(const ResponseFrame& frame, const char* jsonText, void* outBu
 int PackWithFrame(const ResponseFrame& frame, const void* inBuf, uint32_t inLen, char* outJson,
                   uint32_t outLen);
 
+// The whole-record description of a record that is one field table, for
+// ResponseFrame::Describe: .Describe(WholeTable<Rec, kTable>::kField).
+template <typename Rec, const FieldTable& kTable>
+struct WholeTable {
+  static constexpr Field kField = MakeGroup(nullptr, static_cast<uint32_t>(sizeof(Rec)), &kTable);
+};
+
 // Steps of a record that is one field table: the element's members through
 // the walker, and back.
 template <const FieldTable& kTable>
@@ -295,6 +308,13 @@ template <const FieldTable& kTable>
 bool PackTableStep(const unsigned char* record, Json::Value& out) {
   PackFields(record, out, kTable);
   return true;
+}
+
+// The frame of a record that is one field table, described by it.
+template <typename Rec, const FieldTable& kTable>
+constexpr ResponseFrame TableFrame() {
+  return ResponseFrame::For<Rec>(ParseTableStep<kTable>, PackTableStep<kTable>)
+      .Describe(WholeTable<Rec, kTable>::kField);
 }
 
 // The caller's record size from the first record's leading uint32: 0 when

@@ -45,8 +45,9 @@ constexpr Field PointListField(const char* key, size_t offset) {
                                                 offset + offsetof(T, pointCount), &kPointItem,
                                                 CountRule::kTaken);
 }
-#define KOVA_POINT_LIST(Rec, member, key) \
-  ::kova::PointListField<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
+#define KOVA_POINT_LIST(Rec, member, key)                                        \
+  ::kova::PointListField<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member)) \
+      .Member(#member ".points")
 
 inline constexpr const char* kTriggerPositionNames[] = {"Center", "LeftCenter", "TopCenter",
                                                         "RightCenter", "BottomCenter"};
@@ -64,8 +65,9 @@ constexpr Field TriggerPositionsField(const char* key, size_t offset) {
       key, offset + offsetof(TriggerPositions, positions),
       offset + offsetof(TriggerPositions, count), &kTriggerPositionItem, CountRule::kNonNull);
 }
-#define KOVA_TRIGGER_POSITIONS(Rec, member, key) \
-  ::kova::TriggerPositionsField<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
+#define KOVA_TRIGGER_POSITIONS(Rec, member, key)                                        \
+  ::kova::TriggerPositionsField<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member)) \
+      .Member(#member ".positions")
 
 // A list of names into `uint8_t member[N]` with its count in `count`:
 // entry i to slot i, the count of non-null entries among the first N, a
@@ -167,6 +169,7 @@ KOVA_DESCRIBE(SizeFilterBlock, kova::kSizeFilterFields)
 template <>
 struct Description<SizeFilterSettings> {
   static constexpr FieldTable table{kSizeFilterFields, kSizeFilterSettingsFieldCount};
+  static constexpr const char* name = "SizeFilterSettings";
 };
 }  // namespace kova
 

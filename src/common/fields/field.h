@@ -178,6 +178,11 @@ struct Field {
   bool hasMissingValue = false;
   int64_t missingValue = 0;
   bool nullWhenEmpty = false;  // kNested pack: null instead of an object with no members
+  // For tools that show records: the C member's name (null for list entries
+  // and whole-record fields) and the C type of one item (of the member, of a
+  // tuple item, of a list entry; null when not known).
+  const char* member = nullptr;
+  const char* type = nullptr;
 
   // The one way an attribute is set: a copy with `member` set to `v`.
   template <typename M, typename V>
@@ -213,6 +218,7 @@ struct Field {
     return With(&Field::noMemoryReport, text);
   }
   constexpr Field Names(const EnumNames& e) const { return With(&Field::names, &e); }
+  constexpr Field Member(const char* name) const { return With(&Field::member, name); }
   // Parse reads the member even when it is missing or null, as null (a
   // scalar stores its null conversion: 0, false, empty text, an enumeration's
   // unknown value; a nested block reads its table with every member

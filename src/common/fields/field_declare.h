@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "common/fields/c_type_name.h"
 #include "common/fields/field.h"
 
 namespace kova {
@@ -43,6 +44,7 @@ constexpr Field MakeField(const char* key, size_t offset) {
   f.offset = static_cast<uint32_t>(offset);
   f.size = static_cast<uint32_t>(sizeof(T));
   f.kind = K;
+  f.type = CTypeName<T>();
   if (K == FieldKind::kBool) f.packAs = PackAs::kBoolNonZero;
   return f;
 }
@@ -68,6 +70,7 @@ constexpr Field MakeNested(const char* key, size_t offset) {
   f.kind = FieldKind::kObject;
   f.shape = FieldShape::kNested;
   f.table = &Description<T>::table;
+  f.type = Description<T>::name;
   return f;
 }
 
@@ -145,8 +148,10 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
   static_cast<uint32_t>(sizeof(static_cast<Rec*>(nullptr)->member))
 
 // A scalar member: KOVA_F(Rec, member, "Key", kInt).
-#define KOVA_F(Rec, member, key, KIND) \
-  ::kova::MakeField<::kova::FieldKind::KIND, KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
+#define KOVA_F(Rec, member, key, KIND)                                                          \
+  ::kova::MakeField<::kova::FieldKind::KIND, KOVA_MEMBER_T(Rec, member)>(key,                   \
+                                                                         offsetof(Rec, member)) \
+      .Member(#member)
 // An enumeration member with its EnumNames table.
 #define KOVA_ENUM(Rec, member, key, namesTable) KOVA_F(Rec, member, key, kEnum).Names(namesTable)
 // A flag or count member, for .Flag() and .Count().
@@ -167,29 +172,34 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
   ::kova::FieldTable { fields, sizeof(fields) / sizeof((fields)[0]) }
 // A nested object read with its type's own table (see KOVA_DESCRIBE).
 #define KOVA_NESTED(Rec, member, key) \
-  ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member))
+  ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member)).Member(#member)
 // A nested block whose members sit in the enclosing object itself (no key of its own).
 #define KOVA_INLINE(Rec, member) \
-  ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(nullptr, offsetof(Rec, member))
+  ::kova::MakeNested<KOVA_MEMBER_T(Rec, member)>(nullptr, offsetof(Rec, member)).Member(#member)
 // A tuple of n items of type Item ([x, y]: KOVA_TUPLE(Rec, pt, "Point", int32_t, 2)); by
 // default all n items are required, .MinItems(k) lowers that.
 #define KOVA_TUPLE(Rec, member, key, Item, n)                                   \
   ::kova::MakeTuple<Item, ::kova::FieldKind::kInt, KOVA_MEMBER_T(Rec, member)>( \
-      key, offsetof(Rec, member), n)
+      key, offsetof(Rec, member), n)                                            \
+      .Member(#member)
 #define KOVA_TUPLE_OF(Rec, member, key, Item, KIND, n)                          \
   ::kova::MakeTuple<Item, ::kova::FieldKind::KIND, KOVA_MEMBER_T(Rec, member)>( \
-      key, offsetof(Rec, member), n)
+      key, offsetof(Rec, member), n)                                            \
+      .Member(#member)
 // A fixed list: `elementField` (a constexpr Field, see KOVA_ITEM*) describes one entry.
-#define KOVA_LIST(Rec, member, key, elementField) \
-  ::kova::MakeList<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member), &(elementField))
+#define KOVA_LIST(Rec, member, key, elementField)                                           \
+  ::kova::MakeList<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member), &(elementField)) \
+      .Member(#member)
 // A list of at most `cap` entries allocated on parse: `member` points at them,
 // .Count(...) names the count member. Freed by ReleaseFields.
 #define KOVA_ALLOCATED_LIST(Rec, member, key, elementField, cap)                    \
   ::kova::MakeAllocatedList<KOVA_MEMBER_T(Rec, member)>(key, offsetof(Rec, member), \
-                                                        &(elementField), cap)
+                                                        &(elementField), cap)       \
+      .Member(#member)
 // A hand-written step over a member (or over the whole record: offset 0, size 0).
-#define KOVA_CUSTOM(Rec, member, key, parseFn, packFn) \
-  ::kova::MakeCustom(key, offsetof(Rec, member), KOVA_MEMBER_SIZE(Rec, member), parseFn, packFn)
+#define KOVA_CUSTOM(Rec, member, key, parseFn, packFn)                                           \
+  ::kova::MakeCustom(key, offsetof(Rec, member), KOVA_MEMBER_SIZE(Rec, member), parseFn, packFn) \
+      .Member(#member)
 
 // List entries: a scalar, nested or tuple entry of type Type at offset 0 of its slot.
 #define KOVA_ITEM(Type, KIND) ::kova::MakeField<::kova::FieldKind::KIND, Type>(nullptr, 0)
@@ -205,6 +215,7 @@ constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, Custom
   template <>                                               \
   struct Description<Type> {                                \
     static constexpr FieldTable table = KOVA_TABLE(fields); \
+    static constexpr const char* name = #Type;              \
   };
 
 #endif  // KOVA_COMMON_FIELDS_FIELD_DECLARE_H_

@@ -27,6 +27,7 @@ void PackJsonText(const unsigned char* record, Json::Value& obj, const Field& f)
 
 #define KOVA_JSON_TEXT(Rec, member, key)                                        \
   ::kova::MakeCustom(key, offsetof(Rec, member), KOVA_MEMBER_SIZE(Rec, member), \
-                     ::kova::ParseJsonText, ::kova::PackJsonText)
+                     ::kova::ParseJsonText, ::kova::PackJsonText)               \
+      .Member(#member)
 
 #endif  // KOVA_COMMON_JSON_TEXT_H_

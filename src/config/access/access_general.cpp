@@ -65,6 +65,6 @@ constexpr FieldTable kTable = KOVA_TABLE(kFields);
 }  // namespace
 
 extern const ResponseFrame kAccessControlGeneralFrame =
-    ResponseFrame::For<R>(ParseTableStep<kTable>, PackTableStep<kTable>).Clear(Clearing::kNone);
+    TableFrame<R, kTable>().Clear(Clearing::kNone);
 
 }  // namespace kova

@@ -45,6 +45,7 @@ bool ParseInput(const Json::Value& table, const StepContext& ctx, unsigned char*
 
 }  // namespace
 
-extern const ResponseFrame kAlarmFrame = AlarmSourceFrame<R>(ParseInput, PackTableStep<kTable>);
+extern const ResponseFrame kAlarmFrame =
+    AlarmSourceFrame<R>(ParseInput, PackTableStep<kTable>).Describe(WholeTable<R, kTable>::kField);
 
 }  // namespace kova

@@ -26,7 +26,8 @@ constexpr ResponseFrame AlarmSourceFrame(ParseStep parse, PackStep pack) {
 
 template <typename Rec, const FieldTable& kTable>
 constexpr ResponseFrame AlarmSourceFrame() {
-  return AlarmSourceFrame<Rec>(ParseTableStep<kTable>, PackTableStep<kTable>);
+  return AlarmSourceFrame<Rec>(ParseTableStep<kTable>, PackTableStep<kTable>)
+      .Describe(WholeTable<Rec, kTable>::kField);
 }
 
 }  // namespace kova

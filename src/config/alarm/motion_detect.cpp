@@ -170,6 +170,7 @@ bool ParseMotion(const Json::Value& table, const StepContext& ctx, unsigned char
 
 extern const ResponseFrame kMotionDetectFrame =
     AlarmSourceFrame<R>(ParseMotion, PackTableStep<kTable>)
+        .Describe(WholeTable<R, kTable>::kField)
         .Result(ResultRule::kMustBeTrue)
         .OnNullTable(NullTable::kAllZeroRecord);
 

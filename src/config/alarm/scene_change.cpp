@@ -24,7 +24,8 @@ constexpr FieldTable kSceneChange = KOVA_TABLE(kSceneChangeFields);
 constexpr ResponseFrame kSceneChangeFrame =
     ResponseFrame::For<SceneChangeDetectRecord>(ParseTableStep<kSceneChange>,
                                                 PackTableStep<kSceneChange>)
-        .Walk(RecordWalk::kPerChannel);
+        .Walk(RecordWalk::kPerChannel)
+        .Describe(WholeTable<SceneChangeDetectRecord, kSceneChange>::kField);
 
 }  // namespace
 

@@ -23,7 +23,7 @@ constexpr uint32_t kMinPackedEntryText = 42 * 21;
 // size: each record is then filled (and read) only as far as it reaches.
 template <typename Rec, const FieldTable& kTable>
 constexpr ResponseFrame SizedListFrame() {
-  return ResponseFrame::For<Rec>(ParseTableStep<kTable>, PackTableStep<kTable>)
+  return TableFrame<Rec, kTable>()
       .Walk(RecordWalk::kCallerSized)
       .NonArray(NonArrayTable::kObjectOnly)
       .PackArrayAlways()

@@ -106,6 +106,7 @@ constexpr Field kGlobalFields[] = {
     KOVA_NESTED(G, timePeriod, "TimePeriod").Flag(KOVA_AT(G, timePeriodPresent)),
     KOVA_NESTED(G, scene, "Scene").Flag(KOVA_AT(G, scenePresent)),
 };
+constexpr FieldTable kGlobalTable = KOVA_TABLE(kGlobalFields);
 
 // Objects under numbered keys, one slot each: slot i is `base` followed by
 // first + i, except that number 0 is the bare `base`.
@@ -215,6 +216,8 @@ bool PackGlobal(const unsigned char* record, Json::Value& out) {
 }  // namespace
 
 extern const ResponseFrame kVideoAnalyseGlobalFrame =
-    KeptRecordFrame<G>(ParseGlobal, PackGlobal).Result(ResultRule::kFalseFails);
+    KeptRecordFrame<G>(ParseGlobal, PackGlobal)
+        .Result(ResultRule::kFalseFails)
+        .Describe(WholeTable<G, kGlobalTable>::kField);
 
 }  // namespace kova

@@ -102,6 +102,7 @@ bool PackModules(const unsigned char* record, Json::Value& out) {
 
 extern const ResponseFrame kVideoAnalyseModuleFrame =
     KeptRecordFrame<VideoAnalyseModuleConfig>(ParseModules, PackModules)
-        .Result(ResultRule::kFalseFails);
+        .Result(ResultRule::kFalseFails)
+        .Describe(kModuleTable[0]);
 
 }  // namespace kova

@@ -13,6 +13,7 @@ constexpr Field kVolume = KOVA_F(AudioVolumeConfig, volume, nullptr, kInt);
 
 extern const ResponseFrame kAudioVolumeFrame =
     ResponseFrame::For<AudioVolumeConfig>(ParseDescribed<kVolume>, PackDescribed<kVolume>)
-        .Walk(RecordWalk::kPerChannel);
+        .Walk(RecordWalk::kPerChannel)
+        .Describe(kVolume);
 
 }  // namespace kova

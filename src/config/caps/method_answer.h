@@ -26,7 +26,8 @@ template <typename Rec, const FieldTable& kTable>
 constexpr ResponseFrame MethodAnswerFrame() {
   return ResponseFrame::For<Rec>(ParseFromParams<kTable>, PackTableStep<kTable>)
       .OnNullTable(NullTable::kStep)
-      .Returned(ReturnedLength::kSetRecord);
+      .Returned(ReturnedLength::kSetRecord)
+      .Describe(WholeTable<Rec, kTable>::kField);
 }
 
 }  // namespace kova

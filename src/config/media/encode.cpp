@@ -110,6 +110,7 @@ bool ParseChannel(const Json::Value& table, const StepContext& ctx, unsigned cha
 
 extern const ResponseFrame kEncodeFrame =
     ResponseFrame::For<C>(ParseChannel, PackTableStep<kChannel>)
+        .Describe(WholeTable<C, kChannel>::kField)
         .Walk(RecordWalk::kPerChannel)
         .ChannelAtRoot()
         .Clear(Clearing::kNone)

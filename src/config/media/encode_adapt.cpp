@@ -30,8 +30,6 @@ constexpr FieldTable kTable = KOVA_TABLE(kFields);
 }  // namespace
 
 extern const ResponseFrame kEncodeAdaptFrame =
-    ResponseFrame::For<EncodeAdaptConfig>(ParseTableStep<kTable>, PackTableStep<kTable>)
-        .Walk(RecordWalk::kPerChannel)
-        .Clear(Clearing::kNone);
+    TableFrame<EncodeAdaptConfig, kTable>().Walk(RecordWalk::kPerChannel).Clear(Clearing::kNone);
 
 }  // namespace kova

@@ -45,6 +45,7 @@ extern const ResponseFrame kEncodePlanFrame = ResponseFrame::For<P>(ParseEntry, 
                                                   .Clear(Clearing::kNone)
                                                   .Walk(RecordWalk::kPerChannel)
                                                   .NonArray(NonArrayTable::kNoRecord)
-                                                  .PackArrayAlways();
+                                                  .PackArrayAlways()
+                                                  .Describe(WholeTable<P, kEntry>::kField);
 
 }  // namespace kova

@@ -21,8 +21,6 @@ constexpr FieldTable kTable = KOVA_TABLE(kFields);
 }  // namespace
 
 extern const ResponseFrame kSmartEncodeFrame =
-    ResponseFrame::For<SmartEncodeConfig>(ParseTableStep<kTable>, PackTableStep<kTable>)
-        .Walk(RecordWalk::kPerChannel)
-        .Clear(Clearing::kNone);
+    TableFrame<SmartEncodeConfig, kTable>().Walk(RecordWalk::kPerChannel).Clear(Clearing::kNone);
 
 }  // namespace kova

@@ -37,7 +37,6 @@ constexpr FieldTable kTable = KOVA_TABLE(kFields);
 }  // namespace
 
 extern const ResponseFrame kVideoEncodeRoiFrame =
-    ResponseFrame::For<R>(ParseTableStep<kTable>, PackTableStep<kTable>)
-        .Clear(Clearing::kEachRecord);
+    TableFrame<R, kTable>().Clear(Clearing::kEachRecord);
 
 }  // namespace kova

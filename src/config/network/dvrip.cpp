@@ -59,6 +59,6 @@ constexpr const Field& kWhole = DescribedObject<DvripConfig>::kWhole;
 }  // namespace
 
 extern const ResponseFrame kDvripFrame =
-    DeviceObjectFrame<DvripConfig>(ParseDescribed<kWhole>, PackDescribed<kWhole>);
+    DeviceObjectFrame<DvripConfig>(ParseDescribed<kWhole>, PackDescribed<kWhole>).Describe(kWhole);
 
 }  // namespace kova

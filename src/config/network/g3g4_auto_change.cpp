@@ -16,7 +16,9 @@ constexpr FieldTable kTable = KOVA_TABLE(kFields);
 
 }  // namespace
 
-extern const ResponseFrame kG3G4AutoChangeFrame = DriverFrame<G3G4AutoChangeRecord>(
-    ParseTableStep<kTable>, PackTableStep<kTable>, {0, false, true, false});
+extern const ResponseFrame kG3G4AutoChangeFrame =
+    DriverFrame<G3G4AutoChangeRecord>(ParseTableStep<kTable>, PackTableStep<kTable>,
+                                      {0, false, true, false})
+        .Describe(WholeTable<G3G4AutoChangeRecord, kTable>::kField);
 
 }  // namespace kova

@@ -42,7 +42,9 @@ constexpr const Field& kWhole = DescribedObject<MulticastConfig>::kWhole;
 
 }  // namespace
 
-extern const ResponseFrame kMulticastFrame = KeptRecordFrame<MulticastConfig>(
-    ParseDescribedSized<MulticastConfig, kWhole>, PackDescribed<kWhole>);
+extern const ResponseFrame kMulticastFrame =
+    KeptRecordFrame<MulticastConfig>(ParseDescribedSized<MulticastConfig, kWhole>,
+                                     PackDescribed<kWhole>)
+        .Describe(kWhole);
 
 }  // namespace kova

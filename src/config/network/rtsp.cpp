@@ -45,6 +45,7 @@ constexpr const Field& kWhole = DescribedObject<RtspConfig>::kWhole;
 
 extern const ResponseFrame kRtspFrame =
     KeptRecordFrame<RtspConfig>(ParseDescribedSized<RtspConfig, kWhole>, PackDescribed<kWhole>)
-        .IgnoreResult();
+        .IgnoreResult()
+        .Describe(kWhole);
 
 }  // namespace kova

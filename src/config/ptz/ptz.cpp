@@ -129,6 +129,7 @@ bool ParsePtzTable(const Json::Value& table, const StepContext& ctx, unsigned ch
 
 extern const ResponseFrame kPtzFrame =
     ResponseFrame::For<PtzConfig>(ParsePtzTable, PackDescribed<kWhole>)
+        .Describe(kWhole)
         .Result(ResultRule::kFalseFails)
         .OnNullTable(NullTable::kFail)
         .Returned(ReturnedLength::kSetRecord);

@@ -77,6 +77,7 @@ constexpr Field kRecordFields[] = {
     KOVA_CUSTOM(RecordConfig, sections, "TimeSection", ParseSchedule, PackSchedule),
     KOVA_F(RecordConfig, stream, "Stream", kUInt).NonNegative(),
 };
+constexpr FieldTable kRecordTable = KOVA_TABLE(kRecordFields);
 
 bool ParseChannel(const Json::Value& element, const StepContext& ctx, unsigned char* record) {
   const int32_t asked = ToInt32(Member(ctx.root, "channel"));
@@ -97,6 +98,7 @@ bool PackChannel(const unsigned char* record, Json::Value& out) {
 
 extern const ResponseFrame kRecordFrame =
     ResponseFrame::For<RecordConfig>(ParseChannel, PackChannel)
+        .Describe(WholeTable<RecordConfig, kRecordTable>::kField)
         .Walk(RecordWalk::kPerChannel)
         .ChannelAtRoot()
         .Short(ShortInput::kNull)

@@ -88,6 +88,7 @@ bool PackDevice(const unsigned char* record, Json::Value& table) {
 
 extern const ResponseFrame kRemoteDeviceFrame =
     ResponseFrame::For<RemoteDeviceConfig>(ParseDevice, PackDevice)
-        .Walk(RecordWalk::kObjectMembers);
+        .Walk(RecordWalk::kObjectMembers)
+        .Describe(DescribedObject<RemoteDeviceConfig>::kWhole);
 
 }  // namespace kova

@@ -46,7 +46,9 @@ constexpr FieldTable kThermometry = KOVA_TABLE(kThermometryFields);
 
 }  // namespace
 
-extern const ResponseFrame kHeatImagingThermometryFrame = DriverFrame<HeatImagingThermometryConfig>(
-    ParseTableStep<kThermometry>, PackTableStep<kThermometry>, {0, false, true, false});
+extern const ResponseFrame kHeatImagingThermometryFrame =
+    DriverFrame<HeatImagingThermometryConfig>(ParseTableStep<kThermometry>,
+                                              PackTableStep<kThermometry>, {0, false, true, false})
+        .Describe(WholeTable<HeatImagingThermometryConfig, kThermometry>::kField);
 
 }  // namespace kova

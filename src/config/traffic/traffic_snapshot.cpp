@@ -297,6 +297,7 @@ constexpr Field kSnapshotFields[] = {
 };
 constexpr size_t kSubBlocks = 3;
 constexpr size_t kFieldCount = sizeof kSnapshotFields / sizeof kSnapshotFields[0];
+constexpr FieldTable kSnapshotTable = KOVA_TABLE(kSnapshotFields);
 
 // One sub-block reader. A missing or null block is left zero and counts as
 // read; a block that is neither null nor its JSON type (an object, or an
@@ -336,6 +337,7 @@ extern const ResponseFrame kTrafficSnapshotFrame =
         .Clear(Clearing::kWholeBuffer)
         .IgnoreResult()
         .OnNullTable(NullTable::kFail)
-        .Returned(ReturnedLength::kSetRecord);
+        .Returned(ReturnedLength::kSetRecord)
+        .Describe(WholeTable<R, kSnapshotTable>::kField);
 
 }  // namespace kova

@@ -53,6 +53,7 @@ bool PackDayNight(const unsigned char* record, Json::Value& target) {
 
 // A table of channels is an array of arrays of profiles.
 extern const ResponseFrame kVideoInDayNightFrame =
-    DriverFrame<VideoInDayNightConfig>(ParseDayNight, PackDayNight, {1, true, true, true});
+    DriverFrame<VideoInDayNightConfig>(ParseDayNight, PackDayNight, {1, true, true, true})
+        .Describe(kProfiles);
 
 }  // namespace kova
