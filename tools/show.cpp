@@ -6,15 +6,19 @@
 #include <json/value.h>
 #include <json/writer.h>
 
+#include <cstddef>
 #include <cstdio>
 #include <cstring>
 
 #include "api/dispatch.h"
+#include "common/base/ascii.h"
 #include "common/fields/field_view.h"
+#include "common/fields/fields.h"
 #include "config/analyse/rule_config.h"
 #include "config/analyse/rule_types.h"
 #include "events/event_records.h"
 #include "kova/records/analyse.h"
+#include "kova/records/flat.h"
 
 namespace kova {
 extern const ResponseFrame kVideoAnalyseRuleFrame;
@@ -197,10 +201,81 @@ bool DriverSettingsOf(const kova::ResponseFrame& f, std::string* text) {
   return true;
 }
 
+// Whether `name` reads into a flat document: "flat:" any name, or a name
+// whose record is the flat list.
+bool ReadsFlat(const std::string& name) {
+  if (name.size() > 5 && kova::AsciiEqualNoCase(name.substr(0, 5), "flat:")) return true;
+  return kova::ParseReadsFlat(kova::FindParseName(name.c_str()));
+}
+
+// A text of the local code page, in UTF-8 for the terminal.
+std::string Utf8(const char* local) {
+  const int32_t n = static_cast<int32_t>(std::strlen(local));
+  if (n == 0) return std::string();
+  std::string out(static_cast<size_t>(n) * 4 + 1, '\0');
+  const int32_t written = kova::AnsiToUtf8(local, n, &out[0], static_cast<int32_t>(out.size()));
+  out.resize(written > 0 ? static_cast<size_t>(written) : 0);
+  return out;
+}
+
+// A flat document: its counts, then each stored leaf as path = value.
+int ShowFlat(const std::vector<unsigned char>& record, const ShowOptions& o) {
+  FlatDocument head;
+  std::memcpy(&head, record.data(), offsetof(FlatDocument, values));
+  const size_t capacity = (record.size() - offsetof(FlatDocument, values)) / sizeof(FlatValue);
+  const uint32_t count = head.count < capacity ? head.count : static_cast<uint32_t>(capacity);
+  Json::Value json(Json::objectValue);
+  json["count"] = head.count;
+  json["leafCount"] = head.leafCount;
+  Json::Value& values = json["values"] = Json::Value(Json::arrayValue);
+  if (!o.json) std::printf("flat document: %u values of %u leaves\n", head.count, head.leafCount);
+  static const char* const kTypes[] = {"null", "bool", "int",         "uint",
+                                       "real", "text", "empty array", "empty object"};
+  for (uint32_t i = 0; i < count; ++i) {
+    FlatValue v;
+    std::memcpy(&v, record.data() + offsetof(FlatDocument, values) + i * sizeof(FlatValue),
+                sizeof v);
+    v.path[sizeof v.path - 1] = '\0';
+    v.text[sizeof v.text - 1] = '\0';
+    std::string value;
+    switch (v.type) {
+      case KOVA_FLAT_BOOL:
+        value = v.integer != 0 ? "true" : "false";
+        break;
+      case KOVA_FLAT_INT:
+        value = std::to_string(v.integer);
+        break;
+      case KOVA_FLAT_UINT:
+        value = std::to_string(static_cast<uint64_t>(v.integer));
+        break;
+      case KOVA_FLAT_REAL:
+        value = std::to_string(v.real);
+        break;
+      case KOVA_FLAT_TEXT:
+        value = "\"" + Utf8(v.text) + "\"" + (v.cut != 0 ? " (cut)" : "");
+        break;
+      default:
+        value = v.type < 8 ? kTypes[v.type] : "?";
+        break;
+    }
+    if (o.json) {
+      Json::Value& e = values.append(Json::Value(Json::objectValue));
+      e["path"] = v.path;
+      e["type"] = v.type < 8 ? kTypes[v.type] : "?";
+      e["value"] = value;
+    } else {
+      std::printf("  %-60s %s\n", v.path[0] != '\0' ? v.path : "(the payload)", value.c_str());
+    }
+  }
+  if (o.json) PrintJson(json);
+  return 0;
+}
+
 }  // namespace
 
 int ShowRecords(const std::string& name, const std::vector<unsigned char>& record, uint32_t filled,
                 const std::vector<unsigned char>& rules, const ShowOptions& o) {
+  if (ReadsFlat(name) && record.size() >= sizeof(FlatDocument)) return ShowFlat(record, o);
   const kova::ResponseFrame* frame = ParseFrameOf(name);
   if (frame == nullptr) {
     std::fprintf(stderr, "kova: %s is not built for parse\n", name.c_str());
@@ -233,6 +308,22 @@ int ShowRecords(const std::string& name, const std::vector<unsigned char>& recor
 }
 
 int ShowLayout(const std::string& name, const ShowOptions& o) {
+  if (ReadsFlat(name)) {
+    // The flat document runs on to the end of the caller's buffer.
+    std::printf("%s: a flat document, 8 + count x %zu bytes (as many values as the buffer holds)\n",
+                name.c_str(), sizeof(FlatValue));
+    std::printf("  %6zu %6zu  uint32_t  count\n", offsetof(FlatDocument, count), sizeof(uint32_t));
+    std::printf("  %6zu %6zu  uint32_t  leafCount\n", offsetof(FlatDocument, leafCount),
+                sizeof(uint32_t));
+    std::printf(
+        "  %6zu %6zu  FlatValue values[i]: path[%d] %zu, type %zu, cut %zu, integer %zu, "
+        "real %zu, text[%d] %zu\n",
+        offsetof(FlatDocument, values), sizeof(FlatValue), KOVA_FLAT_PATH_SIZE,
+        offsetof(FlatValue, path), offsetof(FlatValue, type), offsetof(FlatValue, cut),
+        offsetof(FlatValue, integer), offsetof(FlatValue, real), KOVA_FLAT_TEXT_SIZE,
+        offsetof(FlatValue, text));
+    return 0;
+  }
   bool known = false;
   const kova::ResponseFrame* frame = AnyFrameOf(name, &known);
   if (frame == nullptr) {
