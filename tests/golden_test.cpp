@@ -6,7 +6,6 @@
 // FILE.txt. A new configuration is covered by its sample and its packed
 // text; `sh tests/golden.sh TOOL samples tests/fixtures --update` writes them.
 #include <gtest/gtest.h>
-
 #include <json/value.h>
 #include <json/writer.h>
 

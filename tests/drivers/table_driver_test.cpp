@@ -25,14 +25,6 @@ bool ParsePair(const Json::Value& v, const kova::StepContext&, unsigned char* re
   return true;
 }
 
-bool PackPair(const unsigned char* rec, Json::Value& out) {
-  Pair p;
-  std::memcpy(&p, rec, sizeof p);
-  kova::SetMember(out, "A") = p.a;
-  kova::SetMember(out, "B") = p.b;
-  return true;
-}
-
 std::string Envelope(const std::string& result, const std::string& table) {
   return R"({"id":3,"result":)" + result + R"(,"params":{"table":)" + table + "}}";
 }
@@ -171,15 +163,6 @@ TEST(ArrayDepth, LongArraysAreSampled) {
   for (Json::ArrayIndex i = 0; i < big.size(); ++i) big[i] = Json::Value(Json::objectValue);
   EXPECT_EQ(1, kova::ArrayDepth(big, 4));
   EXPECT_EQ(-1, kova::ArrayDepth(big, -1));
-}
-
-std::string Pack(const std::vector<Pair>& recs, uint32_t inLen, uint8_t array, uint32_t outLen,
-                 int* rc) {
-  std::vector<char> out(outLen + 4, 'x');
-  *rc = kova::PackTableDriver(recs.data(), inLen, out.data(), outLen, PackPair, sizeof(Pair), 0,
-                              array);
-  EXPECT_EQ(std::string(4, 'x'), std::string(out.end() - 4, out.end()));
-  return std::string(out.data(), strnlen(out.data(), outLen));
 }
 
 }  // namespace

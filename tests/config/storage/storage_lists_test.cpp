@@ -35,19 +35,6 @@ std::string Packed(const char* name, const std::vector<unsigned char>& b, size_t
   return PackBytes(name, b.data(), static_cast<uint32_t>(bytes));
 }
 
-// Packs the first `bytes` of `b`, parses the text back into a buffer of the
-// same stride, and expects the same bytes.
-void ExpectRoundTrip(const char* name, const std::vector<unsigned char>& b, uint32_t stride,
-                     size_t bytes) {
-  const std::string text = Packed(name, b, bytes);
-  std::vector<unsigned char> again = Slots(stride, static_cast<uint32_t>(b.size() / stride));
-  uint32_t ret = 0;
-  ASSERT_EQ(1, Parse(name, Doc(text), &again, &ret)) << name;
-  EXPECT_EQ(bytes, ret);
-  EXPECT_TRUE(std::equal(b.begin(), b.begin() + static_cast<std::ptrdiff_t>(bytes), again.begin()))
-      << name;
-}
-
 TEST(CallerSizedRecords, TheCallersSizeStepsBothWays) {
   // A caller built with the record up to the channel count: each group is
   // built whole and copied out as far as that size reaches.
