@@ -56,6 +56,7 @@
 #include "kova/records/analyse.h"
 #include "kova/records/events.h"
 #include "show.h"
+#include "tool.h"
 
 namespace {
 
@@ -460,7 +461,7 @@ int Run(int argc, char** argv) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int KovaMain(int argc, char** argv) {
   std::vector<char*> args(argv, argv + argc);
   std::string logPath;
   if (!TakeLogOption(&args, &logPath)) return Usage();

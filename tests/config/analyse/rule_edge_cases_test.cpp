@@ -35,54 +35,6 @@ RuleList Parse(const std::string& type, const std::string& config, const std::st
 
 std::string PackedConfig(const RuleList& l) { return ConfigText(PackRules("VideoAnalyseRule", l)); }
 
-TEST(AnalyseRuleEdgeCases, DirectionNamesIgnoreLetterCase) {
-  struct Case {
-    const char* text;
-    int32_t direction;
-  };
-  const Case kCases[] = {
-      {"RightToLeft", KOVA_LINE_RIGHT_TO_LEFT},
-      {"rIGHTtOlEFT", KOVA_LINE_RIGHT_TO_LEFT},
-      {"BOTH", KOVA_LINE_BOTH},
-      {"RightToLeft ", 0},
-      {"Upward", 0},
-      {"", 0},
-  };
-  for (const Case& c : kCases) {
-    const std::string config = std::string(R"({"Direction":")") + c.text + "\"}";
-    EXPECT_EQ(c.direction,
-              Parse("CrossFenceDetection", config).Body<CrossFenceRule>(0, 287)->direction)
-        << c.text;
-    EXPECT_EQ(c.direction, Parse("CrossLineDetection", config).Body<CrossLineRule>(0, 2)->direction)
-        << c.text;
-  }
-  EXPECT_EQ(
-      0,
-      Parse("CrossFenceDetection", R"({"Direction":1})").Body<CrossFenceRule>(0, 287)->direction);
-}
-
-TEST(AnalyseRuleEdgeCases, TriggerPositionsCountNonNullEntries) {
-  const RuleList l =
-      Parse("StayDetection", R"({"TriggerPosition":["Center",null,"Sideways","BottomCenter"]})");
-  auto stay = l.Body<StayRule>(0, 6);
-  EXPECT_EQ(3u, stay->triggerPositions.count);
-  const uint8_t slots[8] = {KOVA_TRIGGER_CENTER, 0, 0, KOVA_TRIGGER_BOTTOM_CENTER};
-  EXPECT_EQ(0, std::memcmp(slots, stay->triggerPositions.positions, sizeof slots));
-  // The first `count` slots are written: the null's slot and the unknown
-  // name both read 0, and the last entry is past the count.
-  EXPECT_NE(std::string::npos,
-            PackedConfig(l).find(R"("TriggerPosition" : [ "Center", "Center", "Center" ])"));
-}
-
-TEST(AnalyseRuleEdgeCases, ActionsAreCutToFour) {
-  auto region = Parse("CrossRegionDetection",
-                      R"({"Action":["Cross","Inside","Appear","Disappear","Cross","Inside"]})")
-                    .Body<CrossRegionRule>(0, 3);
-  EXPECT_EQ(4u, region->actionCount);
-  EXPECT_EQ(KOVA_ACTION_CROSS, region->actions[0]);
-  EXPECT_EQ(KOVA_ACTION_DISAPPEAR, region->actions[3]);
-}
-
 TEST(AnalyseRuleEdgeCases, DetectTypesKeepFourSlotsByIndex) {
   const RuleList l =
       Parse("MoveDetection",
@@ -113,23 +65,6 @@ TEST(AnalyseRuleEdgeCases, FaceAreasKeepTheDevicesBlank) {
             PackedConfig(l).find(R"("Areas" : [ "Cheek", "Eyebrow ", "Eyebrow " ])"));
 }
 
-TEST(AnalyseRuleEdgeCases, UnknownNamesReadZeroAndUnnamedValuesPackEmpty) {
-  EXPECT_EQ(0,
-            Parse("FightDetection", R"({"DetectMode":"Loud"})").Body<FightRule>(0, 14)->detectMode);
-  EXPECT_EQ(0, Parse("TrafficControl", R"({"TimeSchedule":2})")
-                   .Body<TrafficControlRule>(0, 21)
-                   ->timeSchedule);
-
-  RuleList l = Parse("FightDetection", R"({"DetectMode":"ByAudio","MinDuration":4})");
-  FightRule fight;
-  std::memcpy(&fight, l.buffer.data() + KOVA_RULE_ENTRY_HEADER_SIZE, sizeof fight);
-  EXPECT_EQ(KOVA_FIGHT_BY_AUDIO, fight.detectMode);
-  fight.detectMode = 9;
-  std::memcpy(l.buffer.data() + KOVA_RULE_ENTRY_HEADER_SIZE, &fight, sizeof fight);
-  EXPECT_EQ(R"({ "DetectMode" : "", "DetectRegion" : [  ], "MinDuration" : 4, "Sensitivity" : 0 })",
-            PackedConfig(l));
-}
-
 TEST(AnalyseRuleEdgeCases, TypeWithoutKeysHoldsOnlyTheCommonFields) {
   const std::string extra = R"("ObjectTypes":["Vehicle"],"PtzPresetId":4,)";
   const RuleList plain = Parse("TrafficDriverSmoking", "{}", extra);
@@ -152,18 +87,6 @@ TEST(AnalyseRuleEdgeCases, ConfigTrackEnableIsTheTypesOwn) {
   EXPECT_NE(std::string::npos,
             packed.find(R"("ReportTimes" : 0, "Sensitivity" : 0, "TrackEnable" : false })"));
   EXPECT_NE(std::string::npos, packed.find(R"("TrackEnable" : true, "Type" : "TrafficParking")"));
-}
-
-TEST(AnalyseRuleEdgeCases, DirectionLinesHoldTwoPointsByThePointRule) {
-  auto retro = Parse("TrafficRetrograde", R"({"Direction":[[10,20],[30,40],[50,60]]})")
-                   .Body<TrafficRetrogradeRule>(0, 258);
-  EXPECT_EQ(2u, retro->direction.pointCount);
-  EXPECT_EQ(40, retro->direction.points[1].y);
-  auto holed = Parse("TrafficRetrograde", R"({"Direction":[[5],[30,40]]})")
-                   .Body<TrafficRetrogradeRule>(0, 258);
-  EXPECT_EQ(1u, holed->direction.pointCount);
-  EXPECT_EQ(0, holed->direction.points[0].x);
-  EXPECT_EQ(30, holed->direction.points[1].x);
 }
 
 TEST(AnalyseRuleEdgeCases, AudioRulesHaveNoObjectTypes) {

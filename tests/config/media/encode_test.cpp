@@ -161,17 +161,4 @@ TEST(Encode, PackShapesAndFallbacks) {
   EXPECT_EQ("[ " + one.substr(0, one.size() - 1) + " ]\n", Pack(more.data(), more.size()));
 }
 
-TEST(Encode, InputShorterThanOneRecordPacksAsNullReadingNothing) {
-  // Every byte set: a record read from it would pack flags and values. The
-  // buffer holds exactly the input, so a read past it is caught under ASan.
-  for (uint32_t inLen : {1u, 7u, kRec - 1}) {
-    std::unique_ptr<unsigned char[]> in(new unsigned char[inLen]);
-    std::memset(in.get(), 0xFF, inLen);
-    EXPECT_EQ("null\n", Pack(in.get(), inLen)) << inLen;
-  }
-  // An empty input is refused: the device protocol fails a length of 0.
-  const unsigned char one = 0xFF;
-  EXPECT_EQ("", Pack(&one, 0));
-}
-
 }  // namespace

@@ -105,23 +105,4 @@ TEST(VideoInFamily, OneChannelAnswerFillsOneRecord) {
   }
 }
 
-// Three channels into room for two and a bit: two records, the bit
-// cleared; two records pack as an array of the two bare values.
-TEST(VideoInFamily, AllChannelAnswerIsCutToTheBuffer) {
-  for (const Name& n : kNames) {
-    std::string bare = kova::WriteJson(kova::Element(SampleTable(n), 0));
-    bare.pop_back();  // the newline
-    const Parsed p = Parse(n, Doc("[" + bare + "," + bare + "," + bare + "]"), 2 * n.size + 7);
-    ASSERT_EQ(1, p.rc) << n.name;
-    EXPECT_EQ(2 * n.size, p.ret) << n.name;
-    EXPECT_TRUE(std::equal(p.bytes.begin(), p.bytes.begin() + n.size, p.bytes.begin() + n.size))
-        << n.name;
-    EXPECT_EQ(std::vector<unsigned char>(7, 0),
-              std::vector<unsigned char>(p.bytes.end() - 7, p.bytes.end()))
-        << n.name;
-    EXPECT_EQ("[ " + bare + ", " + bare + " ]\n", PackBytes(n.name, p.bytes.data(), p.ret + 7))
-        << n.name;
-  }
-}
-
 }  // namespace

@@ -128,34 +128,6 @@ TEST(Nas, LegacyChannelScheduleKeysChannelsByName) {
   ExpectRoundTrip(*r, "");
 }
 
-TEST(Nas, ServerSlotsFollowElementsAndTheFirstSixteenAreRead) {
-  std::string twenty;
-  for (int i = 0; i < 20; ++i)
-    twenty += std::string(i ? "," : "") + R"({"Port":)" + std::to_string(i + 1) + "}";
-  std::unique_ptr<NasConfig> r = ParseNasOk(Doc("[" + twenty + "]"));
-  EXPECT_EQ(16, r->serverCount);
-  EXPECT_EQ(16, r->servers[15].port);
-
-  // A null element keeps its zero slot, is not counted, and packs back as null.
-  r = ParseNasOk(Doc(R"([null,{"Name":"B","Enable":true}])"));
-  EXPECT_EQ(1, r->serverCount);
-  EXPECT_EQ(0, r->servers[0].enable);
-  EXPECT_STREQ("B", r->servers[1].name);
-  const std::string text = kova_test::Pack("NAS", *r);
-  EXPECT_EQ(0u, text.find(R"([ null, { "Address" : "", "CharacterEncoding" : "UTF-8", )"
-                          R"("Directory" : "", "Enable" : true, "Name" : "B", )"));
-  ExpectRoundTrip(*r, "table");
-
-  // An empty table packs as an empty array.
-  r = ParseNasOk(Doc("[]"));
-  EXPECT_EQ("[  ]\n", kova_test::Pack("NAS", *r));
-  // A table that is not an array reads no server.
-  r = ParseNasOk(Doc(R"({"Port":21})"));
-  EXPECT_EQ(1, r->useServerList);
-  EXPECT_EQ(0, r->serverCount);
-  EXPECT_EQ(0, r->servers[0].port);
-}
-
 TEST(Nas, EnumerationsCompareExactlyAndUpdateTimeKeepsItsEra) {
   struct Case {
     const char* server;

@@ -56,56 +56,6 @@ std::vector<unsigned char> Parse(const Setting& s, const std::string& json, int*
   return out;
 }
 
-TEST(SystemSettings, PerChannelAnswersFillOneRecordEachCutToTheBuffer) {
-  const Setting alarmOut = Named("AlarmOut");
-  int rc = 0;
-  uint32_t ret = 0;
-  std::vector<unsigned char> two = Parse(alarmOut, kova_test::Sample("AlarmOut"), &rc, &ret, 2);
-  EXPECT_EQ(1, rc);
-  EXPECT_EQ(2 * sizeof(AlarmOutConfig), ret);
-  const AlarmOutConfig* ports = reinterpret_cast<const AlarmOutConfig*>(two.data());
-  EXPECT_STREQ("Gate relay", ports[1].name);
-  EXPECT_EQ(1, ports[1].mode);
-  // One port answered alone, without the optional members.
-  std::vector<unsigned char> one = Parse(alarmOut, Doc(R"({"Mode":2,"Name":"Bell"})"), &rc, &ret);
-  EXPECT_EQ(sizeof(AlarmOutConfig), ret);
-  EXPECT_EQ(R"({ "Mode" : 2, "Name" : "Bell" })"
-            "\n",
-            PackBytes("AlarmOut", one.data(), ret));
-}
-
-TEST(SystemSettings, OptionalMembersAreWrittenOnlyWhenTheDeviceSentThem) {
-  const std::string general = Doc(R"({"MachineName":"NVR","LocalNo":1})");
-  int rc = 0;
-  uint32_t ret = 0;
-  std::vector<unsigned char> g = Parse(Named("General"), general, &rc, &ret);
-  EXPECT_EQ(
-      R"({ "LocalNo" : 1, "LockLoginEnable" : false, "LockLoginTimes" : 0, "LoginFailLockTime" : 0, )"
-      R"("MachineName" : "NVR", "MaxOnlineTime" : 0 })"
-      "\n",
-      PackBytes("General", g.data(), ret));
-  // "HealthReport" that is not an object counts as absent.
-  std::vector<unsigned char> e =
-      Parse(Named("Email"), Doc(R"({"HealthReport":true,"Receivers":"a@b"})"), &rc, &ret);
-  const EmailConfig* mail = reinterpret_cast<const EmailConfig*>(e.data());
-  EXPECT_EQ(0, mail->healthReportPresent);
-  EXPECT_EQ(0, mail->receiverCount);
-  EXPECT_EQ(std::string::npos, PackBytes("Email", e.data(), ret).find("HealthReport"));
-}
-
-TEST(SystemSettings, EmailReceiversAreCutToEight) {
-  std::string list = "[";
-  for (int i = 0; i < 10; ++i)
-    list += std::string(i ? "," : "") + "\"r" + std::to_string(i) + "@x\"";
-  int rc = 0;
-  uint32_t ret = 0;
-  std::vector<unsigned char> e =
-      Parse(Named("Email"), Doc(R"({"Receivers":)" + list + "]}"), &rc, &ret);
-  const EmailConfig* mail = reinterpret_cast<const EmailConfig*>(e.data());
-  EXPECT_EQ(8, mail->receiverCount);
-  EXPECT_STREQ("r7@x", mail->receivers[7]);
-}
-
 TEST(SystemSettings, LanguageAndLocalesShapes) {
   int rc = 0;
   uint32_t ret = 0;
@@ -215,21 +165,6 @@ TEST(SystemSettings, SoundAlarmKeepsItsLightBesideTheLinkageBlock) {
       ++n;
     return n;
   }());
-}
-
-TEST(SystemSettings, VolumesArePlainNumbers) {
-  int rc = 0;
-  uint32_t ret = 0;
-  std::vector<unsigned char> out =
-      Parse(Named("AudioOutputVolume"), Doc("[80,\"x\",null,100,7]"), &rc, &ret, 4);
-  const AudioVolumeConfig* v = reinterpret_cast<const AudioVolumeConfig*>(out.data());
-  EXPECT_EQ(4 * sizeof(AudioVolumeConfig), ret);  // cut to the buffer
-  EXPECT_EQ(80, v[0].volume);
-  EXPECT_EQ(0, v[1].volume);
-  EXPECT_EQ(100, v[3].volume);
-  out = Parse(Named("AudioInputVolume"), Doc("35"), &rc, &ret);  // one channel answered alone
-  EXPECT_EQ(sizeof(AudioVolumeConfig), ret);
-  EXPECT_EQ("35\n", PackBytes("AudioInputVolume", out.data(), ret));
 }
 
 }  // namespace

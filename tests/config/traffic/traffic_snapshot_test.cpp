@@ -77,36 +77,6 @@ TEST(TrafficSnapshot, AFailingSubBlockLeavesEveryLaterKeyZero) {
   EXPECT_EQ(30, r->keepAlive);
 }
 
-// Pairs and the frame intervals take what the array has, element by element.
-TEST(TrafficSnapshot, ShortArraysFillWhatTheyHold) {
-  struct Case {
-    const char* table;
-    float large[2];
-    int32_t adaptive[2];
-    int32_t frames[3];
-  };
-  const Case cases[] = {
-      {R"({"LargeVehicleLengthLevel":[3.5]})", {3.5f, 0}, {0, 0}, {0, 0, 0}},
-      {R"({"LargeVehicleLengthLevel":[6,18,30],"AdaptiveSpeed":[40]})",
-       {6, 18},
-       {40, 0},
-       {0, 0, 0}},
-      {R"({"CustomFrameInterval":null})", {0, 0}, {0, 0}, {0, 0, 0}},
-      {R"({"CustomFrameInterval":"2,4,6"})", {0, 0}, {0, 0}, {0, 0, 0}},
-      {R"({"CustomFrameInterval":[7]})", {0, 0}, {0, 0}, {7, 0, 0}},
-      {R"({"CustomFrameInterval":[1,2,3,4]})", {0, 0}, {0, 0}, {1, 2, 3}},
-  };
-  for (const Case& c : cases) {
-    int rc = 0;
-    uint32_t ret = 0;
-    std::unique_ptr<Record> r = Parse(Doc(c.table), &rc, &ret);
-    ASSERT_EQ(1, rc) << c.table;
-    EXPECT_EQ(0, std::memcmp(c.large, r->largeVehicleLengthLevel, sizeof c.large)) << c.table;
-    EXPECT_EQ(0, std::memcmp(c.adaptive, r->adaptiveSpeed, sizeof c.adaptive)) << c.table;
-    EXPECT_EQ(0, std::memcmp(c.frames, r->customFrameInterval, sizeof c.frames)) << c.table;
-  }
-}
-
 TEST(TrafficSnapshot, DeviceAddressIsCutBeforeConversion) {
   struct Case {
     std::string address;
