@@ -1,5 +1,7 @@
 #!/bin/sh
-# The golden test: every shipped device answer samples/NAME[.what].json
+# The golden fixtures, checked by tests/golden_test.cpp in the unit suite and
+# written by this script with --update: every shipped device answer
+# samples/NAME[.what].json
 # (with its .args) is parsed with the kova tool and packed back, and the
 # packed text must be exactly tests/fixtures/NAME[.what].packed.txt; every
 # event document samples/events/FILE.json must read to exactly
