@@ -65,11 +65,14 @@ int PackTableDriver(const void* inBuf, uint32_t inLen, char* outJson, uint32_t o
   Json::Value root;
   const uint64_t count = arrayAllowed ? inLen / recordSize : 1;
   const unsigned char* in = static_cast<const unsigned char*>(inBuf);
+  TextBudget budget(outLen - 1);
   for (uint64_t i = 0; i < count; ++i) {
     Json::Value& target = count > 1 ? SetElement(root, static_cast<uint32_t>(i)) : root;
     packer(in + i * recordSize, target);
+    if (count > 1 && !budget.Spend(root, static_cast<uint32_t>(i))) return 0;
   }
-  return CopyTextStrict(WriteJson(root), outJson, outLen) ? 1 : 0;
+  std::string text;  // not written past what the buffer takes
+  return WriteJsonWithin(root, outLen - 1, &text) && CopyTextStrict(text, outJson, outLen) ? 1 : 0;
 }
 
 }  // namespace kova
