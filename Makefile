@@ -21,7 +21,7 @@ DEB_PACKAGES := cmake make g++ pkg-config libjsoncpp-dev libgtest-dev libgmock-d
 WINDOWS_PACKAGES := cmake make ninja-build g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 \
 	wine wine64 googletest dpkg-dev
 
-.PHONY: all deps format format-check build test demo fuzz-build fuzz fuzz-short tsan bench coverage \
+.PHONY: all deps format format-check build test demo fuzz-build fuzz fuzz-short fuzz-long tsan bench coverage \
 	package package-check windows windows-test windows-deps clean
 
 all: build
@@ -76,6 +76,12 @@ fuzz: fuzz-build
 
 fuzz-short: fuzz-build
 	@sh fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_SHORT_SECONDS)
+
+# A campaign of hours, e.g. `make fuzz-long FUZZ_SECONDS=14400`: the fuzzers
+# in stints, going on after a finding; fuzz/run.sh says where the findings
+# and the figures go.
+fuzz-long: fuzz-build
+	@sh fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_SECONDS) long
 
 # The concurrency test under ThreadSanitizer.
 tsan: deps

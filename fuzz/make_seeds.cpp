@@ -98,6 +98,14 @@ int main(int argc, char** argv) {
     }
   }
 
+  // Inputs that once took the harness gigabytes: a 16 MiB buffer of small
+  // records each aimed at its own pointed buffer, and thousands of records
+  // whose counts asked for a megabyte of pointed buffer each. They keep the
+  // bound on pointed buffers exercised.
+  parse.Write("AudioAnalyseRule-in-16MiB", std::string("\x99\xff\xff\x2d\x32\x00\x31", 7));
+  pack.Write("AudioAnalyseRule-2496-records", std::string("\x42\xff\xaf\x9e\xc0\x09\xea\xff", 8));
+  pack.Write("AudioAnalyseRule-2730-records", std::string("\x42\xff\xaf\xff\xff\xff\xff", 7));
+
   SeedWriter events(out / "events");
   for (const std::string& doc : EventDocuments(samples)) {
     events.Write("events", std::string(kEventHeaderSize, '\0') + doc);

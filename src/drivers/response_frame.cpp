@@ -138,7 +138,8 @@ void StartSizedRecord(unsigned char* record, uint32_t size) {
 }
 
 int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule) {
-  const std::string text = WriteJson(value);
+  std::string text;  // not written past what the buffer takes
+  if (!WriteJsonWithin(value, rule == CopyRule::kAtMost ? outLen : outLen - 1, &text)) return 0;
   const bool copied = rule == CopyRule::kAtMost ? CopyTextAtMost(text, outJson, outLen)
                                                 : CopyTextStrict(text, outJson, outLen);
   return copied ? 1 : 0;
@@ -264,6 +265,7 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
     const uint32_t n = f.packWalk == PackWalk::kOne ? 1 : inLen / stride;
     if (static_cast<uint64_t>(n) * f.minTextPerRecord > outLen) return 0;
     std::vector<unsigned char> copy;  // only for caller-sized slots that need one
+    TextBudget budget(f.copy == CopyRule::kAtMost ? outLen : outLen - 1);
 
     Json::Value root;
     const bool members = f.packWalk == PackWalk::kObjectMembers;
@@ -284,6 +286,7 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
         std::memset(outJson, 0, outLen);
         return 0;
       }
+      if (n > 1 && !budget.Spend(root, i)) return 0;  // nothing written yet
     }
     return CopyPacked(root, outJson, outLen, f.copy);
   } catch (...) {

@@ -1,5 +1,7 @@
 #include "harness/catalog.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 #include "api/dispatch.h"
@@ -140,6 +142,22 @@ void FillRecord(uint8_t* p, size_t n, Fill fill, uint32_t seed) {
   }
 }
 
+namespace {
+
+// `content` repeated over [p, p + n), doubling what is already laid.
+void FillRepeated(uint8_t* p, size_t n, const std::string& content) {
+  if (content.empty() || n == 0) return;
+  size_t done = std::min(n, content.size());
+  std::memcpy(p, content.data(), done);
+  while (done < n) {
+    const size_t step = std::min(done, n - done);
+    std::memcpy(p + done, p, step);
+    done += step;
+  }
+}
+
+}  // namespace
+
 void PointedBuffers::Attach(const char* name, uint8_t* records, size_t length, uint32_t recordSize,
                             int64_t count, const std::string& content) {
   if (recordSize == 0) return;
@@ -153,18 +171,25 @@ void PointedBuffers::Attach(const char* name, uint8_t* records, size_t length, u
       uint8_t* record = records + at;
       uint32_t n = 0;
       if (count >= 0) {
-        n = static_cast<uint32_t>(count);
+        n = static_cast<uint32_t>(std::min<int64_t>(count, UINT32_MAX));
       } else {
         std::memcpy(&n, record + rp->countOffset, sizeof n);
       }
-      if (n > kMaxBytes / rp->unitSize) n = kMaxBytes / rp->unitSize;
+      const size_t left = buffers_.size() < kMaxBuffers ? kMaxTotalBytes - totalBytes_ : 0;
+      n = std::min<uint32_t>(
+          n, static_cast<uint32_t>(std::min<size_t>(kMaxBytes, left)) / rp->unitSize);
       std::memcpy(record + rp->countOffset, &n, sizeof n);
-      buffers_.push_back(std::make_unique<GuardedBuffer>(static_cast<size_t>(n) * rp->unitSize));
-      GuardedBuffer& b = *buffers_.back();
-      for (size_t j = 0; !content.empty() && j < b.size(); ++j) {
-        b.data()[j] = static_cast<uint8_t>(content[j % content.size()]);
+      GuardedBuffer* b = empty_;
+      if (n != 0) {
+        buffers_.push_back(std::make_unique<GuardedBuffer>(static_cast<size_t>(n) * rp->unitSize));
+        b = buffers_.back().get();
+        totalBytes_ += b->size();
+        FillRepeated(b->data(), b->size(), content);
+      } else if (b == nullptr) {
+        buffers_.push_back(std::make_unique<GuardedBuffer>(0));
+        b = empty_ = buffers_.back().get();
       }
-      void* target = b.data();
+      void* target = b->data();
       std::memcpy(record + rp->pointerOffset, &target, sizeof target);
     }
   }

@@ -95,17 +95,24 @@ extern const RecordPointer kRecordPointers[];
 // not on where the pointed buffers happen to live.
 void ClearPointerFields(const char* name, uint8_t* records, size_t length, uint32_t recordSize);
 
-// The buffers that the pointer fields of some records were aimed at.
+// The buffers that the pointer fields of some records were aimed at. What
+// they take is bounded whatever the records hold and however many records
+// the caller's buffer has room for: one buffer holds at most kMaxBytes, all
+// buffers of one Attach at most kMaxTotalBytes in at most kMaxBuffers
+// blocks. A record past those bounds, or whose count is 0, gets the count 0
+// and a pointer at one empty guarded buffer, so that it still points at
+// memory the call may not touch.
 class PointedBuffers {
  public:
   static constexpr uint32_t kMaxBytes = 1u << 20;
+  static constexpr uint32_t kMaxTotalBytes = 4u << 20;
+  static constexpr size_t kMaxBuffers = 64;
 
   // For every pointer field of configuration `name`, in every whole record
   // of [records, records + length) with stride `recordSize`: takes the count
-  // the record holds (or `count` when it is not negative), cuts it so the
-  // buffer stays within kMaxBytes, writes it back, and aims the pointer at a
-  // guarded buffer of that many units, filled with `content` repeated (zeros
-  // when empty).
+  // the record holds (or `count` when it is not negative), cuts it to the
+  // bounds above, writes it back, and aims the pointer at a guarded buffer
+  // of that many units, filled with `content` repeated (zeros when empty).
   void Attach(const char* name, uint8_t* records, size_t length, uint32_t recordSize, int64_t count,
               const std::string& content);
   bool GuardsIntact() const;
@@ -115,6 +122,8 @@ class PointedBuffers {
 
  private:
   std::vector<std::unique_ptr<GuardedBuffer>> buffers_;
+  size_t totalBytes_ = 0;
+  GuardedBuffer* empty_ = nullptr;  // the one empty buffer, once a record needs it
 };
 
 }  // namespace kova_harness

@@ -87,9 +87,14 @@ class GuardedBuffer {
 
   // A few freed blocks kept per thread for the next buffer of the same
   // size: the suites call translators of large records thousands of times,
-  // and fresh pages for each call cost more than the call.
+  // and fresh pages for each call cost more than the call. At most kBlocks
+  // blocks of at most kLargestBlock bytes each are kept; anything else is
+  // freed at once, so what the cache holds never grows with the calls.
   class BlockCache {
    public:
+    static constexpr size_t kBlocks = 8;
+    static constexpr size_t kLargestBlock = 4u << 20;
+
     ~BlockCache() {
       for (const Block& b : blocks_) Free(b.base);
     }
@@ -103,11 +108,11 @@ class GuardedBuffer {
       return static_cast<uint8_t*>(::operator new(total, kAlignment));
     }
     void Give(uint8_t* base, size_t total) {
-      if (total > (4u << 20)) {
+      if (total > kLargestBlock) {
         Free(base);
         return;
       }
-      if (blocks_.size() == 8) {
+      if (blocks_.size() == kBlocks) {
         Free(blocks_.front().base);
         blocks_.erase(blocks_.begin());
       }

@@ -1,8 +1,11 @@
 #include "common/json/json_writer.h"
 
+#include <algorithm>
 #include <cinttypes>
 #include <cstdio>
 #include <cstring>
+
+#include "common/json/json.h"
 
 namespace kova {
 
@@ -44,7 +47,9 @@ void WriteString(const char* begin, const char* end, std::string* out) {
   out->push_back('"');
 }
 
-void WriteValue(const Json::Value& v, std::string* out) {
+// Writes `v` unless the text would pass `room` bytes: false as soon as it
+// has (what `out` holds then is to be thrown away).
+bool WriteValue(const Json::Value& v, uint64_t room, std::string* out) {
   char num[64];
   switch (v.type()) {
     case Json::nullValue:
@@ -77,11 +82,13 @@ void WriteValue(const Json::Value& v, std::string* out) {
     }
     case Json::arrayValue: {
       out->append("[ ");
-      const Json::ArrayIndex n = v.size();
-      for (Json::ArrayIndex i = 0; i < n; ++i) {
+      bool fits = true;
+      ForEachElement(v, v.size(), [&](uint32_t i, const Json::Value& e) {
         if (i != 0) out->append(", ");
-        WriteValue(v[i], out);
-      }
+        fits = WriteValue(e, room, out);
+        return fits;
+      });
+      if (!fits) return false;
       out->append(" ]");
       break;
     }
@@ -96,21 +103,109 @@ void WriteValue(const Json::Value& v, std::string* out) {
         kb = it.memberName(&ke);
         WriteString(kb, ke, out);
         out->append(" : ");
-        WriteValue(*it, out);
+        if (!WriteValue(*it, room, out)) return false;
       }
       out->append(" }");
       break;
     }
   }
+  return out->size() <= room;
+}
+
+uint64_t StringLength(const char* begin, const char* end) {
+  uint64_t n = 2 + static_cast<uint64_t>(end - begin);
+  for (const char* p = begin; p != end; ++p) {
+    switch (*p) {
+      case '\b':
+      case '\t':
+      case '\n':
+      case '\f':
+      case '\r':
+      case '"':
+      case '/':
+      case '\\':
+        ++n;
+        break;
+      default:
+        break;
+    }
+  }
+  return n;
+}
+
+uint64_t Digits(uint64_t x) {
+  uint64_t n = 1;
+  for (; x >= 10; x /= 10) ++n;
+  return n;
 }
 
 }  // namespace
 
+uint64_t TextLength(const Json::Value& v) {
+  switch (v.type()) {
+    case Json::nullValue:
+      return 4;
+    case Json::booleanValue:
+      return v.asBool() ? 4 : 5;
+    case Json::intValue: {
+      const int64_t x = v.asLargestInt();
+      // The magnitude in unsigned arithmetic: INT64_MIN has no positive twin.
+      return x < 0 ? 1 + Digits(0 - static_cast<uint64_t>(x)) : Digits(static_cast<uint64_t>(x));
+    }
+    case Json::uintValue:
+      return Digits(v.asLargestUInt());
+    case Json::realValue: {
+      char num[64];
+      const int n = std::snprintf(num, sizeof num, "%#.16g", v.asDouble());
+      return n > 0 ? std::min<uint64_t>(static_cast<uint64_t>(n), sizeof num - 1) : 0;
+    }
+    case Json::stringValue: {
+      const char* begin = nullptr;
+      const char* end = nullptr;
+      return v.getString(&begin, &end) ? StringLength(begin, end) : 2;
+    }
+    case Json::arrayValue: {
+      const Json::ArrayIndex n = v.size();
+      uint64_t total = 4 + (n != 0 ? 2 * (static_cast<uint64_t>(n) - 1) : 0);  // "[ ", ", ", " ]"
+      ForEachElement(v, n, [&total](uint32_t, const Json::Value& e) { total += TextLength(e); });
+      return total;
+    }
+    case Json::objectValue: {
+      const Json::ArrayIndex n = v.size();
+      uint64_t total = 4 + (n != 0 ? 2 * (static_cast<uint64_t>(n) - 1) : 0);  // "{ ", ", ", " }"
+      for (auto it = v.begin(); it != v.end(); ++it) {
+        const char* ke = nullptr;
+        const char* kb = it.memberName(&ke);
+        total += StringLength(kb, ke) + 3 + TextLength(*it);  // key, " : ", value
+      }
+      return total;
+    }
+  }
+  return 0;
+}
+
+bool TextBudget::Spend(const Json::Value& root, uint32_t index) {
+  if (root.isArray()) {
+    // "[ " and " ]" and the newline come with the first element, ", " with each other.
+    spent_ += (index == 0 ? 5 : 2) + TextLength(Element(root, index));
+  } else if ((index & (index + 1)) == 0) {
+    spent_ = TextLength(root) + 1;
+  }
+  return spent_ <= room_;
+}
+
 std::string WriteJson(const Json::Value& root) {
   std::string out;
-  WriteValue(root, &out);
+  WriteValue(root, UINT64_MAX, &out);
   out.push_back('\n');
   return out;
+}
+
+bool WriteJsonWithin(const Json::Value& root, uint64_t room, std::string* text) {
+  text->clear();
+  if (room == 0 || !WriteValue(root, room - 1, text)) return false;
+  text->push_back('\n');
+  return true;
 }
 
 bool CopyTextStrict(const std::string& text, char* out, uint32_t outLen) {

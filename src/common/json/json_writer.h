@@ -17,6 +17,34 @@ namespace kova {
 // Returns the single-line text of `root`, newline included.
 std::string WriteJson(const Json::Value& root);
 
+// The same into `text` when it takes at most `room` bytes, newline
+// included; false as soon as it is found longer, without writing the rest.
+bool WriteJsonWithin(const Json::Value& root, uint64_t room, std::string* text);
+
+// Length of the single-line text of `v`, newline not included, counted
+// without writing it.
+uint64_t TextLength(const Json::Value& v);
+
+// The room of a caller's text buffer, spent while a pack puts its records
+// into the tree one by one: a pack whose text cannot fit stops at the
+// record that makes it too long, instead of building the whole tree and its
+// text first, so that what a pack takes is bounded by its buffers.
+class TextBudget {
+ public:
+  // `room`: the longest text, newline included, the buffer takes.
+  explicit TextBudget(uint64_t room) : room_(room) {}
+
+  // After record `index` went into `root`: an array root spends its element
+  // `index` (written once, not looked at again); any other root, filled by
+  // every record, is counted whole after records 1, 2, 4, 8, ... so that
+  // counting costs at most twice the tree. False once the text cannot fit.
+  bool Spend(const Json::Value& root, uint32_t index);
+
+ private:
+  uint64_t room_;
+  uint64_t spent_ = 0;
+};
+
 // Copies `text` with its terminating NUL into `out` when it fits, that is
 // when `outLen` is strictly greater than the text's length. Returns false
 // (nothing copied) otherwise.

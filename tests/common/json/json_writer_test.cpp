@@ -66,4 +66,49 @@ TEST(JsonWriter, CopyRules) {
   EXPECT_EQ(std::string("{  }\nxxx"), std::string(buf, 8));
 }
 
+// The length counted without writing, and the bounded writer, agree with
+// the text to the byte: a pack is refused early on them, never a text that fits.
+TEST(JsonWriter, CountedLengthAndBoundedWriteAgreeWithTheText) {
+  Json::Value root;
+  kova::SetMember(root, "n") = Json::Value(Json::Int64(INT64_MIN));
+  kova::SetMember(root, "u") = Json::Value(Json::UInt64(UINT64_MAX));
+  kova::SetMember(root, "r") = Json::Value(-1e-300);
+  kova::SetMember(root, "s") = Json::Value(std::string("\b\t\n\f\r\"/\\\x01\0\xc3\xa9", 12));
+  kova::SetMember(root, "k/\"") = Json::Value(Json::objectValue);
+  kova::SetElement(kova::SetMember(root, "sparse"), 3) = false;  // elements 0-2 read as null
+  Json::Value& list = kova::SetMember(root, "a");
+  for (int i = -2; i < 12; ++i) kova::Append(list, Json::Value(i * 7));
+  kova::Append(list, Json::Value(Json::arrayValue));
+  kova::Append(list, kova::Member(root, "s"));
+  for (const Json::Value& v : {Json::Value(), Json::Value(true), Json::Value(0), list, root}) {
+    const std::string text = kova::WriteJson(v);
+    EXPECT_EQ(text.size() - 1, kova::TextLength(v)) << text;
+    std::string bounded = "stale";
+    EXPECT_TRUE(kova::WriteJsonWithin(v, text.size(), &bounded));
+    EXPECT_EQ(text, bounded);
+    EXPECT_FALSE(kova::WriteJsonWithin(v, text.size() - 1, &bounded)) << text;
+  }
+}
+
+// Records spent one by one as elements of an array: refused exactly when
+// the text, brackets, separators and newline counted, passes the room.
+TEST(JsonWriter, BudgetSpentPerRecord) {
+  Json::Value array(Json::arrayValue);
+  for (uint32_t i = 0; i < 3; ++i) kova::SetElement(array, i) = Json::Value("ab");
+  const uint64_t length = kova::WriteJson(array).size();  // [ "ab", "ab", "ab" ]\n
+  kova::TextBudget fits(length);
+  kova::TextBudget tight(length - 1);
+  for (uint32_t i = 0; i < 3; ++i) {
+    EXPECT_TRUE(fits.Spend(array, i)) << i;
+    EXPECT_EQ(i < 2, tight.Spend(array, i)) << i;
+  }
+  // A root every record adds to is counted whole after records 1, 2, 4, ...
+  Json::Value object;
+  kova::TextBudget members(12);
+  kova::SetMember(object, "a") = 1;  // { "a" : 1 }\n, 12 bytes
+  EXPECT_TRUE(members.Spend(object, 0));
+  kova::SetMember(object, "b") = 2;
+  EXPECT_FALSE(members.Spend(object, 1));
+}
+
 }  // namespace
