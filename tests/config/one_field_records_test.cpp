@@ -46,12 +46,4 @@ TEST(AlarmLamp, ModeValuesAndFallbacks) {
   }
 }
 
-TEST(AlarmLamp, PackWritesOnlyKnownModes) {
-  int rc = 0;
-  EXPECT_EQ("{ \"Mode\" : 1 }\n", PackOf("AlarmLamp", AlarmLampRecord{1}, &rc));
-  EXPECT_EQ("null\n", PackOf("AlarmLamp", AlarmLampRecord{-1}, &rc));
-  EXPECT_EQ(1, rc);
-  EXPECT_EQ("null\n", PackOf("AlarmLamp", AlarmLampRecord{3}, &rc));
-}
-
 }  // namespace

@@ -38,26 +38,6 @@ TEST(DateTimePacked, FieldsAndTheUnmaskedYear) {
   EXPECT_EQ(-1, ParseDateTimePacked("2024-5-6 7:8:9", 12, &packed));
 }
 
-TEST(DateTimePacked, WrittenWithTheYearInItsCentury) {
-  struct Case {
-    const char* text;
-    const char* written;
-  };
-  const Case cases[] = {
-      {"2024-5-6 7:8:9", "2024-05-06 07:08:09"},
-      {"2000-1-1 0:0:0", "2000-01-01 00:00:00"},
-      {"2063-12-31 23:59:59", "2063-12-31 23:59:59"},
-      {"2064-1-1 0:0:0", "2000-01-01 00:00:00"},  // six bits of year only
-      {"1999-1-1 0:0:0", "2063-01-01 00:00:00"},
-  };
-  for (const Case& c : cases) {
-    uint32_t packed = 0;
-    ASSERT_EQ(0, ParseDateTimePacked(c.text, static_cast<int32_t>(std::strlen(c.text)), &packed));
-    char out[20];
-    EXPECT_STREQ(c.written, FormatDateTimePacked(packed, out)) << c.text;
-  }
-}
-
 TEST(TimeRange, SixFieldsCutToBytesLeadUntouched) {
   TimeRange r;
   std::memset(&r, 0xEE, sizeof r);
@@ -97,23 +77,6 @@ TEST(IntList, PiecesLimitsAndCount) {
   EXPECT_EQ(99u, v[99]);
   const std::string tooMany = hundred + ",";  // the hundredth comma
   EXPECT_EQ(-1, ParseIntList(tooMany.c_str(), static_cast<int32_t>(tooMany.size()), v, &count));
-}
-
-TEST(RightItem, Fields) {
-  RightItem item = {};
-  ASSERT_EQ(0u, ParseRightItem("12:admin:", 9, &item));
-  EXPECT_EQ(12u, item.id);
-  EXPECT_STREQ("admin", item.name);
-  EXPECT_STREQ("", item.memo);
-
-  // Name and memo may fill all 32 bytes, with no terminator.
-  const std::string full(32, 'n');
-  const std::string text = "3:" + full + ":" + std::string(32, 'm');
-  item = RightItem{};
-  ASSERT_EQ(0u, ParseRightItem(text.c_str(), static_cast<int32_t>(text.size()), &item));
-  EXPECT_EQ(full, std::string(item.name, 32));
-  EXPECT_EQ(std::string(32, 'm'), std::string(item.memo, 32));
-  EXPECT_EQ(0u, ParseRightItem(nullptr, 0, nullptr));  // length 0 comes first
 }
 
 TEST(RightItem, MalformedItems) {

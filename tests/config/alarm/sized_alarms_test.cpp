@@ -42,6 +42,14 @@ TEST(TemperatureAlarm, DeviceListReads) {
   // The slot without an entry is cleared but keeps its size word.
   EXPECT_EQ(stride, r[2].size);
   EXPECT_EQ(0, r[2].enable);
+  // A table that is no array: an object is record 0, a number is no record.
+  std::vector<unsigned char> one = Buffer(stride, 2);
+  ASSERT_EQ(1, Parse("TemperatureAlarm", Doc(R"({"Name":"Solo"})"), &one, &ret));
+  EXPECT_EQ(stride, ret);
+  EXPECT_STREQ("Solo", reinterpret_cast<const TemperatureAlarmRecord*>(one.data())->name);
+  std::vector<unsigned char> none = Buffer(stride, 2);
+  EXPECT_EQ(1, Parse("TemperatureAlarm", Doc("5"), &none, &ret));
+  EXPECT_EQ(0u, ret);
 }
 
 TEST(FanSpeedAlarm, CallerSizeRules) {
@@ -61,6 +69,11 @@ TEST(FanSpeedAlarm, CallerSizeRules) {
   ASSERT_EQ(1, Parse("FanSpeedAlarm", json, &one, &ret));
   EXPECT_EQ(sizeof(FanSpeedAlarmRecord), ret);
   EXPECT_EQ(0, Parse("FanSpeedAlarm", R"({"result":false,"params":{"table":[]}})", &one, &ret));
+
+  // A buffer of exactly the size word is a record, not a refusal.
+  std::vector<unsigned char> word = Buffer(4, 1);
+  EXPECT_EQ(1, Parse("FanSpeedAlarm", json, &word, &ret));
+  EXPECT_EQ(4u, ret);
 
   // Size 0, size beyond the buffer, no room for the size word.
   std::vector<unsigned char> zero(64, 0);

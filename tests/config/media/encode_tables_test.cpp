@@ -7,16 +7,6 @@
 namespace kova {
 namespace {
 
-TEST(EncodeTables, VideoCompressionIsExactWithTenForUnknown) {
-  EXPECT_EQ(7, VideoCompressionIndex(Json::Value("H.264")));
-  EXPECT_EQ(9, VideoCompressionIndex(Json::Value("SVAC")));
-  EXPECT_EQ(10, VideoCompressionIndex(Json::Value("h.264")));
-  EXPECT_EQ(10, VideoCompressionIndex(Json::Value(7)));
-  EXPECT_STREQ("MS-MPEG4", VideoCompressionText(1));
-  EXPECT_STREQ("", VideoCompressionText(10));
-  EXPECT_STREQ("", VideoCompressionText(-1));
-}
-
 TEST(EncodeTables, FallbacksOfTheSmallTables) {
   // Audio: "G.711A" first, unknown 0, any index without a name packs as "G.711A".
   EXPECT_EQ(2, AudioCompressionIndex(Json::Value("G.711Mu")));

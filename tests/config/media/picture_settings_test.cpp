@@ -149,19 +149,4 @@ TEST(VideoInMode, WeekOfSectionsIsKeptWholeOrNotAtAll) {
   EXPECT_EQ(0, two[1].timeSection.sections[0][0].enable);
 }
 
-// Added names come after every listed name, in both lists, and match like
-// listed ones.
-TEST(PictureSettings, AddedNamesCloseBothLists) {
-  for (const char* name : {"VideoInMode", "PictureHttpUpload", "upnp", "VIDEOINDENOISE"}) {
-    const int i = kova::FindParseName(name);
-    const int k = kova::FindPackName(name);
-    ASSERT_GE(i, 293) << name;
-    ASSERT_GE(k, 252) << name;
-    EXPECT_TRUE(kova::kParseNames[i].added);
-    EXPECT_EQ(kova::kParseNames[i].frame, kova::kPackNames[k].frame) << name;
-    EXPECT_TRUE(kova::ParseBuilt(i) && kova::PackBuilt(k)) << name;
-  }
-  EXPECT_EQ(-1, kova::FindParseName("Lighting_V"));
-}
-
 }  // namespace
