@@ -131,24 +131,6 @@ TEST(EventStream, ActionIndexAndDictionaryCodeLeadEveryRecord) {
   EXPECT_EQ((std::vector<uint32_t>{0x2178, 0x2145, 0, 0x2191}), dictionary);
 }
 
-TEST(EventStream, PointEntriesFollowThePointRule) {
-  // A region entry that is not [x, y] keeps its slot; a track entry is skipped.
-  const std::string doc = Notification(
-      Event("CrossRegionDetection",
-            R"("Data":{"DetectRegion":[[1,2],[5],null,[7,8,9]],"Track":[[1,2],[5],"x",[3,4]],)"
-            R"("Objects":[{"ObjectID":1},3,{"ObjectID":2}]})"));
-  ReadEvents(doc, [&](uint32_t, const void* info, uint32_t) {
-    const CrossingEventInfo& e = *static_cast<const CrossingEventInfo*>(info);
-    EXPECT_EQ(2u, e.detectRegion.pointCount);
-    EXPECT_EQ(0, e.detectRegion.points[1].x);
-    EXPECT_EQ(7, e.detectRegion.points[3].x);
-    ASSERT_EQ(2u, e.trackCount);
-    EXPECT_EQ(3, e.track[1].x);
-    ASSERT_EQ(2u, e.common.objectCount);
-    EXPECT_EQ(2, e.common.objects[1].objectId);
-  });
-}
-
 // Every family's record, with every list it has filled, delivered and
 // released: the sanitizer build's leak check fails the run if a release
 // routine misses what its builder allocated.
