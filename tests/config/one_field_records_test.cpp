@@ -14,28 +14,16 @@ std::string Doc(const std::string& table) {
   return R"({"id":12,"result":true,"params":{"table":)" + table + R"(},"session":991})";
 }
 
-template <typename Rec>
-std::string PackOf(const char* name, const Rec& r, int* rc) {
-  char out[128];
-  *rc = KOVA_PacketData(name, &r, sizeof r, out, sizeof out);
-  return *rc ? std::string(out) : std::string();
-}
-
 TEST(AlarmLamp, ModeValuesAndFallbacks) {
   struct Case {
     const char* table;
     int32_t mode;
   } cases[] = {{R"({"Mode":0})", 0},
-               {R"({"Mode":2})", 2},
                {R"({"Mode":3})", -1},
                {R"({"Mode":-1})", 0},
-               {R"({"Mode":null})", 0},
                {R"({"Mode":"1"})", 0},
                {R"({"Mode":1.9})", 1},
-               {R"({"Mode":true})", 1},
                {R"({})", -1},
-               {R"({"mode":1})", -1},
-               {R"(7)", -1},
                {R"([{"Mode":1}])", -1}};
   for (const Case& c : cases) {
     AlarmLampRecord r{99};

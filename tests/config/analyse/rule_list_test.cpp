@@ -131,28 +131,6 @@ TEST(RuleList, AtMost32Rules) {
   EXPECT_TRUE(r.AllBytes(32 * (kHeader + kLine), 0));
 }
 
-// The scene class table, and its pack table one entry short.
-TEST(RuleList, SceneClasses) {
-  struct Case {
-    const char* cls;  // JSON text
-    uint32_t parsed;
-    const char* packed;
-  } cases[] = {
-      {R"("Normal")", 1, "Normal"},
-      {R"("trafficpatrol")", 3, "TrafficPatrol"},
-      {R"("StandUpDetection")", 15, ""},
-      {"5", 0, ""},
-  };
-  for (const Case& c : cases) {
-    const std::string rule = std::string(R"({"Type":"CrossLineDetection","Class":)") + c.cls + "}";
-    Rules r(kHeader + kLine);
-    ASSERT_EQ(1, r.Parse(Doc("[" + rule + "]"))) << c.cls;
-    EXPECT_EQ(c.parsed, r.Header(0).sceneClass) << c.cls;
-    EXPECT_NE(std::string::npos, r.Pack().find(std::string("\"Class\" : \"") + c.packed + "\""))
-        << c.cls;
-  }
-}
-
 // The device's edge cases of the common head and the two types' own keys.
 TEST(RuleList, RuleFieldRules) {
   const std::string doc = Doc(
