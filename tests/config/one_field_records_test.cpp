@@ -18,12 +18,8 @@ TEST(AlarmLamp, ModeValuesAndFallbacks) {
   struct Case {
     const char* table;
     int32_t mode;
-  } cases[] = {{R"({"Mode":0})", 0},
-               {R"({"Mode":3})", -1},
-               {R"({"Mode":-1})", 0},
-               {R"({"Mode":"1"})", 0},
-               {R"({"Mode":1.9})", 1},
-               {R"({})", -1},
+  } cases[] = {{R"({"Mode":0})", 0},   {R"({"Mode":3})", -1},  {R"({"Mode":-1})", 0},
+               {R"({"Mode":"1"})", 0}, {R"({"Mode":1.9})", 1}, {R"({})", -1},
                {R"([{"Mode":1}])", -1}};
   for (const Case& c : cases) {
     AlarmLampRecord r{99};

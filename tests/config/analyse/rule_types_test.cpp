@@ -25,7 +25,7 @@ TEST(RuleTypes, EveryNameFindsItsRowAndRowsOfACodeAgree) {
 
 TEST(RuleTypes, LookupRules) {
   EXPECT_EQ(RuleTypeFromName("crosslinedetection"), 2u);  // letter case ignored
-  EXPECT_EQ(RuleTypeFromName("CrossLine"), 0u);  // whole name only
+  EXPECT_EQ(RuleTypeFromName("CrossLine"), 0u);           // whole name only
   EXPECT_EQ(RuleTypeFromName(nullptr), 0u);
   EXPECT_EQ(RuleTypeFromName("TrafficYellowInRoute"), 270u);
   EXPECT_STREQ(RuleTypeName(270), "TrafficYellowPlateInLane");  // first name of a shared code
