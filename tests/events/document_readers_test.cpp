@@ -57,17 +57,6 @@ TEST(ParseByCallback, MembersSelectTheirReadersInNameOrder) {
   }
 }
 
-TEST(ParseByCallback, ReturnsZeroUnlessTheTextIsAJsonObject) {
-  for (const char* text : {"[]", "3", "\"Ptz\"", "null", "{\"Ptz\":", ""}) {
-    int ret = -1;
-    EXPECT_TRUE(Deliveries(text, true, &ret).empty()) << text;
-    EXPECT_EQ(0, ret) << text;
-  }
-  int ret = -1;
-  Deliveries("{}", true, &ret);
-  EXPECT_EQ(1, ret);
-}
-
 TEST(ParseByCallback, AtMost128RecordsAnd32RulesPerMember) {
   std::string objects, rules;
   for (int i = 0; i < 130; ++i) {

@@ -69,17 +69,6 @@ const std::regex kLine(
     R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{3}\[ERROR\]\[[0-9a-f]+\] log_test\.cpp:(\d+) )"
     R"(code\[0x80000015\] t(\d+) n(\d+) at (\d+))");
 
-TEST_F(LogTest, NoLoggerMeansNoOutputAnywhere) {
-  ::testing::internal::CaptureStdout();
-  ::testing::internal::CaptureStderr();
-  RightItem* none = nullptr;
-  EXPECT_EQ(kErrBadParameter, ParseRightItem("1:a:b", 5, none));
-  KOVA_REPORT(kErrMalformedData, "dropped %d", 1);
-  EXPECT_EQ("", ::testing::internal::GetCapturedStdout());
-  EXPECT_EQ("", ::testing::internal::GetCapturedStderr());
-  EXPECT_FALSE(Exists("kovalog"));
-}
-
 TEST_F(LogTest, ThreadsWriteWholeLinesWithTheirOwnPositions) {
   const std::string path = OpenAt("threads.log");
   constexpr int kThreads = 6;
@@ -118,21 +107,6 @@ TEST_F(LogTest, ThreadsWriteWholeLinesWithTheirOwnPositions) {
   EXPECT_EQ(static_cast<size_t>(kThreads * kReports), seen.size());
 }
 
-TEST_F(LogTest, DefaultPathAndTheEmptyPathAsymmetry) {
-  LogSettings s = {};
-  // An empty path: the record learns the default, the logger keeps "".
-  EXPECT_FALSE(OpenLogger(&s));
-  EXPECT_STREQ("./kovalog/sdklog.log", s.path);
-  KOVA_REPORT(kErrMalformedData, "lost");
-  CloseLogger();
-  EXPECT_FALSE(Exists("kovalog/sdklog.log"));
-
-  EXPECT_TRUE(OpenLogger(nullptr));
-  KOVA_REPORT(kErrMalformedData, "kept");
-  CloseLogger();
-  EXPECT_NE(std::string::npos, ReadAll("kovalog/sdklog.log").find("kept\r\n"));
-}
-
 TEST_F(LogTest, ReopeningReplacesTheLoggerAndFullFilesMoveAside) {
   const std::string first = OpenAt("first.log");
   const std::string path = OpenAt("small.log", 1, 2);  // closes first.log
@@ -146,43 +120,6 @@ TEST_F(LogTest, ReopeningReplacesTheLoggerAndFullFilesMoveAside) {
   }
   EXPECT_FALSE(Exists("small.log.3"));
   EXPECT_NE(std::string::npos, ReadAll(path).find(" n59 at "));
-}
-
-TEST_F(LogTest, UnknownCodePageFallsBackToUtf8AndIsReportedOnce) {
-  const std::string path = OpenAt("codepage.log");
-  const char* old = std::getenv("KOVA_CODEPAGE");
-  const std::string saved = old != nullptr ? old : "";
-  setenv("KOVA_CODEPAGE", "NO-SUCH-CHARSET-KOVA", 1);
-  char dst[8] = {0};
-  EXPECT_EQ(3, Utf8ToAnsi("\xE4\xB8\xAD", 3, dst, 7));
-  EXPECT_STREQ("\xE4\xB8\xAD", dst);
-  std::thread([&] { Utf8ToAnsi("abc", 3, dst, 7); }).join();
-  if (old != nullptr) {
-    setenv("KOVA_CODEPAGE", saved.c_str(), 1);
-  } else {
-    unsetenv("KOVA_CODEPAGE");
-  }
-  CloseLogger();
-  const std::string text = ReadAll(path);
-  const size_t at = text.find("NO-SUCH-CHARSET-KOVA");
-  ASSERT_NE(std::string::npos, at);
-  EXPECT_EQ(std::string::npos, text.find("NO-SUCH-CHARSET-KOVA", at + 1));
-}
-
-TEST_F(LogTest, NameNotBuiltYetIsReported) {
-  const char* name = nullptr;
-  for (size_t i = 0; i < kParseNameCount && name == nullptr; ++i) {
-    if (!ParseBuilt(static_cast<int>(i))) name = kParseNames[i].name;
-  }
-  if (name == nullptr) GTEST_SKIP() << "every parse name is built";
-  const std::string path = OpenAt("names.log");
-  char buf[4096];
-  uint32_t ret = 0;
-  EXPECT_EQ(
-      0, KOVA_ParseData(name, R"({"result":true,"params":{"table":{}}})", buf, sizeof buf, &ret));
-  CloseLogger();
-  EXPECT_NE(std::string::npos,
-            ReadAll(path).find("parse of [" + std::string(name) + "] is not built yet\r\n"));
 }
 
 }  // namespace

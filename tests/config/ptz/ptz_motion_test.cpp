@@ -67,20 +67,4 @@ TEST(PtzMotion, TourStopsAndTasksKeepTheirPlaces) {
   EXPECT_EQ(0, tour.tours[1].stops[0].speed);
 }
 
-TEST(PtzMotion, PowerUpActionOutsideTheListIsLeftOutOnPack) {
-  PowerUpConfig r[2];
-  uint32_t ret = 8;  // the table drivers add to the caller's count
-  const std::string table = R"([{"Enable":true,"Function":"ScanTour","ScanTourId":4},)"
-                            R"({"Enable":true,"Function":"Patrol","PresetId":2}])";
-  ASSERT_EQ(1, KOVA_ParseData("PowerUp", Doc(table).c_str(), r, sizeof r, &ret));
-  EXPECT_EQ(8 + 2 * sizeof(PowerUpConfig), ret);
-  EXPECT_EQ(3, r[0].function);
-  EXPECT_EQ(-1, r[1].function);
-  EXPECT_EQ(
-      "[ { \"Enable\" : true, \"Function\" : \"ScanTour\", \"PatternId\" : 0, \"PresetId\" : 0, "
-      "\"ScanId\" : 0, \"TourId\" : 0 }, { \"Enable\" : true, \"PatternId\" : 0, \"PresetId\" : "
-      "2, \"ScanId\" : 0, \"TourId\" : 0 } ]\n",
-      PackBytes("PowerUp", r, sizeof r));
-}
-
 }  // namespace

@@ -97,14 +97,4 @@ TEST(TrafficSnapshot, DeviceAddressIsCutBeforeConversion) {
   }
 }
 
-TEST(TrafficSnapshot, ValidUntilTime) {
-  int rc = 0;
-  uint32_t ret = 0;
-  std::unique_ptr<Record> r = Parse(Doc(R"({"ValidUntilTime":"2024-5-6 7:8:9"})"), &rc, &ret);
-  EXPECT_NE(std::string::npos, Pack(kName, *r).find(R"("ValidUntilTime" : "2024-05-06 07:08:09")"));
-  r = Parse(Doc(R"({"ValidUntilTime":"tomorrow"})"), &rc, &ret);
-  EXPECT_EQ(0u, r->validUntilTime);
-  EXPECT_EQ(std::string::npos, Pack(kName, *r).find("ValidUntilTime"));
-}
-
 }  // namespace
