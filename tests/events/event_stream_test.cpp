@@ -2,6 +2,7 @@
 // what order, with which code and record.
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -70,6 +71,54 @@ TEST(EventStream, SelectsTheEventListAndTheEventsItDelivers) {
     int ret = 0;
     EXPECT_EQ(c.codes, Codes(c.doc, false, &ret)) << c.what;
     EXPECT_EQ(1, ret) << c.what;
+  }
+}
+
+// The codes of the names the rule list rejects, as the device protocol lists
+// them, and one name of each event family with its family's record: a code
+// shifted in the rule-type table, or delivered with another family's record,
+// fails here.
+TEST(EventStream, CodesAndRecordsFollowTheDeviceTable) {
+  const char kRejected[] =
+      "CameraCoverdDetection 17, CameraMovedDetection 18, VideoBadDetection 20, TrafficSnapshot "
+      "25, TrafficDrivingOnShoulder 268, TrafficNoPassing 273, InRegionDetection 276, "
+      "TrafficManualSnap 280, TrafficFlowStat 281, TrafficStay 282, VideoMotion 284, AlarmLocal "
+      "285, VideoDiagnosieResult 290, TrafficRunYellowLight 295, VehicleACC 304, VehicleTurnover "
+      "305, VehicleCollision 306, VehicleLargeAngle 307, MultiSceneSwitch 309, "
+      "TrafficRestrictedPlate 310, TrafficOverStopLine 311, AnalogAlarm 336, VideoAnalyse 512, "
+      "NoAnswerCall 344, StorageNotExist 345, StorageLowSpace 346, StorageFailure 347, "
+      "ProfileAlarmTransmit 348, TrafficJamForbidInto 355, ObjectDetection 321, Common 338, "
+      "VideoBlind 339, VideoLoss 340, VideoStatic 349, VideoTiming 350, LinkSD 513, Oil4GFlowRate "
+      "515, CitizenIDCard 352, PicInfo 353, NetPlayCheck 354, SnapByTime 356, PtzPreset 357, "
+      "QSYTrafficCarWeight 360, RFIDInfo 358, TrafficComparePlate 361, "
+      "TrafficVideoAnalysePreSnap 368, All 1";
+  std::istringstream list(kRejected);
+  std::string name;
+  uint32_t code = 0;
+  while (list >> name >> code) {
+    const std::vector<uint32_t> got = Codes(Notification(Event(name)));
+    ASSERT_EQ(1u, got.size()) << name;
+    EXPECT_EQ(code, got[0]) << name;
+    list.ignore(1);  // the comma
+  }
+  const struct {
+    const char* name;
+    uint32_t code;
+    uint32_t size;
+  } kFamilies[] = {
+      {"CrossRegionDetection", 3, sizeof(CrossingEventInfo)},
+      {"WanderDetection", 7, sizeof(PresenceEventInfo)},
+      {"RioterDetection", 11, sizeof(CrowdEventInfo)},
+      {"FaceRecognition", 279, sizeof(FaceEventInfo)},
+      {"TrafficGate", 24, sizeof(TrafficEventInfo)},
+      {"CameraMovedDetection", 18, sizeof(AbnormalityEventInfo)},
+      {"FireDetection", 12, sizeof(GeneralEventInfo)},
+  };
+  for (const auto& f : kFamilies) {
+    const std::vector<Delivery> d = Deliveries(Notification(Event(f.name)));
+    ASSERT_EQ(1u, d.size()) << f.name;
+    EXPECT_EQ(f.code, d[0].code) << f.name;
+    EXPECT_EQ(f.size, d[0].size) << f.name;
   }
 }
 
