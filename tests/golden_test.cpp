@@ -88,4 +88,22 @@ TEST(Golden, EveryEventDocumentReadsToItsListing) {
   }
 }
 
+// What `kova show` and `kova layout` print, read from the descriptions.
+TEST(Golden, ShowAndLayoutPrintTheirFixtures) {
+  const std::string samples = KOVA_SAMPLES_DIR;
+  const fs::path fixtures = fs::path(KOVA_FIXTURES_DIR) / "show";
+  const struct {
+    const char* fixture;
+    std::vector<std::string> args;
+  } kCases[] = {
+      {"VideoColor.show.txt", {"show", "VideoColor", samples + "/VideoColor.json"}},
+      {"NTP.show.json", {"show", "NTP", samples + "/NTP.json", "--json"}},
+      {"Encode.layout.txt", {"layout", "Encode"}},
+      {"DefenceArmMode.layout.txt", {"layout", "DefenceArmMode"}},
+  };
+  for (const auto& c : kCases) {
+    EXPECT_EQ(Slurp(fixtures / c.fixture), ToolOutput(c.args)) << c.fixture;
+  }
+}
+
 }  // namespace

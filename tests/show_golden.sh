@@ -1,6 +1,7 @@
 #!/bin/sh
-# The show golden test: what `kova show` and `kova layout` print for a few
-# shipped samples must be exactly tests/fixtures/show/*.txt.
+# The show fixtures, checked by tests/golden_test.cpp in the unit suite and
+# written by this script with --update: what `kova show` and `kova layout`
+# print for a few shipped samples, tests/fixtures/show/*.txt.
 #
 #   show_golden.sh TOOL SAMPLES FIXTURES [--update]
 # --update writes the fixtures from what the tool prints (review the diff).
