@@ -98,6 +98,7 @@ TEST(Golden, ShowAndLayoutPrintTheirFixtures) {
   } kCases[] = {
       {"VideoColor.show.txt", {"show", "VideoColor", samples + "/VideoColor.json"}},
       {"NTP.show.json", {"show", "NTP", samples + "/NTP.json", "--json"}},
+      {"StorageLowSpace.show.txt", {"show", "StorageLowSpace", samples + "/StorageLowSpace.json"}},
       {"Encode.layout.txt", {"layout", "Encode"}},
       {"DefenceArmMode.layout.txt", {"layout", "DefenceArmMode"}},
   };

@@ -30,6 +30,7 @@ check() {  # check FIXTURE COMMAND...
 
 check VideoColor.show.txt "$tool" show VideoColor "$samples/VideoColor.json"
 check NTP.show.json "$tool" show NTP "$samples/NTP.json" --json
+check StorageLowSpace.show.txt "$tool" show StorageLowSpace "$samples/StorageLowSpace.json"
 check Encode.layout.txt "$tool" layout Encode
 check DefenceArmMode.layout.txt "$tool" layout DefenceArmMode
 

@@ -114,6 +114,11 @@ TEST(EventHandler, AwkwardMembers) {
       "]\n",
       kova::WriteJson(Member(out, "AccessControls")));
   EXPECT_FALSE(kova::ToBool(Member(out, "MatrixEnable")));  // 2 is not 1
+  // A title list given empty packs as an empty list, not as null.
+  auto empty = Parse(Doc(R"({"SnapshotTitle": []})"));
+  Json::Value none;
+  kova::PackEventHandler(*empty, none);
+  EXPECT_EQ("[  ]\n", kova::WriteJson(Member(none, "SnapshotTitle")));
 }
 
 TEST(EventHandler, WithWeekReadsTheSevenDayGridBesideTheRecord) {

@@ -49,6 +49,8 @@ TEST(JsonConversions, RealAndBoolean) {
   EXPECT_TRUE(kova::ToBool(Json::Value(std::nan(""))));
   EXPECT_TRUE(kova::ToBool(Read("\"false\"")));
   EXPECT_TRUE(kova::ToBool(Read("[0]")));
+  EXPECT_EQ(0u, kova::ToUInt32(Read("false")));  // a boolean where a count is expected
+  EXPECT_EQ(1u, kova::ToUInt32(Read("true")));
 }
 
 TEST(JsonAccess, NeverThrowsOnTheWrongType) {
