@@ -5,7 +5,8 @@
 # (with its .args) is parsed with the kova tool and packed back, and the
 # packed text must be exactly tests/fixtures/NAME[.what].packed.txt; every
 # event document samples/events/FILE.json must read to exactly
-# tests/fixtures/events/FILE.txt. A new configuration is covered by its
+# tests/fixtures/events/FILE.txt (both readers, then every record field by
+# field). A new configuration is covered by its
 # sample and its packed text.
 #
 #   golden.sh TOOL SAMPLES FIXTURES [--update]
@@ -54,7 +55,8 @@ mkdir -p "$fixtures/events"
 for f in "$samples"/events/*.json; do
   [ -e "$f" ] || continue
   stem=$(basename "$f" .json)
-  out=$( { "$tool" events "$f"; echo "-- by callback"; "$tool" events "$f" --by-callback; } 2>&1)
+  out=$( { "$tool" events "$f"; echo "-- by callback"; "$tool" events "$f" --by-callback;
+          echo "-- shown"; "$tool" events "$f" --show; } 2>&1)
   compare "$fixtures/events/$stem.txt" "$out" "$f"
 done
 

@@ -84,6 +84,8 @@ TEST(Golden, EveryEventDocumentReadsToItsListing) {
     std::string out = ToolOutput({"events", f.string()});
     out.pop_back();
     out += "\n-- by callback\n" + ToolOutput({"events", f.string(), "--by-callback"});
+    out.pop_back();
+    out += "\n-- shown\n" + ToolOutput({"events", f.string(), "--show"});
     EXPECT_EQ(Slurp(fixtures / "events" / (f.stem().string() + ".txt")), out) << f;
   }
 }
