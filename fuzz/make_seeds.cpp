@@ -105,6 +105,11 @@ int main(int argc, char** argv) {
   parse.Write("AudioAnalyseRule-in-16MiB", std::string("\x99\xff\xff\x2d\x32\x00\x31", 7));
   pack.Write("AudioAnalyseRule-2496-records", std::string("\x42\xff\xaf\x9e\xc0\x09\xea\xff", 8));
   pack.Write("AudioAnalyseRule-2730-records", std::string("\x42\xff\xaf\xff\xff\xff\xff", 7));
+  // Four "RemoteDevice" records, two with one identifier: a text that fits
+  // once was refused for the longer member the later record replaced.
+  pack.Write("RemoteDevice-repeated-identifier", std::string("\x29\x00\xab\x00\x00\x3b\x00", 7) +
+                                                     std::string(50, '\0') +
+                                                     std::string("\xff\xff\xff\x66\x00\x00", 6));
 
   SeedWriter events(out / "events");
   for (const std::string& doc : EventDocuments(samples)) {

@@ -184,12 +184,32 @@ uint64_t TextLength(const Json::Value& v) {
   return 0;
 }
 
+namespace {
+
+// The least text an object keeps whatever its values become: its keys, each
+// with " : " and at least one byte of value, and the separators.
+uint64_t KeptLength(const Json::Value& v) {
+  if (!v.isObject()) return 0;
+  const Json::ArrayIndex n = v.size();
+  uint64_t total = 4 + (n != 0 ? 2 * (static_cast<uint64_t>(n) - 1) : 0);
+  for (auto it = v.begin(); it != v.end(); ++it) {
+    const char* ke = nullptr;
+    const char* kb = it.memberName(&ke);
+    total += StringLength(kb, ke) + 3 + 1;
+  }
+  return total;
+}
+
+}  // namespace
+
 bool TextBudget::Spend(const Json::Value& root, uint32_t index) {
   if (root.isArray()) {
     // "[ " and " ]" and the newline come with the first element, ", " with each other.
     spent_ += (index == 0 ? 5 : 2) + TextLength(Element(root, index));
   } else if ((index & (index + 1)) == 0) {
-    spent_ = TextLength(root) + 1;
+    // A later record may replace a member's value with a shorter one (two
+    // devices with one identifier), so only what the object keeps counts.
+    spent_ = KeptLength(root) + 1;
   }
   return spent_ <= room_;
 }

@@ -35,9 +35,11 @@ class TextBudget {
   explicit TextBudget(uint64_t room) : room_(room) {}
 
   // After record `index` went into `root`: an array root spends its element
-  // `index` (written once, not looked at again); any other root, filled by
-  // every record, is counted whole after records 1, 2, 4, 8, ... so that
-  // counting costs at most twice the tree. False once the text cannot fit.
+  // `index` (written once, not looked at again). An object root, to which
+  // every record adds or replaces members and removes none, spends its keys
+  // with one byte of value each, counted after records 1, 2, 4, 8, ... so
+  // that counting costs at most twice the keys. False once the text cannot
+  // fit.
   bool Spend(const Json::Value& root, uint32_t index);
 
  private:

@@ -102,13 +102,17 @@ TEST(JsonWriter, BudgetSpentPerRecord) {
     EXPECT_TRUE(fits.Spend(array, i)) << i;
     EXPECT_EQ(i < 2, tight.Spend(array, i)) << i;
   }
-  // A root every record adds to is counted whole after records 1, 2, 4, ...
+  // An object every record adds to counts its keys: a value may yet be
+  // replaced by a shorter one.
   Json::Value object;
   kova::TextBudget members(12);
-  kova::SetMember(object, "a") = 1;  // { "a" : 1 }\n, 12 bytes
+  kova::SetMember(object, "a") = "a long value";  // { "a" : 1 }\n in the end, 12 bytes
   EXPECT_TRUE(members.Spend(object, 0));
+  kova::SetMember(object, "a") = 1;
+  EXPECT_TRUE(members.Spend(object, 1));
   kova::SetMember(object, "b") = 2;
-  EXPECT_FALSE(members.Spend(object, 1));
+  EXPECT_TRUE(members.Spend(object, 2));  // not counted after the third record
+  EXPECT_FALSE(members.Spend(object, 3));
 }
 
 }  // namespace

@@ -212,6 +212,24 @@ TEST(SystemSettings, RemoteDevicesAreKeyedByTheirIdentifiers) {
   EXPECT_EQ(sizeof(RemoteDeviceConfig), ret);
 }
 
+// Two records with one identifier make one member, the last one's: the text
+// that fits is packed even though the first record's member was longer.
+TEST(SystemSettings, RemoteDeviceRepeatedIdentifierKeepsTheLastRecord) {
+  RemoteDeviceConfig d[2] = {};
+  std::strcpy(d[0].id, "cam");
+  std::strcpy(d[0].name, "a name far longer than the one that replaces it");
+  std::strcpy(d[1].id, "cam");
+  std::strcpy(d[1].name, "B");
+  const std::string text = PackBytes("RemoteDevice", &d[1], sizeof d[1]);
+  ASSERT_FALSE(text.empty());
+  std::vector<char> out(text.size() + 1, 'x');
+  ASSERT_EQ(1, KOVA_PacketData("RemoteDevice", d, sizeof d, out.data(),
+                               static_cast<uint32_t>(out.size())));
+  EXPECT_EQ(text, out.data());
+  EXPECT_EQ(0, KOVA_PacketData("RemoteDevice", d, sizeof d, out.data(),
+                               static_cast<uint32_t>(text.size())));
+}
+
 TEST(SystemSettings, DoorScheduleFormsAndTimeRanges) {
   const std::string doors =
       R"([{"TimeSchedule":[null,{"TimeSection":"07:30-19:00"},{"TimeSection":"bad"}]},)"
