@@ -138,11 +138,14 @@ void StartSizedRecord(unsigned char* record, uint32_t size) {
 }
 
 int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule) {
-  std::string text;  // not written past what the buffer takes
-  if (!WriteJsonWithin(value, rule == CopyRule::kAtMost ? outLen : outLen - 1, &text)) return 0;
-  const bool copied = rule == CopyRule::kAtMost ? CopyTextAtMost(text, outJson, outLen)
-                                                : CopyTextStrict(text, outJson, outLen);
-  return copied ? 1 : 0;
+  if (outJson == nullptr || outLen == 0) return 0;
+  // Written straight into the caller's buffer, never past the room the rule
+  // leaves; the NUL after it when there is room for one.
+  const uint32_t room = rule == CopyRule::kAtMost ? outLen : outLen - 1;
+  const uint64_t length = WriteJsonInto(value, outJson, room);
+  if (length == 0) return 0;
+  if (length < outLen) outJson[length] = '\0';
+  return 1;
 }
 
 namespace {

@@ -1,10 +1,10 @@
 #include "common/blocks/time_schedule.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 #include <string>
 
+#include "common/base/decimal.h"
 #include "common/json/json.h"
 
 namespace kova {
@@ -80,17 +80,10 @@ bool ScanSeparator(const char** cursor, int i) {
 // numbers the general reader takes from it, several times faster. False
 // (nothing stored) for any other text.
 bool ScanCanonicalSection(const char* text, int32_t* fields[7]) {
-  static const char kPattern[] = "d dd:dd:dd-dd:dd:dd";
-  for (size_t i = 0; i + 1 < sizeof kPattern; ++i) {
-    const bool digit = text[i] >= '0' && text[i] <= '9';
-    if (kPattern[i] == 'd' ? !digit : text[i] != kPattern[i]) return false;
+  if (!IsDigit(text[0]) || text[1] != ' ' || !ReadFixedClockRange(text + 2, fields + 1)) {
+    return false;
   }
-  if (text[sizeof kPattern - 1] >= '0' && text[sizeof kPattern - 1] <= '9') return false;
   *fields[0] = text[0] - '0';
-  for (int f = 1; f < 7; ++f) {
-    const char* two = text + 2 + 3 * (f - 1);
-    *fields[f] = (two[0] - '0') * 10 + (two[1] - '0');
-  }
   return true;
 }
 
@@ -112,13 +105,16 @@ int ScanRecord(const char* text, int width, TimeSectionRecord* r) {
   return ScanSection(text, width, fields);
 }
 
+// "%d %02d:%02d:%02d-%02d:%02d:%02d".
 void FormatSection(int32_t enable, int32_t bh, int32_t bm, int32_t bs, int32_t eh, int32_t em,
                    int32_t es, Json::Value& out) {
-  char text[128];
-  std::memset(text, 0, sizeof text);
-  std::snprintf(text, sizeof text, "%d %02d:%02d:%02d-%02d:%02d:%02d", enable, bh, bm, bs, eh, em,
-                es);
-  out = text;
+  char text[96];
+  char* p = PutDecimal(text, enable);
+  *p++ = ' ';
+  p = PutClock(p, bh, bm, bs);
+  *p++ = '-';
+  p = PutClock(p, eh, em, es);
+  out = Json::Value(text, p);
 }
 
 void FormatRecord(const TimeSectionRecord& r, Json::Value& out) {

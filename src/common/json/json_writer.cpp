@@ -11,125 +11,178 @@ namespace kova {
 
 namespace {
 
-void WriteString(const char* begin, const char* end, std::string* out) {
-  out->push_back('"');
-  for (const char* p = begin; p != end; ++p) {
-    switch (*p) {
-      case '\b':
-        out->append("\\b");
-        break;
-      case '\t':
-        out->append("\\t");
-        break;
-      case '\n':
-        out->append("\\n");
-        break;
-      case '\f':
-        out->append("\\f");
-        break;
-      case '\r':
-        out->append("\\r");
-        break;
-      case '"':
-        out->append("\\\"");
-        break;
-      case '/':
-        out->append("\\/");
-        break;
-      case '\\':
-        out->append("\\\\");
-        break;
-      default:
-        out->push_back(*p);
-        break;
-    }
+// Where the text goes: a caller's buffer of fixed room, or a string that
+// grows up to the room. Once a write does not fit, the sink is full and
+// takes nothing more.
+class Sink {
+ public:
+  Sink(char* buffer, uint64_t room) : base_(buffer), cap_(room), room_(room) {}
+  Sink(std::string* grown, uint64_t room) : grown_(grown), room_(room) {}
+
+  bool full() const { return full_; }
+  uint64_t size() const { return len_; }
+
+  void Put(const char* s, size_t n) {
+    if (n > cap_ - len_ && !Grow(n)) return;
+    std::memcpy(base_ + len_, s, n);
+    len_ += n;
   }
-  out->push_back('"');
+  void Put(char c) {
+    if (len_ == cap_ && !Grow(1)) return;
+    base_[len_++] = c;
+  }
+  template <size_t N>
+  void Literal(const char (&s)[N]) {
+    Put(s, N - 1);
+  }
+
+ private:
+  bool Grow(size_t n) {
+    if (grown_ == nullptr || full_ || n > room_ - len_) {
+      full_ = true;
+      return false;
+    }
+    cap_ =
+        std::min<uint64_t>(room_, std::max<uint64_t>(2 * cap_, std::max<uint64_t>(len_ + n, 256)));
+    grown_->resize(cap_);
+    base_ = &(*grown_)[0];
+    return true;
+  }
+
+  char* base_ = nullptr;
+  std::string* grown_ = nullptr;
+  uint64_t len_ = 0;
+  uint64_t cap_ = 0;
+  uint64_t room_;
+  bool full_ = false;
+};
+
+// The letter written after a backslash for each byte, 0 for a byte written
+// as it is.
+struct EscapeTable {
+  char letter[256] = {};
+  constexpr EscapeTable() {
+    letter[static_cast<unsigned char>('\b')] = 'b';
+    letter[static_cast<unsigned char>('\t')] = 't';
+    letter[static_cast<unsigned char>('\n')] = 'n';
+    letter[static_cast<unsigned char>('\f')] = 'f';
+    letter[static_cast<unsigned char>('\r')] = 'r';
+    letter[static_cast<unsigned char>('"')] = '"';
+    letter[static_cast<unsigned char>('/')] = '/';
+    letter[static_cast<unsigned char>('\\')] = '\\';
+  }
+};
+constexpr EscapeTable kEscapes;
+
+char EscapeOf(char c) { return kEscapes.letter[static_cast<unsigned char>(c)]; }
+
+void WriteString(const char* begin, const char* end, Sink* out) {
+  out->Put('"');
+  const char* run = begin;  // bytes written as they are, not yet put
+  for (const char* p = begin; p != end; ++p) {
+    const char letter = EscapeOf(*p);
+    if (letter == 0) continue;
+    out->Put(run, static_cast<size_t>(p - run));
+    const char escaped[2] = {'\\', letter};
+    out->Put(escaped, 2);
+    run = p + 1;
+  }
+  out->Put(run, static_cast<size_t>(end - run));
+  out->Put('"');
 }
 
-// Writes `v` unless the text would pass `room` bytes: false as soon as it
-// has (what `out` holds then is to be thrown away).
-bool WriteValue(const Json::Value& v, uint64_t room, std::string* out) {
-  char num[64];
+void WriteUnsigned(uint64_t x, bool negative, Sink* out) {
+  char digits[24];
+  char* p = digits + sizeof digits;
+  do {
+    *--p = static_cast<char>('0' + x % 10);
+    x /= 10;
+  } while (x != 0);
+  if (negative) *--p = '-';
+  out->Put(p, static_cast<size_t>(digits + sizeof digits - p));
+}
+
+void WriteHole(Json::ArrayIndex index, Sink* out) {
+  if (index != 0) out->Literal(", ");
+  out->Literal("null");
+}
+
+// Writes `v`; stops early once the sink is full (what it holds then is to be
+// thrown away).
+void WriteValue(const Json::Value& v, Sink* out) {
   switch (v.type()) {
     case Json::nullValue:
-      out->append("null");
+      out->Literal("null");
       break;
     case Json::booleanValue:
-      out->append(v.asBool() ? "true" : "false");
+      if (v.asBool()) {
+        out->Literal("true");
+      } else {
+        out->Literal("false");
+      }
       break;
-    case Json::intValue:
-      std::snprintf(num, sizeof num, "%" PRId64, static_cast<int64_t>(v.asLargestInt()));
-      out->append(num);
+    case Json::intValue: {
+      const int64_t x = v.asLargestInt();
+      // The magnitude in unsigned arithmetic: INT64_MIN has no positive twin.
+      WriteUnsigned(x < 0 ? 0 - static_cast<uint64_t>(x) : static_cast<uint64_t>(x), x < 0, out);
       break;
+    }
     case Json::uintValue:
-      std::snprintf(num, sizeof num, "%" PRIu64, static_cast<uint64_t>(v.asLargestUInt()));
-      out->append(num);
+      WriteUnsigned(v.asLargestUInt(), false, out);
       break;
-    case Json::realValue:
-      std::snprintf(num, sizeof num, "%#.16g", v.asDouble());
-      out->append(num);
+    case Json::realValue: {
+      char num[64];
+      const int n = std::snprintf(num, sizeof num, "%#.16g", v.asDouble());
+      if (n > 0) out->Put(num, std::min<size_t>(static_cast<size_t>(n), sizeof num - 1));
       break;
+    }
     case Json::stringValue: {
       const char* begin = nullptr;
       const char* end = nullptr;
       if (v.getString(&begin, &end)) {
         WriteString(begin, end, out);
       } else {
-        out->append("\"\"");
+        out->Literal("\"\"");
       }
       break;
     }
     case Json::arrayValue: {
-      out->append("[ ");
-      bool fits = true;
-      ForEachElement(v, v.size(), [&](uint32_t i, const Json::Value& e) {
-        if (i != 0) out->append(", ");
-        fits = WriteValue(e, room, out);
-        return fits;
-      });
-      if (!fits) return false;
-      out->append(" ]");
+      out->Literal("[ ");
+      // Entries in index order; an index with no entry reads as null.
+      const Json::ArrayIndex size = v.size();
+      Json::ArrayIndex next = 0;
+      for (auto it = v.begin(); it != v.end() && !out->full(); ++it) {
+        const Json::ArrayIndex index = it.index();
+        for (; next < index && !out->full(); ++next) WriteHole(next, out);
+        if (next != 0) out->Literal(", ");
+        WriteValue(*it, out);
+        next = index + 1;
+      }
+      for (; next < size && !out->full(); ++next) WriteHole(next, out);
+      out->Literal(" ]");
       break;
     }
     case Json::objectValue: {
-      out->append("{ ");
+      out->Literal("{ ");
       bool first = true;
-      for (auto it = v.begin(); it != v.end(); ++it) {
-        if (!first) out->append(", ");
+      for (auto it = v.begin(); it != v.end() && !out->full(); ++it) {
+        if (!first) out->Literal(", ");
         first = false;
-        const char* kb = nullptr;
         const char* ke = nullptr;
-        kb = it.memberName(&ke);
+        const char* kb = it.memberName(&ke);
         WriteString(kb, ke, out);
-        out->append(" : ");
-        if (!WriteValue(*it, room, out)) return false;
+        out->Literal(" : ");
+        WriteValue(*it, out);
       }
-      out->append(" }");
+      out->Literal(" }");
       break;
     }
   }
-  return out->size() <= room;
 }
 
 uint64_t StringLength(const char* begin, const char* end) {
   uint64_t n = 2 + static_cast<uint64_t>(end - begin);
-  for (const char* p = begin; p != end; ++p) {
-    switch (*p) {
-      case '\b':
-      case '\t':
-      case '\n':
-      case '\f':
-      case '\r':
-      case '"':
-      case '/':
-      case '\\':
-        ++n;
-        break;
-      default:
-        break;
-    }
-  }
+  for (const char* p = begin; p != end; ++p) n += EscapeOf(*p) != 0;
   return n;
 }
 
@@ -216,29 +269,20 @@ bool TextBudget::Spend(const Json::Value& root, uint32_t index) {
 
 std::string WriteJson(const Json::Value& root) {
   std::string out;
-  WriteValue(root, UINT64_MAX, &out);
-  out.push_back('\n');
+  Sink sink(&out, UINT64_MAX);
+  WriteValue(root, &sink);
+  sink.Put('\n');
+  out.resize(sink.size());
   return out;
 }
 
-bool WriteJsonWithin(const Json::Value& root, uint64_t room, std::string* text) {
-  text->clear();
-  if (room == 0 || !WriteValue(root, room - 1, text)) return false;
-  text->push_back('\n');
-  return true;
-}
-
-bool CopyTextStrict(const std::string& text, char* out, uint32_t outLen) {
-  if (out == nullptr || outLen <= text.size()) return false;
-  std::memcpy(out, text.c_str(), text.size() + 1);
-  return true;
-}
-
-bool CopyTextAtMost(const std::string& text, char* out, uint32_t outLen) {
-  if (out == nullptr || outLen < text.size()) return false;
-  std::memcpy(out, text.data(), text.size());
-  if (outLen > text.size()) out[text.size()] = '\0';
-  return true;
+uint64_t WriteJsonInto(const Json::Value& root, char* out, uint64_t room) {
+  Sink sink(out, room);
+  WriteValue(root, &sink);
+  sink.Put('\n');
+  if (!sink.full()) return sink.size();
+  std::memset(out, 0, static_cast<size_t>(room));
+  return 0;
 }
 
 }  // namespace kova

@@ -17,9 +17,10 @@ namespace kova {
 // Returns the single-line text of `root`, newline included.
 std::string WriteJson(const Json::Value& root);
 
-// The same into `text` when it takes at most `room` bytes, newline
-// included; false as soon as it is found longer, without writing the rest.
-bool WriteJsonWithin(const Json::Value& root, uint64_t room, std::string* text);
+// The same straight into `out`, which takes at most `room` bytes: the
+// length written, newline included and no NUL after it; 0 when the text is
+// longer, with the `room` bytes of `out` cleared.
+uint64_t WriteJsonInto(const Json::Value& root, char* out, uint64_t room);
 
 // Length of the single-line text of `v`, newline not included, counted
 // without writing it.
@@ -46,16 +47,6 @@ class TextBudget {
   uint64_t room_;
   uint64_t spent_ = 0;
 };
-
-// Copies `text` with its terminating NUL into `out` when it fits, that is
-// when `outLen` is strictly greater than the text's length. Returns false
-// (nothing copied) otherwise.
-bool CopyTextStrict(const std::string& text, char* out, uint32_t outLen);
-
-// Copies `text` into `out` when its length is at most `outLen`; the NUL is
-// written only when there is room for it. Returns false (nothing copied)
-// otherwise.
-bool CopyTextAtMost(const std::string& text, char* out, uint32_t outLen);
 
 }  // namespace kova
 

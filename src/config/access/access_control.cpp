@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <string>
 
+#include "common/base/decimal.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "drivers/described_record.h"
@@ -19,6 +20,13 @@ void ParseRange(const Json::Value& obj, unsigned char* record, const Field& f) {
   DoorTimeRange* r = reinterpret_cast<DoorTimeRange*>(record + f.offset);
   const std::string text = kova::ToText(kova::Member(obj, f.key));
   DoorTimeRange t = {};
+  int32_t* fields[6] = {&t.beginHour, &t.beginMinute, &t.beginSecond,
+                        &t.endHour,   &t.endMinute,   &t.endSecond};
+  if (kova::ReadFixedClockRange(text.c_str(), fields) && text.size() == 17) {  // nothing after
+    t.secondsPresent = 1;
+    *r = t;
+    return;
+  }
   char rest = 0;
   if (std::sscanf(text.c_str(), "%d:%d:%d-%d:%d:%d%c", &t.beginHour, &t.beginMinute, &t.beginSecond,
                   &t.endHour, &t.endMinute, &t.endSecond, &rest) == 6) {
@@ -35,15 +43,22 @@ void ParseRange(const Json::Value& obj, unsigned char* record, const Field& f) {
 
 void PackRange(const unsigned char* record, Json::Value& obj, const Field& f) {
   const DoorTimeRange* r = reinterpret_cast<const DoorTimeRange*>(record + f.offset);
-  char text[96];
+  char text[64];
+  char* p = text;
   if (r->secondsPresent != 0) {
-    std::snprintf(text, sizeof text, "%02d:%02d:%02d-%02d:%02d:%02d", r->beginHour, r->beginMinute,
-                  r->beginSecond, r->endHour, r->endMinute, r->endSecond);
-  } else {
-    std::snprintf(text, sizeof text, "%02d:%02d-%02d:%02d", r->beginHour, r->beginMinute,
-                  r->endHour, r->endMinute);
+    p = kova::PutClock(p, r->beginHour, r->beginMinute, r->beginSecond);
+    *p++ = '-';
+    p = kova::PutClock(p, r->endHour, r->endMinute, r->endSecond);
+  } else {  // "%02d:%02d-%02d:%02d"
+    p = kova::PutDecimal(p, r->beginHour, 2);
+    *p++ = ':';
+    p = kova::PutDecimal(p, r->beginMinute, 2);
+    *p++ = '-';
+    p = kova::PutDecimal(p, r->endHour, 2);
+    *p++ = ':';
+    p = kova::PutDecimal(p, r->endMinute, 2);
   }
-  kova::SetMember(obj, f.key) = text;
+  kova::SetMember(obj, f.key) = Json::Value(text, p);
 }
 
 // A range is one member of its entry object, read by the text rules above.

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <string>
 
+#include "common/base/decimal.h"
 #include "common/blocks/analyse_blocks.h"
 #include "common/fields/field_table.h"
 #include "common/fields/json_text.h"
@@ -42,8 +43,7 @@ void PackClockRange(const unsigned char* record, Json::Value& obj, const Field& 
   v = Json::Value(Json::arrayValue);
   for (const ClockTime& t : times) {
     char text[48];
-    std::snprintf(text, sizeof text, "%02d:%02d:%02d", t.hour, t.minute, t.second);
-    v.append(text);
+    v.append(Json::Value(text, PutClock(text, t.hour, t.minute, t.second)));
   }
 }
 

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <string>
 
+#include "common/base/decimal.h"
 #include "common/fields/field_table.h"
 #include "common/fields/text_forms.h"
 #include "common/json/json.h"
@@ -45,10 +46,10 @@ void ParseWindowTimes(const Json::Value& v, TimeSectionRecord* window) {
 }
 
 void PackWindowTimes(const TimeSectionRecord& w, Json::Value& out) {
-  char text[96];
-  std::snprintf(text, sizeof text, "%02d:%02d:%02d-%02d:%02d:%02d", w.beginHour, w.beginMinute,
-                w.beginSecond, w.endHour, w.endMinute, w.endSecond);
-  out = text;
+  char text[64];
+  char* p = PutClock(text, w.beginHour, w.beginMinute, w.beginSecond);
+  *p++ = '-';
+  out = Json::Value(text, PutClock(p, w.endHour, w.endMinute, w.endSecond));
 }
 
 // "ChnTime" keys its channels by name ("En5", "Time5"), each an array of

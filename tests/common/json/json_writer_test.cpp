@@ -53,10 +53,11 @@ TEST(JsonWriter, CountedLengthAndBoundedWriteAgreeWithTheText) {
   for (const Json::Value& v : {Json::Value(), Json::Value(true), Json::Value(0), list, root}) {
     const std::string text = kova::WriteJson(v);
     EXPECT_EQ(text.size() - 1, kova::TextLength(v)) << text;
-    std::string bounded = "stale";
-    EXPECT_TRUE(kova::WriteJsonWithin(v, text.size(), &bounded));
-    EXPECT_EQ(text, bounded);
-    EXPECT_FALSE(kova::WriteJsonWithin(v, text.size() - 1, &bounded)) << text;
+    std::string bounded(text.size() + 1, '@');
+    EXPECT_EQ(text.size(), kova::WriteJsonInto(v, &bounded[0], text.size()));
+    EXPECT_EQ(text + "@", bounded);
+    EXPECT_EQ(0u, kova::WriteJsonInto(v, &bounded[0], text.size() - 1)) << text;
+    EXPECT_EQ(std::string(text.size() - 1, '\0') + "\n@", bounded);  // cleared over its room
   }
 }
 

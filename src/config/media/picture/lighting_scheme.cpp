@@ -1,9 +1,11 @@
 // "LightingScheme": the light mode of each of a channel's profiles and the
 // week of times at which each mode applies.
+#include <cctype>
 #include <cstdio>
 #include <cstring>
 #include <string>
 
+#include "common/base/decimal.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/media/video_in/profiles.h"
@@ -14,6 +16,25 @@ namespace kova {
 
 namespace {
 
+// The form devices write, "08:00:00-18:00:00 AIMode" with one blank, read
+// without scanf: the same range and name it takes from it. False for any
+// other text.
+bool ReadFixedScheme(const char* text, LightingSchemeSection* s, char (&mode)[KOVA_VIDEO_IN_TEXT]) {
+  LightingSchemeSection r = *s;
+  int32_t* fields[6] = {&r.beginHour, &r.beginMinute, &r.beginSecond,
+                        &r.endHour,   &r.endMinute,   &r.endSecond};
+  // The range is checked first: it stops at the text's end.
+  if (!ReadFixedClockRange(text, fields) || text[17] != ' ') return false;
+  const char* name = text + 18;
+  const auto inName = [name](size_t i) {
+    return name[i] != '\0' && !std::isspace(static_cast<unsigned char>(name[i]));
+  };
+  if (!inName(0)) return false;
+  *s = r;
+  for (size_t n = 0; n + 1 < sizeof mode && inName(n); ++n) mode[n] = name[n];  // "%31s"
+  return true;
+}
+
 // One text "00:00:00-23:59:59 AIMode": the range first, then the mode's
 // name, without the leading flag of the usual section form. The name is
 // an identifier of the device and is kept as its bytes.
@@ -21,6 +42,10 @@ bool ReadSchemeSection(const Json::Value& v, LightingSchemeSection* s) {
   if (!v.isString()) return false;
   const std::string text = ToText(v);
   char mode[KOVA_VIDEO_IN_TEXT] = {};
+  if (ReadFixedScheme(text.c_str(), s, mode)) {
+    std::memcpy(s->mode, mode, sizeof mode);
+    return true;
+  }
   if (std::sscanf(text.c_str(), "%d:%d:%d-%d:%d:%d %31s", &s->beginHour, &s->beginMinute,
                   &s->beginSecond, &s->endHour, &s->endMinute, &s->endSecond, mode) != 7) {
     return false;
@@ -33,10 +58,13 @@ std::string WriteSchemeSection(const LightingSchemeSection& s) {
   const void* end = std::memchr(s.mode, '\0', sizeof s.mode);
   const int modeLength = end != nullptr ? static_cast<int>(static_cast<const char*>(end) - s.mode)
                                         : static_cast<int>(sizeof s.mode);
-  char text[160];
-  std::snprintf(text, sizeof text, "%02d:%02d:%02d-%02d:%02d:%02d %.*s", s.beginHour, s.beginMinute,
-                s.beginSecond, s.endHour, s.endMinute, s.endSecond, modeLength, s.mode);
-  return text;
+  char text[64];
+  char* p = PutClock(text, s.beginHour, s.beginMinute, s.beginSecond);
+  *p++ = '-';
+  p = PutClock(p, s.endHour, s.endMinute, s.endSecond);
+  *p++ = ' ';
+  std::string out(text, p);
+  return out.append(s.mode, static_cast<size_t>(modeLength));
 }
 
 // "TimeSectionByWeek": days cut to 7 and sections to 6; a day keeps its

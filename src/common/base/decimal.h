@@ -1,0 +1,55 @@
+// Decimal numbers and clock times written and read by hand where a pack or
+// a parse does it for every section of a schedule: the same bytes printf
+// writes and scanf reads, without their cost.
+#ifndef KOVA_COMMON_BASE_DECIMAL_H_
+#define KOVA_COMMON_BASE_DECIMAL_H_
+
+#include <cstdint>
+
+namespace kova {
+
+// Writes `v` at `p` as "%0<width>d" does ("%d" for width 0: a sign, then
+// zeros up to the width, then the digits) and returns the end. At most 11
+// bytes more than the width.
+inline char* PutDecimal(char* p, int32_t v, int width = 0) {
+  uint32_t magnitude = v < 0 ? 0u - static_cast<uint32_t>(v) : static_cast<uint32_t>(v);
+  char digits[10];
+  int n = 0;
+  do {
+    digits[n++] = static_cast<char>('0' + magnitude % 10);
+    magnitude /= 10;
+  } while (magnitude != 0);
+  if (v < 0) *p++ = '-';
+  for (int pad = width - n - (v < 0 ? 1 : 0); pad > 0; --pad) *p++ = '0';
+  while (n > 0) *p++ = digits[--n];
+  return p;
+}
+
+// "%02d:%02d:%02d".
+inline char* PutClock(char* p, int32_t hour, int32_t minute, int32_t second) {
+  p = PutDecimal(p, hour, 2);
+  *p++ = ':';
+  p = PutDecimal(p, minute, 2);
+  *p++ = ':';
+  return PutDecimal(p, second, 2);
+}
+
+inline bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// The clock range every device writes, "08:00:00-18:00:00" (two digits a
+// field), at the start of `text`, into `fields` in order; the byte after it
+// must not be a digit. False (nothing stored) for any other text: the caller
+// then reads it the general way, which gives the same numbers for this form.
+inline bool ReadFixedClockRange(const char* text, int32_t* fields[6]) {
+  static const char kPattern[] = "dd:dd:dd-dd:dd:dd";
+  for (unsigned i = 0; i + 1 < sizeof kPattern; ++i) {
+    if (kPattern[i] == 'd' ? !IsDigit(text[i]) : text[i] != kPattern[i]) return false;
+  }
+  if (IsDigit(text[sizeof kPattern - 1])) return false;
+  for (int f = 0; f < 6; ++f) *fields[f] = (text[3 * f] - '0') * 10 + (text[3 * f + 1] - '0');
+  return true;
+}
+
+}  // namespace kova
+
+#endif  // KOVA_COMMON_BASE_DECIMAL_H_
