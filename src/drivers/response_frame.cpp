@@ -137,15 +137,23 @@ void StartSizedRecord(unsigned char* record, uint32_t size) {
   if (size >= sizeof size) std::memcpy(record, &size, sizeof size);
 }
 
-int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule) {
-  if (outJson == nullptr || outLen == 0) return 0;
-  // Written straight into the caller's buffer, never past the room the rule
-  // leaves; the NUL after it when there is room for one.
-  const uint32_t room = rule == CopyRule::kAtMost ? outLen : outLen - 1;
-  const uint64_t length = WriteJsonInto(value, outJson, room);
+namespace {
+
+// A text written into the caller's buffer: the NUL after it when there is
+// room for one.
+int EndPacked(uint64_t length, char* outJson, uint32_t outLen) {
   if (length == 0) return 0;
   if (length < outLen) outJson[length] = '\0';
   return 1;
+}
+
+}  // namespace
+
+int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule) {
+  if (outJson == nullptr || outLen == 0) return 0;
+  // Never written past the room the rule leaves.
+  const uint32_t room = rule == CopyRule::kAtMost ? outLen : outLen - 1;
+  return EndPacked(WriteJsonInto(value, outJson, room), outJson, outLen);
 }
 
 namespace {
@@ -268,28 +276,39 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
     const uint32_t n = f.packWalk == PackWalk::kOne ? 1 : inLen / stride;
     if (static_cast<uint64_t>(n) * f.minTextPerRecord > outLen) return 0;
     std::vector<unsigned char> copy;  // only for caller-sized slots that need one
-    TextBudget budget(f.copy == CopyRule::kAtMost ? outLen : outLen - 1);
-
-    Json::Value root;
+    const auto recordAt = [&](uint32_t i) {
+      const unsigned char* record = in + static_cast<size_t>(i) * stride;
+      if (!NeedsCopy(f, record, stride)) return record;
+      copy.assign(f.recordSize, 0);
+      std::memcpy(copy.data(), record, std::min(stride, f.recordSize));
+      return static_cast<const unsigned char*>(copy.data());
+    };
+    const uint32_t room = f.copy == CopyRule::kAtMost ? outLen : outLen - 1;
     const bool members = f.packWalk == PackWalk::kObjectMembers;
     const bool array =
         !members && (n > 1 || f.packArrayAlways ||
                      (f.arrayUnlessExactlyOne && f.packWalk != PackWalk::kOne && inLen != stride));
-    if (array) root = Json::Value(Json::arrayValue);
+    if (array) {
+      // Each record's element is written as soon as it is packed: the text
+      // stops at the record that makes it too long, and no tree of the
+      // whole array is kept.
+      ArrayText text(outJson, room);
+      for (uint32_t i = 0; i < n; ++i) {
+        Json::Value element;
+        if (!f.pack(recordAt(i), element)) {
+          std::memset(outJson, 0, outLen);
+          return 0;
+        }
+        if (!text.Add(element)) return 0;  // the buffer cleared
+      }
+      return EndPacked(text.Finish(), outJson, outLen);
+    }
+    Json::Value root;
     if (members) root = Json::Value(Json::objectValue);
+    TextBudget budget(room);
     for (uint32_t i = 0; i < n; ++i) {
-      const unsigned char* record = in + static_cast<size_t>(i) * stride;
-      if (NeedsCopy(f, record, stride)) {
-        copy.assign(f.recordSize, 0);
-        std::memcpy(copy.data(), record, std::min(stride, f.recordSize));
-        record = copy.data();
-      }
-      Json::Value& target = array ? SetElement(root, i) : root;  // members: the one object
-      if (!f.pack(record, target)) {
-        std::memset(outJson, 0, outLen);
-        return 0;
-      }
-      if (n > 1 && !budget.Spend(root, i)) return 0;  // nothing written yet
+      if (!f.pack(recordAt(i), root)) return 0;  // nothing written yet
+      if (n > 1 && !budget.Spend(root, i)) return 0;
     }
     return CopyPacked(root, outJson, outLen, f.copy);
   } catch (...) {

@@ -50,9 +50,9 @@ void PackChannelSet(const unsigned char* record, Json::Value& obj, const Field& 
   std::memcpy(words, record + f.offset, sizeof words);
   Json::Value channels = PackChannelMask(words);
   if (Count(channels) != 0) {
-    SetMember(obj, f.key) = std::move(channels);
+    SetKeptMember(obj, f.key) = std::move(channels);
   } else if (kEmpty == EmptySet::kNull) {
-    SetMember(obj, f.key) = Json::Value(Json::nullValue);
+    SetKeptMember(obj, f.key) = Json::Value(Json::nullValue);
   }
 }
 

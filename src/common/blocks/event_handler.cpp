@@ -216,7 +216,7 @@ SchedulesBeside BesideOf(unsigned char* record, const Field& f) {
 void PackBeside(const unsigned char* record, const Field& f, Json::Value& handler) {
   if (f.beside.size == 0) return;
   const bool ruleGrid = f.beside.size == sizeof(WeekSchedule7x10);
-  Json::Value& timeSection = SetMember(handler, "TimeSection");
+  Json::Value& timeSection = SetKeptMember(handler, "TimeSection");
   // A rule's grid replaces the block's own schedule; an alarm's week is
   // written over its first seven days, the holiday left as it was.
   if (ruleGrid) timeSection = Json::Value(Json::arrayValue);
@@ -245,7 +245,7 @@ bool ParseEventHandlerWithWeek(const Json::Value& obj, EventHandlerRecord* recor
 
 void PackEventHandler(const EventHandlerRecord& r, Json::Value& obj) {
   if (!obj.isObject()) obj = Json::Value(Json::objectValue);
-  PackHolidaySchedule(SetMember(obj, "TimeSection"), r.schedule);
+  PackHolidaySchedule(SetKeptMember(obj, "TimeSection"), r.schedule);
   PackFields(&r, obj, kEventHandler);
 }
 
@@ -261,7 +261,7 @@ void ParseLinkageStep(const Json::Value& obj, unsigned char* record, const Field
 }
 
 void PackLinkageStep(const unsigned char* record, Json::Value& obj, const Field& f) {
-  Json::Value& handler = SetMember(obj, f.key);
+  Json::Value& handler = SetKeptMember(obj, f.key);
   PackEventHandler(*reinterpret_cast<const EventHandlerRecord*>(record + f.offset), handler);
   PackBeside(record, f, handler);
   if (f.table != nullptr) PackFields(record, handler, *f.table);

@@ -77,7 +77,7 @@ void PackPtzLinks(const unsigned char* record, Json::Value& obj, const Field& f)
   const uint32_t n = CutCount(Linkage(record)->ptzLinkCount,
                               EntriesToRecordEnd(offsetof(R, ptzLinks), sizeof(PtzLinkEntry)));
   if (n == 0) return;
-  Json::Value& links = SetMember(obj, f.key);
+  Json::Value& links = SetKeptMember(obj, f.key);
   links = Json::Value(Json::arrayValue);
   for (uint32_t i = 0; i < n; ++i) {
     PtzLinkEntry e;
@@ -117,20 +117,20 @@ void ParseTitles(const Json::Value& obj, unsigned char* record, const Field& f) 
 
 void PackTitles(const unsigned char* record, Json::Value& obj, const Field& f) {
   const TitleOverlay* titles = reinterpret_cast<const TitleOverlay*>(record + f.offset);
-  Json::Value& list = SetMember(obj, f.key);
+  Json::Value& list = SetKeptMember(obj, f.key);
   list = Json::Value(Json::arrayValue);
   const uint32_t n =
       CutCount(LoadInt(record + f.count.offset, f.count.size, true), KOVA_EH_MAX_TITLES);
   for (uint32_t i = 0; i < n; ++i) {
     const TitleOverlay& t = titles[i];
     Json::Value item(Json::objectValue);
-    SetJsonStringBounded(SetMember(item, "Text"), t.text, sizeof t.text, 1);
-    SetMember(item, "Point") = IntArray(t.point, 2);
-    Json::Value& size = SetMember(item, "Size");
+    SetJsonStringBounded(SetKeptMember(item, "Text"), t.text, sizeof t.text, 1);
+    SetKeptMember(item, "Point") = IntArray(t.point, 2);
+    Json::Value& size = SetKeptMember(item, "Size");
     SetElement(size, 0) = static_cast<double>(t.size[0]);
     SetElement(size, 1) = static_cast<double>(t.size[1]);
-    SetMember(item, "FrontColor") = IntArray(t.frontColor, 4);
-    SetMember(item, "BackColor") = IntArray(t.backColor, 4);
+    SetKeptMember(item, "FrontColor") = IntArray(t.frontColor, 4);
+    SetKeptMember(item, "BackColor") = IntArray(t.backColor, 4);
     list.append(std::move(item));
   }
 }
@@ -160,7 +160,7 @@ void ParseAccessControls(const Json::Value& obj, unsigned char* record, const Fi
 
 void PackAccessControls(const unsigned char* record, Json::Value& obj, const Field& f) {
   const R* r = Linkage(record);
-  Json::Value& list = SetMember(obj, f.key);
+  Json::Value& list = SetKeptMember(obj, f.key);
   list = Json::Value(Json::arrayValue);
   const uint32_t n = CutCount(r->accessControlCount, KOVA_EH_MAX_ACCESS_CONTROLS);
   for (uint32_t i = 0; i < n; ++i) {
@@ -173,7 +173,7 @@ void PackAccessControls(const unsigned char* record, Json::Value& obj, const Fie
 }
 
 void PackDestinations(const unsigned char* record, Json::Value& obj, const Field& f) {
-  Json::Value& destinations = SetMember(obj, f.key);
+  Json::Value& destinations = SetKeptMember(obj, f.key);
   destinations = Json::Value(Json::arrayValue);
   // The count is deliberately not cut to 8 when packing: bytes beyond the
   // eight destinations are taken from what follows them, but never from

@@ -37,7 +37,7 @@ void PackWeekGrid(const unsigned char* record, Json::Value& obj, const Field& f)
   if (f.size != sizeof(TimeSectionRecord) * kDays * kSections) return;
   TimeSectionRecord grid[kDays][kSections];
   std::memcpy(grid, record + f.offset, sizeof grid);
-  PackTimeSectionGrid(SetMember(obj, f.key), &grid[0][0], kDays, kSections);
+  PackTimeSectionGrid(SetKeptMember(obj, f.key), &grid[0][0], kDays, kSections);
 }
 
 }  // namespace kova

@@ -154,7 +154,7 @@ void PackFields(const void* record, Json::Value& obj, const Field* fields, size_
       written = PackValue(base + f.offset, f, &v);
     }
     // Moved, not copied: a nested block or list is a whole tree.
-    if (written) SetMember(obj, f.key) = std::move(v);
+    if (written) SetKeptMember(obj, f.key) = std::move(v);
   }
 }
 

@@ -23,7 +23,7 @@ void PackJsonText(const unsigned char* record, Json::Value& obj, const Field& f)
   const std::string text(p, strnlen(p, f.size));
   Json::Value v;
   if (!ReadJson(text.c_str(), &v)) return;
-  SetMember(obj, f.key) = v;
+  SetKeptMember(obj, f.key) = v;
 }
 
 }  // namespace kova

@@ -156,6 +156,11 @@ Json::Value& SetMember(Json::Value& obj, const char* key) {
   return obj[key];
 }
 
+Json::Value& SetKeptMember(Json::Value& obj, const char* key) {
+  if (!obj.isObject()) obj = Json::Value(Json::objectValue);
+  return obj[Json::StaticString(key)];
+}
+
 Json::Value& SetElement(Json::Value& arr, uint32_t i) {
   if (!arr.isArray()) arr = Json::Value(Json::arrayValue);
   return arr[static_cast<Json::ArrayIndex>(i)];

@@ -128,6 +128,9 @@ void ForEachElement(const Json::Value& v, Fn&& fn) {
 // Writable member `key`: `obj` becomes an object first when it is not one
 // (a non-null value of another type is replaced).
 Json::Value& SetMember(Json::Value& obj, const char* key);
+// The same for a key that outlives the tree, a literal or a key of a
+// record's description: the tree points at it instead of copying it.
+Json::Value& SetKeptMember(Json::Value& obj, const char* key);
 // Writable element `i`: `arr` becomes an array first when it is not one;
 // the array grows to hold `i`.
 Json::Value& SetElement(Json::Value& arr, uint32_t i);

@@ -9,53 +9,23 @@
 
 namespace kova {
 
+bool TextSink::Grow(size_t n) {
+  if (grown_ == nullptr || full_ || n > room_ - len_) {
+    full_ = true;
+    return false;
+  }
+  cap_ = std::min<uint64_t>(room_, std::max<uint64_t>(2 * cap_, std::max<uint64_t>(len_ + n, 256)));
+  grown_->resize(cap_);
+  base_ = &(*grown_)[0];
+  return true;
+}
+
+void TextSink::Clear() {
+  if (grown_ == nullptr && base_ != nullptr) std::memset(base_, 0, static_cast<size_t>(cap_));
+  len_ = 0;
+}
+
 namespace {
-
-// Where the text goes: a caller's buffer of fixed room, or a string that
-// grows up to the room. Once a write does not fit, the sink is full and
-// takes nothing more.
-class Sink {
- public:
-  Sink(char* buffer, uint64_t room) : base_(buffer), cap_(room), room_(room) {}
-  Sink(std::string* grown, uint64_t room) : grown_(grown), room_(room) {}
-
-  bool full() const { return full_; }
-  uint64_t size() const { return len_; }
-
-  void Put(const char* s, size_t n) {
-    if (n > cap_ - len_ && !Grow(n)) return;
-    std::memcpy(base_ + len_, s, n);
-    len_ += n;
-  }
-  void Put(char c) {
-    if (len_ == cap_ && !Grow(1)) return;
-    base_[len_++] = c;
-  }
-  template <size_t N>
-  void Literal(const char (&s)[N]) {
-    Put(s, N - 1);
-  }
-
- private:
-  bool Grow(size_t n) {
-    if (grown_ == nullptr || full_ || n > room_ - len_) {
-      full_ = true;
-      return false;
-    }
-    cap_ =
-        std::min<uint64_t>(room_, std::max<uint64_t>(2 * cap_, std::max<uint64_t>(len_ + n, 256)));
-    grown_->resize(cap_);
-    base_ = &(*grown_)[0];
-    return true;
-  }
-
-  char* base_ = nullptr;
-  std::string* grown_ = nullptr;
-  uint64_t len_ = 0;
-  uint64_t cap_ = 0;
-  uint64_t room_;
-  bool full_ = false;
-};
 
 // The letter written after a backslash for each byte, 0 for a byte written
 // as it is.
@@ -76,7 +46,7 @@ constexpr EscapeTable kEscapes;
 
 char EscapeOf(char c) { return kEscapes.letter[static_cast<unsigned char>(c)]; }
 
-void WriteString(const char* begin, const char* end, Sink* out) {
+void WriteString(const char* begin, const char* end, TextSink* out) {
   out->Put('"');
   const char* run = begin;  // bytes written as they are, not yet put
   for (const char* p = begin; p != end; ++p) {
@@ -91,7 +61,7 @@ void WriteString(const char* begin, const char* end, Sink* out) {
   out->Put('"');
 }
 
-void WriteUnsigned(uint64_t x, bool negative, Sink* out) {
+void WriteUnsigned(uint64_t x, bool negative, TextSink* out) {
   char digits[24];
   char* p = digits + sizeof digits;
   do {
@@ -102,14 +72,14 @@ void WriteUnsigned(uint64_t x, bool negative, Sink* out) {
   out->Put(p, static_cast<size_t>(digits + sizeof digits - p));
 }
 
-void WriteHole(Json::ArrayIndex index, Sink* out) {
+void WriteHole(Json::ArrayIndex index, TextSink* out) {
   if (index != 0) out->Literal(", ");
   out->Literal("null");
 }
 
 // Writes `v`; stops early once the sink is full (what it holds then is to be
 // thrown away).
-void WriteValue(const Json::Value& v, Sink* out) {
+void WriteValue(const Json::Value& v, TextSink* out) {
   switch (v.type()) {
     case Json::nullValue:
       out->Literal("null");
@@ -256,20 +226,15 @@ uint64_t KeptLength(const Json::Value& v) {
 }  // namespace
 
 bool TextBudget::Spend(const Json::Value& root, uint32_t index) {
-  if (root.isArray()) {
-    // "[ " and " ]" and the newline come with the first element, ", " with each other.
-    spent_ += (index == 0 ? 5 : 2) + TextLength(Element(root, index));
-  } else if ((index & (index + 1)) == 0) {
-    // A later record may replace a member's value with a shorter one (two
-    // devices with one identifier), so only what the object keeps counts.
-    spent_ = KeptLength(root) + 1;
-  }
+  // A later record may replace a member's value with a shorter one (two
+  // devices with one identifier), so only what the object keeps counts.
+  if ((index & (index + 1)) == 0) spent_ = KeptLength(root) + 1;
   return spent_ <= room_;
 }
 
 std::string WriteJson(const Json::Value& root) {
   std::string out;
-  Sink sink(&out, UINT64_MAX);
+  TextSink sink(&out, UINT64_MAX);
   WriteValue(root, &sink);
   sink.Put('\n');
   out.resize(sink.size());
@@ -277,11 +242,32 @@ std::string WriteJson(const Json::Value& root) {
 }
 
 uint64_t WriteJsonInto(const Json::Value& root, char* out, uint64_t room) {
-  Sink sink(out, room);
+  TextSink sink(out, room);
   WriteValue(root, &sink);
   sink.Put('\n');
   if (!sink.full()) return sink.size();
-  std::memset(out, 0, static_cast<size_t>(room));
+  sink.Clear();
+  return 0;
+}
+
+bool ArrayText::Add(const Json::Value& element) {
+  if (count_++ == 0) {
+    sink_.Literal("[ ");
+  } else {
+    sink_.Literal(", ");
+  }
+  WriteValue(element, &sink_);
+  if (!sink_.full()) return true;
+  sink_.Clear();
+  return false;
+}
+
+uint64_t ArrayText::Finish() {
+  if (count_ == 0) sink_.Literal("[ ");
+  sink_.Literal(" ]");
+  sink_.Put('\n');
+  if (!sink_.full()) return sink_.size();
+  sink_.Clear();
   return 0;
 }
 

@@ -10,9 +10,65 @@
 #include <json/value.h>
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 
 namespace kova {
+
+// Where a text goes: a caller's buffer of fixed room, or a string that
+// grows up to the room. Once a write does not fit, the sink is full and
+// takes nothing more.
+class TextSink {
+ public:
+  TextSink(char* buffer, uint64_t room) : base_(buffer), cap_(room), room_(room) {}
+  TextSink(std::string* grown, uint64_t room) : grown_(grown), room_(room) {}
+
+  bool full() const { return full_; }
+  uint64_t size() const { return len_; }
+
+  void Put(const char* s, size_t n) {
+    if (n > cap_ - len_ && !Grow(n)) return;
+    std::memcpy(base_ + len_, s, n);
+    len_ += n;
+  }
+  void Put(char c) {
+    if (len_ == cap_ && !Grow(1)) return;
+    base_[len_++] = c;
+  }
+  template <size_t N>
+  void Literal(const char (&s)[N]) {
+    Put(s, N - 1);
+  }
+  // Forgets what was written; a caller's buffer is cleared over its room.
+  void Clear();
+
+ private:
+  bool Grow(size_t n);
+
+  char* base_ = nullptr;
+  std::string* grown_ = nullptr;
+  uint64_t len_ = 0;
+  uint64_t cap_ = 0;
+  uint64_t room_;
+  bool full_ = false;
+};
+
+// An array written into a caller's buffer element by element, as each
+// record is packed, so that no tree of the whole array is built: the same
+// text WriteJsonInto gives for the array.
+class ArrayText {
+ public:
+  ArrayText(char* out, uint64_t room) : sink_(out, room) {}
+  // False once the text no longer fits, with the room cleared.
+  bool Add(const Json::Value& element);
+  // The length written, newline included and no NUL after it; 0 when the
+  // text does not fit, with the room cleared.
+  uint64_t Finish();
+
+ private:
+  TextSink sink_;
+  uint32_t count_ = 0;
+};
 
 // Returns the single-line text of `root`, newline included.
 std::string WriteJson(const Json::Value& root);
@@ -27,20 +83,18 @@ uint64_t WriteJsonInto(const Json::Value& root, char* out, uint64_t room);
 uint64_t TextLength(const Json::Value& v);
 
 // The room of a caller's text buffer, spent while a pack puts its records
-// into the tree one by one: a pack whose text cannot fit stops at the
-// record that makes it too long, instead of building the whole tree and its
-// text first, so that what a pack takes is bounded by its buffers.
+// one by one into one object (each adds or replaces members and removes
+// none): a pack whose text cannot fit stops at the record that makes it too
+// long, instead of building the whole tree first, so that what a pack takes
+// is bounded by its buffers.
 class TextBudget {
  public:
   // `room`: the longest text, newline included, the buffer takes.
   explicit TextBudget(uint64_t room) : room_(room) {}
 
-  // After record `index` went into `root`: an array root spends its element
-  // `index` (written once, not looked at again). An object root, to which
-  // every record adds or replaces members and removes none, spends its keys
-  // with one byte of value each, counted after records 1, 2, 4, 8, ... so
-  // that counting costs at most twice the keys. False once the text cannot
-  // fit.
+  // After record `index` went into `root`: its keys are spent with one
+  // byte of value each, counted after records 1, 2, 4, 8, ... so that
+  // counting costs at most twice the keys. False once the text cannot fit.
   bool Spend(const Json::Value& root, uint32_t index);
 
  private:

@@ -58,7 +58,7 @@ void PackRange(const unsigned char* record, Json::Value& obj, const Field& f) {
     *p++ = ':';
     p = kova::PutDecimal(p, r->endMinute, 2);
   }
-  kova::SetMember(obj, f.key) = Json::Value(text, p);
+  kova::SetKeptMember(obj, f.key) = Json::Value(text, p);
 }
 
 // A range is one member of its entry object, read by the text rules above.

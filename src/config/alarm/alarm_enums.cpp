@@ -54,7 +54,7 @@ void PackDefenceAreaType(const unsigned char* record, Json::Value& obj, const Fi
   const int64_t type = LoadInt(record + f.offset, f.size, true);
   const char* name = EnumName(kExactZoneNames, type);
   if (name == nullptr) name = EnumName(kLooseZoneNames, type);
-  if (name != nullptr) SetMember(obj, f.key) = name;
+  if (name != nullptr) SetKeptMember(obj, f.key) = name;
 }
 
 }  // namespace kova

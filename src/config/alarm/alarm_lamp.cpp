@@ -36,7 +36,8 @@ bool ParseAlarmLamp(const Json::Value& element, const StepContext& /*ctx*/, unsi
 bool PackAlarmLamp(const unsigned char* record, Json::Value& target) {
   AlarmLampRecord r;
   std::memcpy(&r, record, sizeof r);
-  if (r.mode >= 0 && r.mode <= static_cast<int32_t>(kLastMode)) SetMember(target, "Mode") = r.mode;
+  if (r.mode >= 0 && r.mode <= static_cast<int32_t>(kLastMode))
+    SetKeptMember(target, "Mode") = r.mode;
   return true;
 }
 

@@ -114,7 +114,7 @@ void ParseWindows(const Json::Value& obj, unsigned char* record, const Field& f)
 void PackWindows(const unsigned char* record, Json::Value& obj, const Field& f) {
   const R& r = *reinterpret_cast<const R*>(record);
   if (!r.windowPresent && !r.detectWindowPresent) return;
-  Json::Value& entries = SetMember(obj, f.key);
+  Json::Value& entries = SetKeptMember(obj, f.key);
   entries = Json::Value(Json::arrayValue);
   const uint32_t nw = CutWindows(r.windowPresent, r.windowCount);
   const uint32_t nd = CutWindows(r.detectWindowPresent, r.detectWindowCount);
@@ -125,7 +125,7 @@ void PackWindows(const unsigned char* record, Json::Value& obj, const Field& f) 
     if (i < nd) {
       const MotionDetectWindow& w = r.detectWindows[i];
       PackFields(&w, e, kDetectWindow);
-      WriteWindowGrid(w.region, CutCount(w.rows, kMaxRows), SetMember(e, "Region"));
+      WriteWindowGrid(w.region, CutCount(w.rows, kMaxRows), SetKeptMember(e, "Region"));
     }
   }
 }
@@ -141,7 +141,7 @@ void ParseRegion(const Json::Value& obj, unsigned char* record, const Field& f) 
 void PackRegion(const unsigned char* record, Json::Value& obj, const Field& f) {
   const R& r = *reinterpret_cast<const R*>(record);
   const uint32_t rows = CutCount(r.rows, kMaxRows);
-  if (rows > 0) WriteChannelGrid(r.region, rows, SetMember(obj, f.key));
+  if (rows > 0) WriteChannelGrid(r.region, rows, SetKeptMember(obj, f.key));
 }
 
 constexpr Field kFields[] = {

@@ -39,7 +39,7 @@ void ParseClockRange(const Json::Value& obj, unsigned char* record, const Field&
 void PackClockRange(const unsigned char* record, Json::Value& obj, const Field& f) {
   ClockTime times[2];
   std::memcpy(times, record + f.offset, sizeof times);
-  Json::Value& v = SetMember(obj, f.key);
+  Json::Value& v = SetKeptMember(obj, f.key);
   v = Json::Value(Json::arrayValue);
   for (const ClockTime& t : times) {
     char text[48];

@@ -92,7 +92,7 @@ bool ParseModules(const Json::Value& /*table*/, const StepContext& ctx, unsigned
 bool PackModules(const unsigned char* record, Json::Value& out) {
   Json::Value params(Json::objectValue);
   PackFields(record, params, kModuleTable);
-  out.swap(SetMember(params, "table"));
+  out.swap(SetKeptMember(params, "table"));
   return true;
 }
 

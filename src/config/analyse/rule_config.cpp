@@ -55,7 +55,7 @@ void ParseRuleBody(const Json::Value& rule, unsigned char* body, const RuleType&
 void PackRuleBody(const unsigned char* body, const RuleType& type, Json::Value& rule) {
   PackFields(body, rule, *type.head);
   PackFields(body + type.linkageOffset, rule, kRuleLinkageFields);
-  Json::Value& config = SetMember(rule, "Config");
+  Json::Value& config = SetKeptMember(rule, "Config");
   config = Json::Value(Json::objectValue);
   PackFields(body, config, type.config);
 }

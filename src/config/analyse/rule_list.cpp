@@ -155,7 +155,7 @@ bool PackEntry(const unsigned char* at, size_t left, Json::Value& rules, size_t*
   }
   Json::Value& rule = Append(rules, Json::Value(Json::objectValue));
   PackRuleBody(body, *type, rule);
-  SetMember(rule, "Type") = RuleTypeName(header.ruleType);
+  SetKeptMember(rule, "Type") = RuleTypeName(header.ruleType);
   PackFields(&header, rule, &kPackedClass, 1);
   *used = kHeaderSize + header.bodySize;
   return true;

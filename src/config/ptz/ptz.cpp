@@ -67,7 +67,7 @@ void ParseAttribute(const Json::Value& table, unsigned char* record, const Field
 void PackAttribute(const unsigned char* record, Json::Value& table, const Field& f) {
   PtzSerialAttribute s;
   std::memcpy(&s, record + f.offset, sizeof s);
-  Json::Value& a = SetMember(table, f.key);
+  Json::Value& a = SetKeptMember(table, f.key);
   a = Json::Value(Json::arrayValue);
   Append(a, Entry(kBaudRates, s.baudRateIndex));
   Append(a, Entry(kDataBits, s.dataBitsIndex));
@@ -90,7 +90,7 @@ void ParseHoming(const Json::Value& table, unsigned char* record, const Field& f
 void PackHoming(const unsigned char* record, Json::Value& table, const Field& f) {
   int32_t homing[2];
   std::memcpy(homing, record + f.offset, sizeof homing);
-  Json::Value& v = SetMember(table, f.key);
+  Json::Value& v = SetKeptMember(table, f.key);
   v = Json::Value(Json::arrayValue);
   Append(v, homing[0]);
   Append(v, homing[1]);

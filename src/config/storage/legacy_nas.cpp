@@ -76,7 +76,7 @@ void ParseChannelTimes(const Json::Value& nas, unsigned char* record, const Fiel
 
 void PackChannelTimes(const unsigned char* record, Json::Value& nas, const Field& f) {
   const LegacyNasConfig* r = reinterpret_cast<const LegacyNasConfig*>(record);
-  Json::Value& times = SetMember(nas, f.key);
+  Json::Value& times = SetKeptMember(nas, f.key);
   times = Json::Value(Json::objectValue);
   const int channels = static_cast<int>(CutCount(r->channelCount, kChannels));
   for (int c = 0; c < channels; ++c) {

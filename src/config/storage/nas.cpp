@@ -48,7 +48,7 @@ void PackUpdateTime(const unsigned char* record, Json::Value& server, const Fiel
   std::snprintf(text, sizeof text, "%04u-%02u-%02u %02u:%02u:%02u.%d", kFirstYear + (t >> 26),
                 (t >> 22) & 0xFu, (t >> 17) & 0x1Fu, (t >> 12) & 0x1Fu, (t >> 6) & 0x3Fu, t & 0x3Fu,
                 0);
-  SetMember(server, f.key) = text;
+  SetKeptMember(server, f.key) = text;
 }
 
 // "SubDirectory" belongs to cloud drives: it goes back only when it holds
@@ -60,7 +60,7 @@ void ParseSubDirectory(const Json::Value& server, unsigned char* record, const F
 
 void PackSubDirectory(const unsigned char* record, Json::Value& server, const Field& f) {
   const char* text = reinterpret_cast<const char*>(record + f.offset);
-  if (text[0] != '\0') SetJsonStringBounded(SetMember(server, f.key), text, f.size, 1);
+  if (text[0] != '\0') SetJsonStringBounded(SetKeptMember(server, f.key), text, f.size, 1);
 }
 
 constexpr Field kServerFields[] = {
@@ -119,7 +119,7 @@ bool ParseNasRoot(const Json::Value& root, const StepContext&, unsigned char* re
 
 bool PackNasRoot(const unsigned char* record, Json::Value& out) {
   if (LoadInt(record + offsetof(NasConfig, useServerList), 4, true) == 0) {
-    PackLegacyNas(record + offsetof(NasConfig, legacy), SetMember(out, "NAS"));
+    PackLegacyNas(record + offsetof(NasConfig, legacy), SetKeptMember(out, "NAS"));
     return true;
   }
   // Up to the last slot in use; a zero slot goes back as the null it was read from.

@@ -66,9 +66,9 @@ void PackSchedule(const unsigned char* record, Json::Value& table, const Field&)
     for (TimeSectionRecord& s : day) s.enable = MaskToDevice(s.enable);
   }
   const bool holiday = r->holidayValid != 0;
-  PackTimeSectionGrid(SetMember(table, "TimeSection"), &grid[0][0],
+  PackTimeSectionGrid(SetKeptMember(table, "TimeSection"), &grid[0][0],
                       holiday ? kWeekDays + 1 : kWeekDays, kSectionsPerDay);
-  if (holiday) SetMember(table, "HolidayEnable") = r->holidayEnable != 0;
+  if (holiday) SetKeptMember(table, "HolidayEnable") = r->holidayEnable != 0;
 }
 
 constexpr Field kRecordFields[] = {

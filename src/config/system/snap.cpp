@@ -22,7 +22,7 @@ void ParseSections(const Json::Value& obj, unsigned char* record, const Field&) 
 void PackSections(const unsigned char* record, Json::Value& obj, const Field&) {
   const SnapConfig* r = reinterpret_cast<const SnapConfig*>(record);
   const int32_t days = (r->dayCount < 1 || r->dayCount > 8) ? 8 : r->dayCount;
-  kova::PackTimeSectionGrid(kova::SetMember(obj, "TimeSection"), &r->sections[0][0], days, 6);
+  kova::PackTimeSectionGrid(kova::SetKeptMember(obj, "TimeSection"), &r->sections[0][0], days, 6);
 }
 
 constexpr Field kSnapFields[] = {

@@ -229,8 +229,8 @@ void ParseDeviceAddress(const Json::Value& table, unsigned char* record, const F
 }
 
 void PackDeviceAddress(const unsigned char* record, Json::Value& table, const Field& f) {
-  SetJsonStringBounded(SetMember(table, f.key), reinterpret_cast<const char*>(record + f.offset),
-                       f.size, 1);
+  SetJsonStringBounded(SetKeptMember(table, f.key),
+                       reinterpret_cast<const char*>(record + f.offset), f.size, 1);
 }
 
 // "ValidUntilTime": the date-time text into its packed form; text that does
@@ -245,7 +245,7 @@ void ParseValidUntil(const Json::Value& table, unsigned char* record, const Fiel
 
 void PackValidUntil(const unsigned char* record, Json::Value& table, const Field& f) {
   char text[20];
-  SetMember(table, f.key) =
+  SetKeptMember(table, f.key) =
       FormatDateTimePacked(static_cast<uint32_t>(LoadInt(record + f.offset, f.size, false)), text);
 }
 

@@ -61,18 +61,25 @@ TEST(JsonWriter, CountedLengthAndBoundedWriteAgreeWithTheText) {
   }
 }
 
-// Records spent one by one as elements of an array: refused exactly when
-// the text, brackets, separators and newline counted, passes the room.
-TEST(JsonWriter, BudgetSpentPerRecord) {
+// Records written one by one as elements of an array give the text of the
+// whole array, and are refused exactly when it passes the room (the room
+// then cleared); an object every record adds to is budgeted by its keys.
+TEST(JsonWriter, ArrayWrittenPerRecordAndObjectBudget) {
   Json::Value array(Json::arrayValue);
   for (uint32_t i = 0; i < 3; ++i) kova::SetElement(array, i) = Json::Value("ab");
-  const uint64_t length = kova::WriteJson(array).size();  // [ "ab", "ab", "ab" ]\n
-  kova::TextBudget fits(length);
-  kova::TextBudget tight(length - 1);
-  for (uint32_t i = 0; i < 3; ++i) {
-    EXPECT_TRUE(fits.Spend(array, i)) << i;
-    EXPECT_EQ(i < 2, tight.Spend(array, i)) << i;
-  }
+  const std::string whole = kova::WriteJson(array);  // [ "ab", "ab", "ab" ]\n
+  std::string out(whole.size(), '@');
+  kova::ArrayText fits(&out[0], whole.size());
+  for (uint32_t i = 0; i < 3; ++i) EXPECT_TRUE(fits.Add(kova::Element(array, i)));
+  EXPECT_EQ(whole.size(), fits.Finish());
+  EXPECT_EQ(whole, out);
+  kova::ArrayText tight(&out[0], whole.size() - 1);
+  for (uint32_t i = 0; i < 3; ++i) tight.Add(kova::Element(array, i));
+  EXPECT_EQ(0u, tight.Finish());
+  EXPECT_EQ(std::string(whole.size() - 1, '\0') + "\n", out);
+  kova::ArrayText empty(&out[0], 5);
+  EXPECT_EQ(5u, empty.Finish());
+  EXPECT_EQ("[  ]\n", out.substr(0, 5));
   // An object every record adds to counts its keys: a value may yet be
   // replaced by a shorter one.
   Json::Value object;

@@ -93,7 +93,7 @@ void ParseWeek(const Json::Value& obj, unsigned char* record, const Field& f) {
 
 void PackWeek(const unsigned char* record, Json::Value& obj, const Field& f) {
   const LightingSchemeProfile* p = reinterpret_cast<const LightingSchemeProfile*>(record);
-  Json::Value& week = SetMember(obj, f.key);
+  Json::Value& week = SetKeptMember(obj, f.key);
   week = Json::Value(Json::arrayValue);
   const uint32_t days = CutCount(p->dayCount, KOVA_WEEK_DAYS);
   for (uint32_t d = 0; d < days; ++d) {

@@ -29,7 +29,7 @@ void ParseWeek(const Json::Value& obj, unsigned char* record, const Field& f) {
 void PackWeek(const unsigned char* record, Json::Value& obj, const Field& f) {
   WeekSchedule7x6 week;
   std::memcpy(&week, record + f.offset, sizeof week);
-  PackTimeSectionGrid(SetMember(obj, f.key), &week.sections[0][0], KOVA_WEEK_DAYS,
+  PackTimeSectionGrid(SetKeptMember(obj, f.key), &week.sections[0][0], KOVA_WEEK_DAYS,
                       KOVA_SECTIONS_PER_DAY);
 }
 

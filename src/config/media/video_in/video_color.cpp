@@ -27,7 +27,7 @@ void ParseSection(const Json::Value& obj, unsigned char* record, const Field& f)
 void PackSection(const unsigned char* record, Json::Value& obj, const Field& f) {
   TimeSectionRecord section;
   std::memcpy(&section, record + f.offset, sizeof section);
-  PackTimeSection(SetMember(obj, f.key), section);
+  PackTimeSection(SetKeptMember(obj, f.key), section);
 }
 
 }  // namespace
