@@ -121,7 +121,7 @@ void WriteValue(const Json::Value& v, TextSink* out) {
       // Entries in index order; an index with no entry reads as null.
       const Json::ArrayIndex size = v.size();
       Json::ArrayIndex next = 0;
-      for (auto it = v.begin(); it != v.end() && !out->full(); ++it) {
+      for (auto it = v.begin(), end = v.end(); it != end && !out->full(); ++it) {
         const Json::ArrayIndex index = it.index();
         for (; next < index && !out->full(); ++next) WriteHole(next, out);
         if (next != 0) out->Literal(", ");
@@ -135,7 +135,7 @@ void WriteValue(const Json::Value& v, TextSink* out) {
     case Json::objectValue: {
       out->Literal("{ ");
       bool first = true;
-      for (auto it = v.begin(); it != v.end() && !out->full(); ++it) {
+      for (auto it = v.begin(), end = v.end(); it != end && !out->full(); ++it) {
         if (!first) out->Literal(", ");
         first = false;
         const char* ke = nullptr;
@@ -196,7 +196,7 @@ uint64_t TextLength(const Json::Value& v) {
     case Json::objectValue: {
       const Json::ArrayIndex n = v.size();
       uint64_t total = 4 + (n != 0 ? 2 * (static_cast<uint64_t>(n) - 1) : 0);  // "{ ", ", ", " }"
-      for (auto it = v.begin(); it != v.end(); ++it) {
+      for (auto it = v.begin(), end = v.end(); it != end; ++it) {
         const char* ke = nullptr;
         const char* kb = it.memberName(&ke);
         total += StringLength(kb, ke) + 3 + TextLength(*it);  // key, " : ", value
@@ -215,7 +215,7 @@ uint64_t KeptLength(const Json::Value& v) {
   if (!v.isObject()) return 0;
   const Json::ArrayIndex n = v.size();
   uint64_t total = 4 + (n != 0 ? 2 * (static_cast<uint64_t>(n) - 1) : 0);
-  for (auto it = v.begin(); it != v.end(); ++it) {
+  for (auto it = v.begin(), end = v.end(); it != end; ++it) {
     const char* ke = nullptr;
     const char* kb = it.memberName(&ke);
     total += StringLength(kb, ke) + 3 + 1;
