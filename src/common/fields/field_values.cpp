@@ -139,8 +139,9 @@ bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
     case FieldKind::kEnum: {
       if (f.names == nullptr) return false;
       const char* name = EnumName(*f.names, LoadInt(p, f.size, true));
+      // The names are the tables' own literals: the tree points at them.
       if (name != nullptr) {
-        *out = name;
+        *out = Json::Value(Json::StaticString(name));
         return true;
       }
       Unnamed rule = f.unnamed;
@@ -163,7 +164,7 @@ bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
         case Unnamed::kEmptyText:
           break;
       }
-      *out = fallback != nullptr ? fallback : "";
+      *out = Json::Value(Json::StaticString(fallback != nullptr ? fallback : ""));
       return true;
     }
     case FieldKind::kObject:
