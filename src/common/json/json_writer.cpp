@@ -1,7 +1,9 @@
 #include "common/json/json_writer.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cinttypes>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 
@@ -61,6 +63,48 @@ void WriteString(const char* begin, const char* end, TextSink* out) {
   out->Put('"');
 }
 
+// A real as "%#.16g" writes it (sixteen significant digits, trailing zeros
+// and the point kept, the exponent form below 1e-4 and from 1e16), laid out
+// from the exactly rounded digits of the scientific form; a value that is
+// not finite through printf itself. Returns the length written into `num`.
+size_t FormatReal(double x, char (&num)[64]) {
+  if (!std::isfinite(x)) {
+    const int n = std::snprintf(num, sizeof num, "%#.16g", x);
+    return n > 0 ? std::min<size_t>(static_cast<size_t>(n), sizeof num - 1) : 0;
+  }
+  char sci[40];  // "-d.ddddddddddddddde-308"
+  const std::to_chars_result r =
+      std::to_chars(sci, sci + sizeof sci, x, std::chars_format::scientific, 15);
+  const char* p = sci;
+  char* o = num;
+  if (*p == '-') *o++ = *p++;
+  char digits[16];
+  digits[0] = p[0];
+  std::memcpy(digits + 1, p + 2, 15);  // after "d."
+  const char* e = p + 17;              // at "e"
+  int exponent = 0;
+  for (const char* q = e + 2; q < r.ptr; ++q) exponent = exponent * 10 + (*q - '0');
+  if (e[1] == '-') exponent = -exponent;
+  if (exponent < -4 || exponent >= 16) {
+    std::memcpy(o, p, static_cast<size_t>(r.ptr - p));  // the scientific form as it is
+    return static_cast<size_t>(o - num) + static_cast<size_t>(r.ptr - p);
+  }
+  if (exponent >= 0) {
+    std::memcpy(o, digits, static_cast<size_t>(exponent) + 1);
+    o += exponent + 1;
+    *o++ = '.';
+    std::memcpy(o, digits + exponent + 1, static_cast<size_t>(15 - exponent));
+    o += 15 - exponent;
+  } else {
+    *o++ = '0';
+    *o++ = '.';
+    for (int z = -exponent - 1; z > 0; --z) *o++ = '0';
+    std::memcpy(o, digits, sizeof digits);
+    o += sizeof digits;
+  }
+  return static_cast<size_t>(o - num);
+}
+
 void WriteUnsigned(uint64_t x, bool negative, TextSink* out) {
   char digits[24];
   char* p = digits + sizeof digits;
@@ -102,8 +146,7 @@ void WriteValue(const Json::Value& v, TextSink* out) {
       break;
     case Json::realValue: {
       char num[64];
-      const int n = std::snprintf(num, sizeof num, "%#.16g", v.asDouble());
-      if (n > 0) out->Put(num, std::min<size_t>(static_cast<size_t>(n), sizeof num - 1));
+      out->Put(num, FormatReal(v.asDouble(), num));
       break;
     }
     case Json::stringValue: {
@@ -179,8 +222,7 @@ uint64_t TextLength(const Json::Value& v) {
       return Digits(v.asLargestUInt());
     case Json::realValue: {
       char num[64];
-      const int n = std::snprintf(num, sizeof num, "%#.16g", v.asDouble());
-      return n > 0 ? std::min<uint64_t>(static_cast<uint64_t>(n), sizeof num - 1) : 0;
+      return FormatReal(v.asDouble(), num);
     }
     case Json::stringValue: {
       const char* begin = nullptr;

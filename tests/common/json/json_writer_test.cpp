@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdio>
+
 #include "common/json/json.h"
 
 namespace {
@@ -34,6 +37,16 @@ TEST(JsonWriter, ExactlyEightEscapes) {
   Json::Value o;
   kova::SetMember(o, "k/\"") = 0;
   EXPECT_EQ("{ \"k\\/\\\"\" : 0 }\n", kova::WriteJson(o));
+}
+
+// Reals as printf's "%#.16g" writes them, around each change of form.
+TEST(JsonWriter, RealsAsPrintfWritesThem) {
+  for (double x : {0.0, -0.0, 0.25, -250.75, 1e15, 9999999999999998.0, 1e16, 0.1, 1e-4, 9.99e-5,
+                   0.00012345678901234567, 5e-324, -1e300, 1.0 / 3, HUGE_VAL, -std::nan("")}) {
+    char expected[64];
+    std::snprintf(expected, sizeof expected, "%#.16g\n", x);
+    EXPECT_EQ(expected, kova::WriteJson(Json::Value(x))) << expected;
+  }
 }
 
 // The length counted without writing, and the bounded writer, agree with
