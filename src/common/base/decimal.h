@@ -4,13 +4,20 @@
 #ifndef KOVA_COMMON_BASE_DECIMAL_H_
 #define KOVA_COMMON_BASE_DECIMAL_H_
 
+#include <cstddef>
 #include <cstdint>
 
 namespace kova {
 
+// The longest texts of 32-bit fields: a number ("-2147483648"), a clock
+// ("%02d:%02d:%02d") and a clock range ("%02d:%02d:%02d-%02d:%02d:%02d").
+constexpr size_t kDecimalText = 11;
+constexpr size_t kClockText = 3 * kDecimalText + 2;
+constexpr size_t kClockRangeText = 2 * kClockText + 1;
+
 // Writes `v` at `p` as "%0<width>d" does ("%d" for width 0: a sign, then
-// zeros up to the width, then the digits) and returns the end. At most 11
-// bytes more than the width.
+// zeros up to the width, then the digits) and returns the end: at most
+// kDecimalText bytes for a width of 2 or less.
 inline char* PutDecimal(char* p, int32_t v, int width = 0) {
   uint32_t magnitude = v < 0 ? 0u - static_cast<uint32_t>(v) : static_cast<uint32_t>(v);
   char digits[10];

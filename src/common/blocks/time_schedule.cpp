@@ -108,7 +108,7 @@ int ScanRecord(const char* text, int width, TimeSectionRecord* r) {
 // "%d %02d:%02d:%02d-%02d:%02d:%02d".
 void FormatSection(int32_t enable, int32_t bh, int32_t bm, int32_t bs, int32_t eh, int32_t em,
                    int32_t es, Json::Value& out) {
-  char text[96];
+  char text[kDecimalText + 1 + kClockRangeText];
   char* p = PutDecimal(text, enable);
   *p++ = ' ';
   p = PutClock(p, bh, bm, bs);

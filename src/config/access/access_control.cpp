@@ -43,7 +43,7 @@ void ParseRange(const Json::Value& obj, unsigned char* record, const Field& f) {
 
 void PackRange(const unsigned char* record, Json::Value& obj, const Field& f) {
   const DoorTimeRange* r = reinterpret_cast<const DoorTimeRange*>(record + f.offset);
-  char text[64];
+  char text[kova::kClockRangeText];
   char* p = text;
   if (r->secondsPresent != 0) {
     p = kova::PutClock(p, r->beginHour, r->beginMinute, r->beginSecond);

@@ -42,7 +42,7 @@ void PackClockRange(const unsigned char* record, Json::Value& obj, const Field& 
   Json::Value& v = SetKeptMember(obj, f.key);
   v = Json::Value(Json::arrayValue);
   for (const ClockTime& t : times) {
-    char text[48];
+    char text[kClockText];
     v.append(Json::Value(text, PutClock(text, t.hour, t.minute, t.second)));
   }
 }

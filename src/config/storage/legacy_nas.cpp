@@ -46,7 +46,7 @@ void ParseWindowTimes(const Json::Value& v, TimeSectionRecord* window) {
 }
 
 void PackWindowTimes(const TimeSectionRecord& w, Json::Value& out) {
-  char text[64];
+  char text[kClockRangeText];
   char* p = PutClock(text, w.beginHour, w.beginMinute, w.beginSecond);
   *p++ = '-';
   out = Json::Value(text, PutClock(p, w.endHour, w.endMinute, w.endSecond));

@@ -58,7 +58,7 @@ std::string WriteSchemeSection(const LightingSchemeSection& s) {
   const void* end = std::memchr(s.mode, '\0', sizeof s.mode);
   const int modeLength = end != nullptr ? static_cast<int>(static_cast<const char*>(end) - s.mode)
                                         : static_cast<int>(sizeof s.mode);
-  char text[64];
+  char text[kClockRangeText + 1];  // the range and its blank
   char* p = PutClock(text, s.beginHour, s.beginMinute, s.beginSecond);
   *p++ = '-';
   p = PutClock(p, s.endHour, s.endMinute, s.endSecond);
