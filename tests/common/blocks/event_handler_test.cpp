@@ -106,6 +106,8 @@ TEST(EventHandler, AwkwardMembers) {
   EXPECT_EQ(1, r->present[KOVA_EH_TOUR_SPLIT]);
   EXPECT_EQ(1, r->flashEnable);
   r->accessControlOperations[2] = 9;  // no name: nothing at its index
+  r->tourEnable = 2;
+  r->present[KOVA_EH_TOUR_ENABLE] = 1;
   Json::Value out;
   kova::PackEventHandler(*r, out);
   EXPECT_EQ("[ \"None\", 0, 0, 0, 0 ]\n", kova::WriteJson(Element(Member(out, "PtzLink"), 1)));
@@ -114,6 +116,7 @@ TEST(EventHandler, AwkwardMembers) {
       "]\n",
       kova::WriteJson(Member(out, "AccessControls")));
   EXPECT_FALSE(kova::ToBool(Member(out, "MatrixEnable")));  // 2 is not 1
+  EXPECT_EQ(Json::Value(false), Member(out, "TourEnable"));
   // A title list given empty packs as an empty list, not as null.
   auto empty = Parse(Doc(R"({"SnapshotTitle": []})"));
   Json::Value none;
