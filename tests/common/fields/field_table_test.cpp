@@ -336,25 +336,4 @@ TEST(FieldTable, GroupsListsOfListsSharedKeysAndCustomSteps) {
       kova::WriteJson(out));
 }
 
-TEST(FieldTable, EnumerationAndCountHelpers) {
-  int32_t v = 9;
-  EXPECT_FALSE(kova::EnumValue(kNumbers, Json::Value(1), &v));
-  EXPECT_EQ(9, v);
-  EXPECT_TRUE(kova::EnumValue(kNumbers, Json::Value("UNO"), &v));
-  EXPECT_EQ(1, v);
-  EXPECT_STREQ("Two", kova::EnumName(kExactNumbers, 7));
-  EXPECT_EQ(nullptr, kova::EnumName(kExactNumbers, 4));
-  EXPECT_EQ(nullptr, kova::EnumName(kova::EnumNames{}, 0));
-  EXPECT_EQ(0u, kova::CutCount(-5, 8));
-  EXPECT_EQ(8u, kova::CutCount(int64_t{1} << 40, 8));
-  EXPECT_EQ(3u, kova::CutCount(3, 8));
-  unsigned char bytes[8];
-  for (uint32_t width : {1u, 2u, 4u, 8u}) {
-    kova::StoreInt(bytes, width, -2);
-    EXPECT_EQ(-2, kova::LoadInt(bytes, width, true)) << width;
-  }
-  EXPECT_EQ(0xFEu, kova::LoadInt(bytes, 1, false));
-  EXPECT_EQ(0, kova::LoadInt(bytes, 3, true));  // no such width
-}
-
 }  // namespace
