@@ -103,6 +103,7 @@ TEST(EventHandler, AwkwardMembers) {
   EXPECT_EQ(1, r->destinations[0]);
   EXPECT_EQ(3, r->destinations[2]);
   EXPECT_EQ(0, r->snapshotTitles[0].point[0]);  // wrong length: skipped
+  EXPECT_EQ(8, r->snapshotTitles[0].size[1]);
   EXPECT_EQ(1, r->present[KOVA_EH_TOUR_SPLIT]);
   EXPECT_EQ(1, r->flashEnable);
   r->accessControlOperations[2] = 9;  // no name: nothing at its index
