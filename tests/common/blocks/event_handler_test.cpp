@@ -97,7 +97,7 @@ TEST(EventHandler, AwkwardMembers) {
       "AccessControls": [{"Operation": "open"}, {"Operation": "Auto"}, null, {"Operation": 4}],
       "PSTNAlarmServer": {"Destination": [257, -5, 3.9]},
       "SnapshotTitle": [{"Text": "T", "Point": [1, 2, 3], "Size": [7, 8]}],
-      "TourSplit": "Split4", "MatrixEnable": 2, "FlashEnable": 3})"));
+      "TourSplit": "Split4", "MatrixEnable": 2, "FlashEnable": 3, "Talkback": {}})"));
   EXPECT_EQ(0, r->ptzLinks[1].type);            // three items: the entry stays zero
   EXPECT_EQ(0, r->accessControlOperations[0]);  // compared exactly
   EXPECT_EQ(1, r->destinations[0]);
@@ -118,6 +118,9 @@ TEST(EventHandler, AwkwardMembers) {
       kova::WriteJson(Member(out, "AccessControls")));
   EXPECT_FALSE(kova::ToBool(Member(out, "MatrixEnable")));  // 2 is not 1
   EXPECT_EQ(Json::Value(false), Member(out, "TourEnable"));
+  EXPECT_EQ(
+      "{ \"CallEnable\" : false, \"CallProtocol\" : \"Cellular\", \"Caller\" : \"Device\" }\n",
+      kova::WriteJson(Member(out, "Talkback")));
   // A title list given empty packs as an empty list, not as null.
   auto empty = Parse(Doc(R"({"SnapshotTitle": []})"));
   Json::Value none;

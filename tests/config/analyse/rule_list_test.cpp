@@ -220,18 +220,19 @@ TEST(RuleList, EveryTypeComesBackUnchanged) {
 
 // The rule object's "TrackEnable" and the one in "Config" are two members;
 // the face areas keep the device's trailing blank; the size filter of a
-// rising prisoner is kept without its box lists.
+// rising prisoner is kept without its box lists; a scene class goes back
+// by name.
 TEST(RuleList, IrregularMembersOfSingleTypes) {
   Rules r(kRoom);
-  ASSERT_EQ(
-      1,
-      r.Parse(Doc(
-          "[" +
-          Rule("TrafficParking", R"({"TrackEnable":false,"Delay":30})", R"("TrackEnable":true,)") +
-          "," + Rule("FaceRecognition", R"({"Areas":["Cheek","eyebrow ","Eyebrow"]})") + "," +
-          Rule("PrisonerRiseDetection", R"({"SizeFilter":{"Type":"ByArea","MinArea":2.5,)"
-                                        R"("CalibrateBoxs":[{"CenterPoint":[1,2],"Ratio":3}]}})") +
-          "]")));
+  ASSERT_EQ(1, r.Parse(Doc("[" +
+                           Rule("TrafficParking", R"({"TrackEnable":false,"Delay":30})",
+                                R"("TrackEnable":true,)") +
+                           R"(,{"Class":"CourseRecord","Type":"FaceRecognition",)"
+                           R"("Config":{"Areas":["Cheek","eyebrow ","Eyebrow"]}},)" +
+                           Rule("PrisonerRiseDetection",
+                                R"({"SizeFilter":{"Type":"ByArea","MinArea":2.5,)"
+                                R"("CalibrateBoxs":[{"CenterPoint":[1,2],"Ratio":3}]}})") +
+                           "]")));
   auto parking = r.Body<TrafficParkingRule>(0, 264);
   EXPECT_EQ(1, parking->head.trackEnable);
   EXPECT_EQ(0, parking->configTrackEnable);
@@ -247,6 +248,7 @@ TEST(RuleList, IrregularMembersOfSingleTypes) {
             packed.find(R"("ReportTimes" : 0, "Sensitivity" : 0, "TrackEnable" : false })"));
   EXPECT_NE(std::string::npos, packed.find(R"("TrackEnable" : true, "Type" : "TrafficParking")"));
   EXPECT_NE(std::string::npos, packed.find(R"("Areas" : [ "Cheek", "Eyebrow ", "Eyebrow " ])"));
+  EXPECT_NE(std::string::npos, packed.find(R"("Class" : "CourseRecord")"));
   EXPECT_NE(std::string::npos,
             packed.find(R"("SizeFilter" : { "MinArea" : 2.500000000000000, "Type" : "ByArea" })"));
 }

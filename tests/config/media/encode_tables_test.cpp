@@ -12,6 +12,7 @@ int32_t Read(const EnumNames& e, const Json::Value& text) {
 }
 
 TEST(EncodeTables, ExactNamesAliasesAndUnknownValues) {
+  EXPECT_EQ(9, Read(kVideoCompressionNames, "SVAC"));
   EXPECT_EQ(2, Read(kAudioCompressionNames, "G.711Mu"));
   EXPECT_EQ(0, Read(kAudioCompressionNames, "g.711mu"));  // exact
   EXPECT_EQ(1, Read(kBitRateControlNames, "vBr"));        // any case

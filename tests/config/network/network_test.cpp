@@ -1,8 +1,10 @@
-// "Network": the interfaces are the table's members that hold objects.
+// "Network": the interfaces are the table's members that hold objects;
+// "RTSP": a record that carries its own size.
 #include "kova/records/network.h"
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <string>
 
 #include "test_util.h"
@@ -41,6 +43,19 @@ TEST(Network, InterfacesAreTheMembersHoldingObjects) {
       names += std::string(i ? "," : "") + r->interfaces[i].name;
     }
     EXPECT_EQ(c.names, names) << c.what;
+  }
+}
+
+// The caller's buffer is not cleared, but the record is, with its size
+// written, before the answer (a null one too) is read into it.
+TEST(Rtsp, TheRecordIsClearedAndSizedBeforeItIsRead) {
+  for (const char* table : {R"({"Port":554})", "null"}) {
+    RtspConfig r;
+    std::memset(&r, 0xAB, sizeof r);
+    ASSERT_EQ(1, KOVA_ParseData("RTSP", Doc(table).c_str(), &r, sizeof r, nullptr)) << table;
+    EXPECT_EQ(sizeof r, r.size) << table;
+    EXPECT_EQ(table[0] == '{' ? 554 : 0, r.port) << table;
+    EXPECT_EQ(0, r.httpTunnelPort) << table;
   }
 }
 
