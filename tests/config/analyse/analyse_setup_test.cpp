@@ -74,7 +74,6 @@ TEST(VideoAnalyseGlobal, NumberedSlotsEnvelopeAndRawText) {
   const std::string table =
       R"({"CalibrateArea31":{"Staffs":[{"Length":2}]},"CalibrateArea32":{"Staffs":[]},)"
       R"("Scene8":{"Type":"Last","Depth":"near"},"Scene9":{"Type":"Beyond"},"Scene0":{},)"
-      R"("TimePeriod":{"Day":["6:0:0","x"],"SwitchMode":"Never"},)"
       R"("Scene":{"CustomData":"\u00e9\u0001z","Depth":"Deep"}})";
   int rc = 0;
   auto g = ParseAs<VideoAnalyseGlobalConfig>("VideoAnalyseGlobal", Doc(table), &rc);
@@ -86,9 +85,6 @@ TEST(VideoAnalyseGlobal, NumberedSlotsEnvelopeAndRawText) {
   for (uint8_t p : g->scenesPresent) present += p;
   EXPECT_EQ(2, present);
   EXPECT_STREQ("Last", g->scenes[7].type);
-  EXPECT_EQ(6, g->timePeriod.day.start.hour);
-  EXPECT_EQ(0, g->timePeriod.day.end.hour);  // a time that does not read stays zero
-  EXPECT_EQ(0, g->timePeriod.switchMode);
   EXPECT_EQ(KOVA_DEPTH_NORMAL, g->scene.depth);
   EXPECT_EQ(1, g->scene.customDataPresent);
   EXPECT_STREQ("\xc3\xa9\x01z", g->scene.customData);  // the bytes, unconverted
