@@ -63,11 +63,4 @@ TEST(Exports, CallbackEntriesCheckBufferAndCallbackOnly) {
   EXPECT_EQ(0, calls);
 }
 
-TEST(Exports, NestingBeyondTheReaderLimitFailsInsteadOfThrowing) {
-  std::string deep = R"({"result":true,"params":{"table":)";
-  deep += std::string(5000, '[') + std::string(5000, ']') + "}}";
-  int32_t mode = 9;
-  EXPECT_EQ(0, KOVA_ParseData("AlarmLamp", deep.c_str(), &mode, sizeof mode, nullptr));
-}
-
 }  // namespace

@@ -67,14 +67,5 @@ TEST(ParseByCallback, AtMost128RecordsAnd32RulesPerMember) {
   EXPECT_EQ(32u, Codes("{\"VideoAnalyseRule\":[" + rules + "]}", true).size());
 }
 
-TEST(ParseByCallback, NotificationsGiveTheSameEventsAsTheEventStream) {
-  for (const char* file : {"notify-crossing.json", "notify-traffic.json", "notify-abnormal.json",
-                           "notify-alarms.json", "event-list.json"}) {
-    const std::string doc = ReadSample(file);
-    EXPECT_EQ(Codes(doc, false), Codes(doc, true)) << file;
-    EXPECT_FALSE(Codes(doc, true).empty()) << file;
-  }
-}
-
 }  // namespace
 }  // namespace kova_test

@@ -172,12 +172,20 @@ TEST(EventStream, ActionIndexAndDictionaryCodeLeadEveryRecord) {
     EXPECT_EQ(a.value, action) << a.action;
   }
   std::vector<uint32_t> dictionary;
-  ReadEvents(Notification(Event("AudioAbnormalDetection") + "," + Event("StorageLowSpace") + "," +
-                          Event("storagelowspace") + "," + Event("HotPlug")),
+  ReadEvents(
+      Notification(Event("AudioAbnormalDetection") + "," + Event("StorageLowSpace") + "," +
+                   Event("storagelowspace") + "," + Event("HotPlug") + "," + Event("DoorStatus")),
+      [&](uint32_t, const void* info, uint32_t) {
+        dictionary.push_back(static_cast<const EventCommon*>(info)->dictionaryCode);
+      });
+  EXPECT_EQ((std::vector<uint32_t>{0x2178, 0x2145, 0, 0x2191, 0x3185}), dictionary);
+  // The region action of a crossing is the data's own "Action", from 1.
+  int32_t regionAction = 0;
+  ReadEvents(Notification(Event("CrossRegionDetection", R"("Data":{"Action":"Inside"})")),
              [&](uint32_t, const void* info, uint32_t) {
-               dictionary.push_back(static_cast<const EventCommon*>(info)->dictionaryCode);
+               regionAction = static_cast<const CrossingEventInfo*>(info)->regionAction;
              });
-  EXPECT_EQ((std::vector<uint32_t>{0x2178, 0x2145, 0, 0x2191}), dictionary);
+  EXPECT_EQ(3, regionAction);
 }
 
 TEST(EventStream, CallsBackOnTheCallersThreadAndEachCallHasItsOwnLock) {

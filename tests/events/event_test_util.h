@@ -4,9 +4,7 @@
 #define KOVA_TESTS_EVENTS_EVENT_TEST_UTIL_H_
 
 #include <cstdint>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -61,12 +59,6 @@ inline std::vector<uint32_t> Codes(const std::string& doc, bool byCallback = fal
 inline std::string Notification(const std::string& events) {
   return R"({"method":"client.notifyEventStream","params":{"SID":513,"eventList":[)" + events +
          "]}}";
-}
-
-// The text of samples/events/`file`.
-inline std::string ReadSample(const std::string& file) {
-  std::ifstream in(std::string(KOVA_SAMPLES_DIR) + "/events/" + file, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
 }  // namespace kova_test

@@ -233,29 +233,5 @@ INSTANTIATE_TEST_SUITE_P(EveryName, CallerSizedPackBadInput,
                            return TestLabel(kova::kPackNames[info.param].name);
                          });
 
-// The suite is only as good as its malformed texts: each must really be
-// refused by the reader, or the "does not parse" rule is never exercised.
-TEST(HarnessDocuments, MalformedTextsDoNotParse) {
-  for (const std::string& text : MalformedTexts(Envelope("{\"Enable\":true}"))) {
-    EXPECT_FALSE(Parses(text)) << text.substr(0, 80);
-  }
-}
-
-TEST(HarnessDocuments, HostileValuesReachEveryMemberButTheResult) {
-  const std::string doc = Envelope("{\"A\":1,\"B\":{\"C\":\"x\"},\"D\":[1,2]}");
-  EXPECT_EQ("{\"params\":{\"table\":{\"A\":-1,\"B\":{\"C\":-1},\"D\":[-1,-1]}},\"result\":true}",
-            ReplaceScalars(doc, "-1"));
-  EXPECT_EQ("{\"params\":{\"table\":{\"A\":1,\"B\":0,\"D\":0}},\"result\":true}",
-            ReplaceContainers(doc, "0"));
-}
-
-TEST(HarnessDocuments, SampleFilesNameTheirConfiguration) {
-  EXPECT_EQ("AlarmLamp", NameOfSampleFile("samples/AlarmLamp.json"));
-  EXPECT_EQ("Encode", NameOfSampleFile("fixtures/encode.dual-channel.json"));
-  EXPECT_EQ("devVideoInput.getCaps", NameOfSampleFile("x/devVideoInput.getCaps.json"));
-  EXPECT_EQ("MotionDetect", NameOfSampleFile("fixtures/MotionDetect/three_windows.json"));
-  EXPECT_EQ("", NameOfSampleFile("fixtures/unrelated.json"));
-}
-
 }  // namespace
 }  // namespace kova_harness

@@ -32,6 +32,7 @@ struct Task {
   std::shared_ptr<GuardedBuffer> record;    // records (pack), pointer fields aimed already
   std::shared_ptr<PointedBuffers> pointed;  // what those pointer fields point at
   uint32_t outLen;
+  std::string what;  // the call, for the failure message
 };
 
 uint64_t Outcome(const Task& t) {
@@ -69,20 +70,6 @@ uint64_t Outcome(const Task& t) {
   return 0;
 }
 
-std::string Describe(const Task& t) {
-  switch (t.kind) {
-    case Task::kParse:
-      return std::string("parse ") + kova::kParseNames[t.index].name;
-    case Task::kPack:
-      return std::string("pack ") + kova::kPackNames[t.index].name;
-    case Task::kEvents:
-      return "analyzer events, document " + std::to_string(t.index);
-    case Task::kByCallback:
-      return "parse by callback, document " + std::to_string(t.index);
-  }
-  return std::string();
-}
-
 std::vector<Task> AllTasks() {
   const std::vector<SampleDocument> samples =
       LoadSampleDocuments({KOVA_SAMPLES_DIR, KOVA_FIXTURES_DIR});
@@ -98,7 +85,8 @@ std::vector<Task> AllTasks() {
         docs.begin(), docs.end(),
         [](const std::string& a, const std::string& b) { return a.size() < b.size(); });
     for (const std::string& d : {shortest[i], ReplaceScalars(shortest[i], "2147483648")}) {
-      tasks.push_back({Task::kParse, i, d, nullptr, nullptr, size});
+      tasks.push_back({Task::kParse, i, d, nullptr, nullptr, size,
+                       std::string("parse ") + kova::kParseNames[i].name});
     }
   }
   for (int k = 0; k < static_cast<int>(kova::kPackNameCount); ++k) {
@@ -116,14 +104,16 @@ std::vector<Task> AllTasks() {
       }
       auto pointed = std::make_shared<PointedBuffers>();
       pointed->Attach(kova::kPackNames[k].name, record->data(), size, PackSize(k), -1, "kova");
-      tasks.push_back({Task::kPack, k, std::string(), record, pointed, textSize});
+      tasks.push_back({Task::kPack, k, std::string(), record, pointed, textSize,
+                       std::string("pack ") + kova::kPackNames[k].name});
     }
   }
   const std::vector<std::string> events = EventDocuments(samples);
   for (size_t d = 0; d < events.size(); ++d) {
     const int n = static_cast<int>(d);
-    tasks.push_back({Task::kEvents, n, events[d], nullptr, nullptr, 0});
-    tasks.push_back({Task::kByCallback, n, events[d], nullptr, nullptr, 0});
+    const std::string doc = ", document " + std::to_string(d);
+    tasks.push_back({Task::kEvents, n, events[d], nullptr, nullptr, 0, "analyzer events" + doc});
+    tasks.push_back({Task::kByCallback, n, events[d], nullptr, nullptr, 0, "by callback" + doc});
   }
   return tasks;
 }
@@ -150,7 +140,7 @@ TEST(Concurrency, EveryNameGivesTheSameResultsFromManyThreadsAtOnce) {
           if (Outcome(tasks[t]) == alone[t]) continue;
           ++mismatches;
           std::lock_guard<std::mutex> hold(firstLock);
-          if (first.empty()) first = Describe(tasks[t]);
+          if (first.empty()) first = tasks[t].what;
         }
       }
     });

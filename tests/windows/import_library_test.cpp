@@ -38,20 +38,6 @@ static_assert(
     "KOVA_ParseDataByCallback is __stdcall");
 #endif
 
-void* Exported(const char* name) {
-  return reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kova.dll"), name));
-}
-
-TEST(KovaLib, BindsTheCallsToThePlainNamesKovaDllExports) {
-  ASSERT_NE(nullptr, GetModuleHandleA("kova.dll"));
-  EXPECT_EQ(reinterpret_cast<void*>(&KOVA_ParseData), Exported("KOVA_ParseData"));
-  EXPECT_EQ(reinterpret_cast<void*>(&KOVA_PacketData), Exported("KOVA_PacketData"));
-  EXPECT_EQ(reinterpret_cast<void*>(&KOVA_ParseAnalyzerEventData),
-            Exported("KOVA_ParseAnalyzerEventData"));
-  EXPECT_EQ(reinterpret_cast<void*>(&KOVA_ParseDataByCallback),
-            Exported("KOVA_ParseDataByCallback"));
-}
-
 TEST(KovaLib, ParsesAndPacksThroughTheImportLibrary) {
   int32_t mode = 0;
   uint32_t filled = 0;

@@ -1,5 +1,5 @@
 // kova.dll as a Windows client SDK uses it: loaded at run time with
-// LoadLibrary, its four entry points found with GetProcAddress by their plain
+// LoadLibrary, its entry points found with GetProcAddress by their plain
 // names, and called through the calling convention the header declares.
 // Only the public headers are used. Text fields arrive in the process's ANSI
 // code page, or in the one KOVA_CODEPAGE names, as a number or a name.
@@ -19,8 +19,6 @@ struct Kova {
   HMODULE module = nullptr;
   decltype(&KOVA_ParseData) parse = nullptr;
   decltype(&KOVA_PacketData) pack = nullptr;
-  decltype(&KOVA_ParseAnalyzerEventData) events = nullptr;
-  decltype(&KOVA_ParseDataByCallback) byCallback = nullptr;
 };
 
 template <typename F>
@@ -35,17 +33,10 @@ const Kova& Library() {
     if (k.module != nullptr) {
       Find(k.module, "KOVA_ParseData", &k.parse);
       Find(k.module, "KOVA_PacketData", &k.pack);
-      Find(k.module, "KOVA_ParseAnalyzerEventData", &k.events);
-      Find(k.module, "KOVA_ParseDataByCallback", &k.byCallback);
     }
     return k;
   }();
   return kova;
-}
-
-int KOVA_CALL CountEvents(uint32_t, const void*, uint32_t, const void*, uint32_t, void* user) {
-  ++*static_cast<int*>(user);
-  return 0;
 }
 
 // Sets KOVA_CODEPAGE in the process environment for one test.
@@ -71,21 +62,11 @@ std::string ParsedName(const std::string& utf8Name) {
 const std::string kZhongWen = "\xE4\xB8\xAD\xE6\x96\x87";  // two Chinese characters, UTF-8
 const std::string kCafe = "caf\xC3\xA9";                   // "cafe" with an acute e, UTF-8
 
-TEST(KovaDll, FindsTheFourEntryPointsByTheirPlainNames) {
-  const Kova& kova = Library();
-  ASSERT_NE(nullptr, kova.module) << "LoadLibrary(kova.dll) failed: " << GetLastError();
-  EXPECT_NE(nullptr, kova.parse);
-  EXPECT_NE(nullptr, kova.pack);
-  EXPECT_NE(nullptr, kova.events);
-  EXPECT_NE(nullptr, kova.byCallback);
-  // No decorated form: the names are the whole export.
-  EXPECT_EQ(nullptr, GetProcAddress(kova.module, "KOVA_ParseData@20"));
-  EXPECT_EQ(nullptr, GetProcAddress(kova.module, "_KOVA_ParseData@20"));
-}
-
 TEST(KovaDll, ParsesAndPacksThroughThePointers) {
   const Kova& kova = Library();
+  ASSERT_NE(nullptr, kova.module) << "LoadLibrary(kova.dll) failed: " << GetLastError();
   ASSERT_NE(nullptr, kova.parse);
+  ASSERT_NE(nullptr, kova.pack);
   int32_t mode = 0;
   uint32_t filled = 0;
   EXPECT_EQ(1, kova.parse("alarmlamp", R"({"id":7,"result":true,"params":{"table":{"Mode":2}}})",
@@ -97,22 +78,6 @@ TEST(KovaDll, ParsesAndPacksThroughThePointers) {
   std::memset(text, 'x', sizeof text);
   EXPECT_EQ(1, kova.pack("AlarmLamp", &mode, sizeof mode, text, sizeof text));
   EXPECT_STREQ("{ \"Mode\" : 2 }\n", text);
-
-  // The argument checks hold across the DLL boundary.
-  EXPECT_EQ(0, kova.parse(nullptr, "{}", &mode, sizeof mode, &filled));
-  EXPECT_EQ(0, kova.pack("AlarmLamp", &mode, sizeof mode, text, 0));
-  EXPECT_EQ(0, kova.parse("AlarmLamp", "{ not json", &mode, sizeof mode, &filled));
-}
-
-TEST(KovaDll, CallbackEntriesTakeAClientCallback) {
-  const Kova& kova = Library();
-  ASSERT_NE(nullptr, kova.events);
-  int calls = 0;
-  EXPECT_EQ(0, kova.events("{}", 2, nullptr, &calls));
-  EXPECT_EQ(1, kova.events("{}", 2, CountEvents, &calls));
-  EXPECT_EQ(0, kova.byCallback(nullptr, 0, CountEvents, &calls));
-  EXPECT_NE(0, kova.byCallback("{}", 2, CountEvents, &calls));
-  EXPECT_EQ(0, calls);
 }
 
 TEST(KovaDll, TextArrivesInTheProcessAnsiCodePage) {

@@ -3,10 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <regex>
 #include <set>
@@ -14,55 +11,31 @@
 #include <thread>
 #include <vector>
 
-#include "api/dispatch.h"
-#include "common/fields/fields.h"
-#include "common/fields/text_forms.h"
-#include "kova/kova.h"
+#include "test_util.h"
 
 namespace kova {
 namespace {
 
-std::string ReadAll(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
-
-// Each test runs in a fresh temporary directory (the default log path is
-// relative) and leaves no logger open behind it.
+// Each test writes in a directory of its own and leaves no logger open.
 class LogTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    namespace fs = std::filesystem;
-    std::random_device random;
-    fs::path dir;
-    do {
-      dir = fs::temp_directory_path() / ("kova_log_" + std::to_string(random()));
-    } while (!fs::create_directory(dir));
-    dir_ = dir.string();
-    oldCwd_ = fs::current_path();
-    fs::current_path(dir);
-  }
   void TearDown() override {
     CloseLogger();
-    std::error_code error;
-    std::filesystem::current_path(oldCwd_, error);
-    EXPECT_FALSE(error) << error.message();
-    std::filesystem::remove_all(dir_, error);
-    EXPECT_FALSE(error) << error.message();
+    std::filesystem::remove_all(dir_);
   }
-  bool Exists(const std::string& rel) const { return std::filesystem::exists(dir_ + "/" + rel); }
   std::string OpenAt(const std::string& name, uint32_t sizeLimit = 0, uint32_t kept = 0) {
+    std::filesystem::create_directories(dir_);
     LogSettings s = {};
-    const std::string path = dir_ + "/" + name;
-    std::snprintf(s.path, sizeof s.path, "%s", path.c_str());
+    std::snprintf(s.path, sizeof s.path, "%s/%s", dir_.c_str(), name.c_str());
     s.sizeLimit = sizeLimit;
     s.secondLimit = kept;
     EXPECT_TRUE(OpenLogger(&s));
-    return path;
+    return s.path;
   }
 
-  std::string dir_;
-  std::filesystem::path oldCwd_;
+  const std::string dir_ = (std::filesystem::temp_directory_path() /
+                            ("kova_log_" + std::to_string(std::random_device()())))
+                               .string();
 };
 
 const std::regex kLine(
@@ -90,7 +63,7 @@ TEST_F(LogTest, ThreadsWriteWholeLinesWithTheirOwnPositions) {
   for (std::thread& th : threads) th.join();
   CloseLogger();
 
-  const std::string text = ReadAll(path);
+  const std::string text = kova_test::ReadFile(path);
   std::set<std::pair<int, int>> seen;
   size_t start = 0;
   int lines = 0;
@@ -112,14 +85,14 @@ TEST_F(LogTest, ReopeningReplacesTheLoggerAndFullFilesMoveAside) {
   const std::string path = OpenAt("small.log", 1, 2);  // closes first.log
   for (int i = 0; i < 60; ++i) KOVA_REPORT(kErrMalformedData, "t0 n%d at %d", i, __LINE__);
   CloseLogger();
-  EXPECT_EQ("", ReadAll(first));
+  EXPECT_EQ("", kova_test::ReadFile(first));
   for (const std::string& f : {path, path + ".1", path + ".2"}) {
-    const std::string text = ReadAll(f);
+    const std::string text = kova_test::ReadFile(f);
     EXPECT_FALSE(text.empty()) << f;
     EXPECT_LE(text.size(), 1024u) << f;
   }
-  EXPECT_FALSE(Exists("small.log.3"));
-  EXPECT_NE(std::string::npos, ReadAll(path).find(" n59 at "));
+  EXPECT_FALSE(std::filesystem::exists(path + ".3"));
+  EXPECT_NE(std::string::npos, kova_test::ReadFile(path).find(" n59 at "));
 }
 
 }  // namespace

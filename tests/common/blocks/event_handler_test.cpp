@@ -97,15 +97,18 @@ TEST(EventHandler, AwkwardMembers) {
       "AccessControls": [{"Operation": "open"}, {"Operation": "Auto"}, null, {"Operation": 4}],
       "PSTNAlarmServer": {"Destination": [257, -5, 3.9]},
       "SnapshotTitle": [{"Text": "T", "Point": [1, 2, 3], "Size": [7, 8]}],
-      "TourSplit": "Split4", "MatrixEnable": 2, "FlashEnable": 3})"));
+      "TourSplit": "Split4", "MatrixEnable": 2, "FlashEnable": 3, "Talkback": {}})"));
   EXPECT_EQ(0, r->ptzLinks[1].type);            // three items: the entry stays zero
   EXPECT_EQ(0, r->accessControlOperations[0]);  // compared exactly
   EXPECT_EQ(1, r->destinations[0]);
   EXPECT_EQ(3, r->destinations[2]);
   EXPECT_EQ(0, r->snapshotTitles[0].point[0]);  // wrong length: skipped
+  EXPECT_EQ(8, r->snapshotTitles[0].size[1]);
   EXPECT_EQ(1, r->present[KOVA_EH_TOUR_SPLIT]);
   EXPECT_EQ(1, r->flashEnable);
   r->accessControlOperations[2] = 9;  // no name: nothing at its index
+  r->tourEnable = 2;
+  r->present[KOVA_EH_TOUR_ENABLE] = 1;
   Json::Value out;
   kova::PackEventHandler(*r, out);
   EXPECT_EQ("[ \"None\", 0, 0, 0, 0 ]\n", kova::WriteJson(Element(Member(out, "PtzLink"), 1)));
@@ -114,6 +117,10 @@ TEST(EventHandler, AwkwardMembers) {
       "]\n",
       kova::WriteJson(Member(out, "AccessControls")));
   EXPECT_FALSE(kova::ToBool(Member(out, "MatrixEnable")));  // 2 is not 1
+  EXPECT_EQ(Json::Value(false), Member(out, "TourEnable"));
+  EXPECT_EQ(
+      "{ \"CallEnable\" : false, \"CallProtocol\" : \"Cellular\", \"Caller\" : \"Device\" }\n",
+      kova::WriteJson(Member(out, "Talkback")));
   // A title list given empty packs as an empty list, not as null.
   auto empty = Parse(Doc(R"({"SnapshotTitle": []})"));
   Json::Value none;

@@ -2,53 +2,32 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <cstring>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "common/json/json.h"
+#include "test_util.h"
 
 namespace kova {
 namespace {
 
-// Sets KOVA_CODEPAGE for one test and puts the previous value back after it.
-class CodePageTest : public ::testing::Test {
- protected:
-  void SetUp() override {
-    const char* old = std::getenv("KOVA_CODEPAGE");
-    hadOld_ = old != nullptr;
-    if (hadOld_) old_ = old;
-  }
-  void TearDown() override {
-    if (hadOld_) {
-      setenv("KOVA_CODEPAGE", old_.c_str(), 1);
-    } else {
-      unsetenv("KOVA_CODEPAGE");
-    }
-  }
-  static void Use(const char* codePage) { setenv("KOVA_CODEPAGE", codePage, 1); }
+// Utf8ToAnsi into a buffer of `cap` bytes followed by sentinels.
+std::string ToLocal(const std::string& utf8, int32_t cap) {
+  std::vector<char> buf(static_cast<size_t>(cap) + 4, '#');
+  const int32_t n = Utf8ToAnsi(utf8.c_str(), static_cast<int32_t>(utf8.size()), buf.data(), cap);
+  EXPECT_EQ(std::string(4, '#'), std::string(buf.data() + cap, 4)) << "written past capacity";
+  return std::string(buf.data(), static_cast<size_t>(n));
+}
+std::string ToUtf8(const std::string& local, int32_t cap) {
+  std::vector<char> buf(static_cast<size_t>(cap) + 4, '#');
+  const int32_t n = AnsiToUtf8(local.data(), static_cast<int32_t>(local.size()), buf.data(), cap);
+  EXPECT_EQ(std::string(4, '#'), std::string(buf.data() + cap, 4)) << "written past capacity";
+  EXPECT_EQ('\0', buf[static_cast<size_t>(n)]);
+  return std::string(buf.data(), static_cast<size_t>(n));
+}
 
-  // Utf8ToAnsi into a buffer of `cap` bytes followed by sentinels.
-  static std::string ToLocal(const std::string& utf8, int32_t cap) {
-    std::vector<char> buf(static_cast<size_t>(cap) + 4, '#');
-    const int32_t n = Utf8ToAnsi(utf8.c_str(), static_cast<int32_t>(utf8.size()), buf.data(), cap);
-    EXPECT_EQ(std::string(4, '#'), std::string(buf.data() + cap, 4)) << "written past capacity";
-    return std::string(buf.data(), static_cast<size_t>(n));
-  }
-  static std::string ToUtf8(const std::string& local, int32_t cap) {
-    std::vector<char> buf(static_cast<size_t>(cap) + 4, '#');
-    const int32_t n = AnsiToUtf8(local.data(), static_cast<int32_t>(local.size()), buf.data(), cap);
-    EXPECT_EQ(std::string(4, '#'), std::string(buf.data() + cap, 4)) << "written past capacity";
-    EXPECT_EQ('\0', buf[static_cast<size_t>(n)]);
-    return std::string(buf.data(), static_cast<size_t>(n));
-  }
-
- private:
-  bool hadOld_ = false;
-  std::string old_;
-};
+using kova_test::CodePage;
 
 const std::string kZhongWen = "\xE4\xB8\xAD\xE6\x96\x87";  // two Chinese characters, UTF-8
 
@@ -60,8 +39,8 @@ TEST(GetJsonString, LongTextCutToCapacityMinusOne) {
   EXPECT_EQ('\0', dst[31]);
 }
 
-TEST_F(CodePageTest, ChineseArrivesInGbkWhenConvertedAndUnchangedOtherwise) {
-  Use("GBK");
+TEST(CodePages, ChineseArrivesInGbkWhenConvertedAndUnchangedOtherwise) {
+  CodePage use("GBK");
   char dst[16];
   ASSERT_TRUE(GetJsonString(Json::Value(kZhongWen), dst, sizeof dst, 1));
   EXPECT_EQ("\xD6\xD0\xCE\xC4", std::string(dst));
@@ -72,7 +51,7 @@ TEST_F(CodePageTest, ChineseArrivesInGbkWhenConvertedAndUnchangedOtherwise) {
   EXPECT_EQ(kZhongWen.substr(0, 4), std::string(dst));
 }
 
-TEST_F(CodePageTest, RoundTripsAndThreadCacheFollowsTheCodePage) {
+TEST(CodePages, RoundTripsAndThreadCacheFollowsTheCodePage) {
   struct Case {
     const char* codePage;
     std::string utf8;
@@ -90,7 +69,7 @@ TEST_F(CodePageTest, RoundTripsAndThreadCacheFollowsTheCodePage) {
   };
   // One thread, code page changed between conversions: each must be seen.
   for (const Case& c : cases) {
-    Use(c.codePage);
+    CodePage use(c.codePage);
     EXPECT_EQ(c.local, ToLocal(c.utf8, 32)) << c.codePage;
     EXPECT_EQ(c.utf8, ToUtf8(c.local, 32)) << c.codePage;
     char dst[32];
@@ -102,15 +81,15 @@ TEST_F(CodePageTest, RoundTripsAndThreadCacheFollowsTheCodePage) {
   }
 }
 
-TEST_F(CodePageTest, UnmappableCharactersBecomeQuestionMarks) {
-  Use("ISO-8859-1");
+TEST(CodePages, UnmappableCharactersBecomeQuestionMarks) {
+  CodePage latin1("ISO-8859-1");
   EXPECT_EQ("a?b", ToLocal("a" + kZhongWen.substr(0, 3) + "b", 32));
-  Use("GBK");
+  CodePage gbk("GBK");
   EXPECT_EQ("x?y", ToLocal("x\xF0\x9F\x98\x80y", 32));  // an emoji has no GBK form
 }
 
-TEST_F(CodePageTest, InvalidUtf8BecomesOneReplacementAndConversionGoesOn) {
-  Use("UTF-8");
+TEST(CodePages, InvalidUtf8BecomesOneReplacementAndConversionGoesOn) {
+  CodePage utf8("UTF-8");
   const std::string fffd = "\xEF\xBF\xBD";
   EXPECT_EQ("a" + fffd + "b", ToLocal("a\xFF"
                                       "b",
@@ -121,7 +100,7 @@ TEST_F(CodePageTest, InvalidUtf8BecomesOneReplacementAndConversionGoesOn) {
   EXPECT_EQ(fffd + fffd + "z", ToLocal("\xC0\xAF"
                                        "z",
                                        32));  // overlong '/': two bad bytes
-  Use("GBK");
+  CodePage gbk("GBK");
   EXPECT_EQ("a?\xD6\xD0", ToLocal("a\xE4\xB8" + kZhongWen.substr(0, 3), 32));
   // A byte sequence that is not GBK becomes one U+FFFD on the way back.
   EXPECT_EQ("a" + fffd + "b", ToUtf8("a\xFF"
@@ -129,8 +108,8 @@ TEST_F(CodePageTest, InvalidUtf8BecomesOneReplacementAndConversionGoesOn) {
                                      32));
 }
 
-TEST_F(CodePageTest, CutAtCapacityWithoutSplittingACharacter) {
-  Use("GBK");
+TEST(CodePages, CutAtCapacityWithoutSplittingACharacter) {
+  CodePage gbk("GBK");
   EXPECT_EQ("\xD6\xD0", ToLocal(kZhongWen, 3));
   EXPECT_EQ("\xD6\xD0\xCE\xC4", ToLocal(kZhongWen, 4));
   // AnsiToUtf8 keeps one byte of its capacity for the terminator.
@@ -139,12 +118,12 @@ TEST_F(CodePageTest, CutAtCapacityWithoutSplittingACharacter) {
   char field[6];
   ASSERT_TRUE(GetJsonString(Json::Value(kZhongWen + kZhongWen), field, sizeof field, 1));
   EXPECT_EQ(std::string("\xD6\xD0\xCE\xC4\0\0", 6), std::string(field, 6));
-  Use("UTF-8");
+  CodePage utf8("UTF-8");
   EXPECT_EQ(kZhongWen.substr(0, 3), ToLocal(kZhongWen, 5));
 }
 
-TEST_F(CodePageTest, SetJsonStringCutsAtOneAndAHalfTimesTheLocalLength) {
-  Use("ISO-8859-1");
+TEST(CodePages, SetJsonStringCutsAtOneAndAHalfTimesTheLocalLength) {
+  CodePage use("ISO-8859-1");
   Json::Value v;
   // Four Latin-1 bytes grow to eight UTF-8 bytes; the scratch holds 7 - 1.
   ASSERT_TRUE(SetJsonString(v, "\xE9\xE9\xE9\xE9", 1));

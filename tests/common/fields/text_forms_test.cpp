@@ -3,23 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <string>
-
-#include "common/base/log.h"
 
 namespace kova {
 namespace {
-
-TEST(IpText, DottedFormLowestByteFirst) {
-  char text[16];
-  EXPECT_STREQ("192.168.0.1", IpToText(0x0100A8C0u, text));
-  EXPECT_EQ(0x0100A8C0u, TextToIp("192.168.0.1"));
-  // A fifth part ORs into the lowest byte again.
-  EXPECT_EQ(0x04030205u, TextToIp("1.2.3.4.5"));
-  EXPECT_EQ(0x00000001u | (0x2Cu << 8), TextToIp("1.300"));  // each part masked to 8 bits
-  EXPECT_EQ(0u, TextToIp(""));
-  EXPECT_EQ(0x00000200u, TextToIp("x.2"));  // junk skipped, never an error
-}
 
 TEST(DateTimePacked, FieldsAndTheUnmaskedYear) {
   uint32_t packed = 0;
@@ -44,50 +30,6 @@ TEST(TimeRange, SixFieldsCutToBytesLeadUntouched) {
   EXPECT_EQ(45, r.endMinute);
   EXPECT_EQ(300 & 0xFF, r.endSecond);
   EXPECT_EQ(-1, ParseTimeRange("8:30-17:45", 10, &r));
-}
-
-TEST(IntList, PiecesLimitsAndCount) {
-  uint32_t v[100];
-  uint32_t count = 99;
-  ASSERT_EQ(0, ParseIntList("1,2,,4", 6, v, &count));
-  EXPECT_EQ(4u, count);
-  EXPECT_EQ(0u, v[2]);
-  EXPECT_EQ(4u, v[3]);
-  count = 99;
-  EXPECT_EQ(0, ParseIntList(nullptr, 0, nullptr, &count));  // empty: nothing written
-  EXPECT_EQ(99u, count);
-  EXPECT_EQ(-1, ParseIntList("1", -1, v, &count));
-  EXPECT_EQ(0, ParseIntList("1234567,5", 9, v, nullptr));
-  EXPECT_EQ(-1, ParseIntList("12345678,5", 10, v, nullptr));  // a piece of 8 characters
-  EXPECT_EQ(0, ParseIntList("7,8,9", 3, v, &count));          // only the first `len` bytes
-  EXPECT_EQ(2u, count);
-
-  std::string hundred = "0";
-  for (int i = 1; i < 100; ++i) hundred += "," + std::to_string(i);
-  ASSERT_EQ(0, ParseIntList(hundred.c_str(), static_cast<int32_t>(hundred.size()), v, &count));
-  EXPECT_EQ(100u, count);
-  EXPECT_EQ(99u, v[99]);
-  const std::string tooMany = hundred + ",";  // the hundredth comma
-  EXPECT_EQ(-1, ParseIntList(tooMany.c_str(), static_cast<int32_t>(tooMany.size()), v, &count));
-}
-
-TEST(RightItem, MalformedItems) {
-  RightItem item = {};
-  EXPECT_EQ(kErrBadParameter, ParseRightItem("1:a:b", 5, nullptr));
-  EXPECT_EQ(kErrMalformedData, ParseRightItem("12:admin", 8, &item));
-  EXPECT_EQ(kErrMalformedData, ParseRightItem("1:a:b:c", 7, &item));
-  const std::string longId = std::string(32, '1') + ":a:b";
-  EXPECT_EQ(kErrMalformedData,
-            ParseRightItem(longId.c_str(), static_cast<int32_t>(longId.size()), &item));
-  const std::string id31 = std::string(30, '0') + "7:a:b";
-  EXPECT_EQ(0u, ParseRightItem(id31.c_str(), static_cast<int32_t>(id31.size()), &item));
-  EXPECT_EQ(7u, item.id);
-  const std::string longName = "1:" + std::string(33, 'n') + ":b";
-  EXPECT_EQ(kErrMalformedData,
-            ParseRightItem(longName.c_str(), static_cast<int32_t>(longName.size()), &item));
-  const std::string longMemo = "1:a:" + std::string(33, 'm');
-  EXPECT_EQ(kErrMalformedData,
-            ParseRightItem(longMemo.c_str(), static_cast<int32_t>(longMemo.size()), &item));
 }
 
 }  // namespace

@@ -1,22 +1,16 @@
-// "Alarm" end to end: the local alarm input with its enumerations, its "not
-// given" values and the week grid beside the linkage block.
+// "Alarm": the week grid beside the linkage block is the one packed.
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <string>
 
-#include "config/alarm/alarm_test_util.h"
-#include "kova/kova.h"
 #include "kova/records/alarm.h"
+#include "test_util.h"
 
+namespace kova_test {
 namespace {
 
-using kova_test::Doc;
-using kova_test::Pack;
-using kova_test::ParseAs;
-
 TEST(Alarm, WeekGridWinsOverTheLinkageSchedule) {
-  auto r = kova_test::NewRecord<AlarmInRecord>();
+  auto r = NewRecord<AlarmInRecord>();
   r->eventHandler.schedule.holidayEnabled = 1;
   r->eventHandler.schedule.sections[0][0] = {1, 1, 0, 0, 2, 0, 0};
   r->eventHandler.schedule.sections[7][0] = {1, 3, 0, 0, 4, 0, 0};
@@ -29,3 +23,4 @@ TEST(Alarm, WeekGridWinsOverTheLinkageSchedule) {
 }
 
 }  // namespace
+}  // namespace kova_test

@@ -1,35 +1,27 @@
-// "VideoAnalyseModule" and "VideoAnalyseGlobal" through the exported
-// functions: the samples field by field, their packed text and fixed point,
-// limits, and the caller's room for numbered periods.
+// "VideoAnalyseModule" and "VideoAnalyseGlobal": JSON kept as text, the
+// caller's room for numbered periods, numbered slots and raw text.
 #include "kova/records/analyse_setup.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "config/alarm/alarm_test_util.h"
-#include "kova/kova.h"
+#include "test_util.h"
 
+namespace kova_test {
 namespace {
 
-using kova_test::Doc;
-using kova_test::NewRecord;
-using kova_test::Pack;
-
-TEST(VideoAnalyseModule, Limits) {
-  const std::string longFilter = R"({"Names":[")" + std::string(300, 'x') + R"("]})";
-  std::string first = R"([{"ObjectFilter":)" + longFilter + R"(,"Sensitivity":300}])";
+// JSON text that does not fit is not kept: a cut text would not be JSON.
+TEST(VideoAnalyseModule, JsonTextThatDoesNotFitIsLeftOut) {
+  const std::string filter = R"({"Names":[")" + std::string(300, 'x') + R"("]})";
   int rc = 0;
-  auto b = kova_test::ParseAs<VideoAnalyseModuleConfig>("VideoAnalyseModule", Doc(first), &rc);
+  auto b = ParseAs<VideoAnalyseModuleConfig>("VideoAnalyseModule",
+                                             Doc(R"([{"ObjectFilter":)" + filter + "}]"), &rc);
   ASSERT_EQ(1, rc);
-  const AnalyseModule& m = b->modules[0];
-  EXPECT_EQ(44, m.sensitivity);  // cut to 8 bits
-  // JSON text that does not fit is not kept (a cut text would not be JSON).
-  EXPECT_EQ(0, m.objectFilterPresent);
-  EXPECT_EQ('\0', m.objectFilter[0]);
+  EXPECT_EQ(0, b->modules[0].objectFilterPresent);
+  EXPECT_EQ('\0', b->modules[0].objectFilter[0]);
 }
 
 TEST(VideoAnalyseGlobal, NumberedPeriods) {
@@ -82,10 +74,9 @@ TEST(VideoAnalyseGlobal, NumberedSlotsEnvelopeAndRawText) {
   const std::string table =
       R"({"CalibrateArea31":{"Staffs":[{"Length":2}]},"CalibrateArea32":{"Staffs":[]},)"
       R"("Scene8":{"Type":"Last","Depth":"near"},"Scene9":{"Type":"Beyond"},"Scene0":{},)"
-      R"("TimePeriod":{"Day":["6:0:0","x"],"SwitchMode":"Never"},)"
       R"("Scene":{"CustomData":"\u00e9\u0001z","Depth":"Deep"}})";
   int rc = 0;
-  auto g = kova_test::ParseAs<VideoAnalyseGlobalConfig>("VideoAnalyseGlobal", Doc(table), &rc);
+  auto g = ParseAs<VideoAnalyseGlobalConfig>("VideoAnalyseGlobal", Doc(table), &rc);
   ASSERT_EQ(1, rc);
   EXPECT_EQ(1, g->calibrateAreaPresent[31]);
   EXPECT_DOUBLE_EQ(2.0, g->calibrateAreas[31].staffs[0].length);
@@ -94,12 +85,10 @@ TEST(VideoAnalyseGlobal, NumberedSlotsEnvelopeAndRawText) {
   for (uint8_t p : g->scenesPresent) present += p;
   EXPECT_EQ(2, present);
   EXPECT_STREQ("Last", g->scenes[7].type);
-  EXPECT_EQ(6, g->timePeriod.day.start.hour);
-  EXPECT_EQ(0, g->timePeriod.day.end.hour);  // a time that does not read stays zero
-  EXPECT_EQ(0, g->timePeriod.switchMode);
   EXPECT_EQ(KOVA_DEPTH_NORMAL, g->scene.depth);
   EXPECT_EQ(1, g->scene.customDataPresent);
   EXPECT_STREQ("\xc3\xa9\x01z", g->scene.customData);  // the bytes, unconverted
 }
 
 }  // namespace
+}  // namespace kova_test

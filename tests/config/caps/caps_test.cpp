@@ -5,22 +5,16 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-#include <string>
-#include <vector>
+#include "test_util.h"
 
-#include "config/alarm/alarm_test_util.h"
-#include "kova/kova.h"
-
+namespace kova_test {
 namespace {
-
-using kova_test::ParseAs;
 
 TEST(CapsAnswers, PayloadPlacesExtrasAndRefusals) {
   int rc = 0;
   uint32_t ret = 0;
   auto caps = ParseAs<PtzProtocolCaps>("ptz.getCurrentProtocolCaps",
-                                       kova_test::Sample("ptz.getCurrentProtocolCaps"), &rc, &ret);
+                                       Sample("ptz.getCurrentProtocolCaps"), &rc, &ret);
   ASSERT_EQ(1, rc);
   EXPECT_EQ(sizeof(PtzProtocolCaps), ret);
   // Booleans and integers no field names are kept by name, in key order.
@@ -51,3 +45,4 @@ TEST(CapsAnswers, PayloadPlacesExtrasAndRefusals) {
 }
 
 }  // namespace
+}  // namespace kova_test

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "common/json/json.h"
-#include "config/alarm/alarm_test_util.h"
 #include "kova/kova.h"
+#include "test_util.h"
 
 namespace {
 

@@ -1,39 +1,22 @@
-// "EncodePlan", "VideoEncodeROI", "DspEncodeCap", "EncodeAdapt" and
-// "SmartEncode" through the exported functions, and every sample of the
-// family parsed and packed back.
+// "EncodePlan" and "SmartEncode": null plans, and a record that comes as
+// one object or an array.
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <fstream>
-#include <iterator>
-#include <random>
 #include <string>
 #include <vector>
 
-#include "common/json/json.h"
-#include "common/json/json_writer.h"
-#include "kova/kova.h"
 #include "kova/records/media.h"
+#include "test_util.h"
 
+namespace kova_test {
 namespace {
 
 constexpr unsigned char kSentinel = 0xA5;
 
-std::string Envelope(const std::string& table, const char* result = "true") {
-  return std::string(R"({"id":3,"result":)") + result + R"(,"params":{"table":)" + table + "}}";
-}
-
-std::string Pack(const char* name, const void* in, uint32_t inLen, uint32_t outLen = 65536) {
-  std::vector<char> out(outLen);
-  if (KOVA_PacketData(name, in, inLen, out.data(), outLen) == 0) return "";
-  return std::string(out.data(), strnlen(out.data(), outLen));
-}
-
 TEST(EncodePlan, NullEntriesSwitchOffAndKeepTheRest) {
-  // "result" is not consulted; the fourth element has no room.
-  const std::string doc = Envelope(
-      R"([{"ExpectTime":-5,"Resolution":"1280x960"},null,{"BitRate":900,"Resolution":7},{}])",
-      "false");
+  const std::string doc =
+      Doc(R"([{"ExpectTime":-5,"Resolution":"1280x960"},null,{"BitRate":900,"Resolution":7}])");
   std::vector<EncodePlanEntry> e(3);
   std::memset(e.data(), kSentinel, e.size() * sizeof e[0]);
   const EncodePlanEntry untouched = e[0];
@@ -51,21 +34,21 @@ TEST(EncodePlan, NullEntriesSwitchOffAndKeepTheRest) {
   // Pack is always an array; unknown sizes pack as "".
   EncodePlanEntry one = {1, 60, 33, 128};
   EXPECT_EQ("[ { \"BitRate\" : 128, \"ExpectTime\" : 60, \"Resolution\" : \"\" } ]\n",
-            Pack("EncodePlan", &one, sizeof one));
+            Pack("EncodePlan", one));
 }
 
 TEST(SmartEncode, ObjectOrArrayAndReservedBytesUntouched) {
   std::vector<unsigned char> buf(2 * sizeof(SmartEncodeConfig), kSentinel);
   uint32_t ret = 0;
-  ASSERT_EQ(1, KOVA_ParseData("SmartEncode", Envelope(R"({"Enable":true})").c_str(), buf.data(),
-                              buf.size(), &ret));
+  ASSERT_EQ(1, KOVA_ParseData("SmartEncode", Doc(R"({"Enable":true})").c_str(), buf.data(),
+                              static_cast<uint32_t>(buf.size()), &ret));
   EXPECT_EQ(sizeof(SmartEncodeConfig), ret);
-  SmartEncodeConfig r;
-  std::memcpy(&r, buf.data(), sizeof r);
-  EXPECT_EQ(1, r.enable);
+  EXPECT_EQ(1, buf[0]);
   EXPECT_EQ(std::vector<unsigned char>(buf.begin() + 4, buf.end()),
             std::vector<unsigned char>(buf.size() - 4, kSentinel));
-  EXPECT_EQ("{ \"Enable\" : true }\n", Pack("SmartEncode", buf.data(), sizeof r + 1));
+  EXPECT_EQ("{ \"Enable\" : true }\n",
+            PackBytes("SmartEncode", buf.data(), sizeof(SmartEncodeConfig) + 1));
 }
 
 }  // namespace
+}  // namespace kova_test

@@ -7,14 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "config/alarm/alarm_test_util.h"
-#include "kova/kova.h"
 #include "kova/records/storage.h"
+#include "test_util.h"
 
+namespace kova_test {
 namespace {
-
-using kova_test::Doc;
-using kova_test::PackBytes;
 
 std::vector<RecordConfig> ParseRecords(const std::string& json, size_t slots, int* rc,
                                        uint32_t* retLen) {
@@ -59,7 +56,7 @@ TEST(Record, MaskBitsTakeTheRecordsOrderBothWays) {
     EXPECT_EQ(c.record, r.sections[0][0].enable) << c.device;
     RecordConfig holiday = r;
     holiday.holidaySections[2] = r.sections[0][0];
-    const std::string text = kova_test::Pack("Record", holiday);
+    const std::string text = Pack("Record", holiday);
     EXPECT_NE(std::string::npos,
               text.find("[ \"" + std::to_string(c.packed) + " 01:02:03-04:05:06\", "))
         << c.device;
@@ -71,7 +68,7 @@ TEST(Record, MaskBitsTakeTheRecordsOrderBothWays) {
   // Record bits above 3 are dropped on pack.
   RecordConfig r = {};
   r.sections[0][0].enable = 0x30 | 1;
-  EXPECT_EQ(0u, kova_test::Pack("Record", r)
+  EXPECT_EQ(0u, Pack("Record", r)
                     .find(R"({ "PreRecord" : 0, "Redundancy" : false, )"
                           R"("Stream" : 0, "TimeSection" : [ [ "2 00:00:00-00:00:00", )"));
 }
@@ -113,3 +110,4 @@ TEST(Record, ResponseChannelChoosesOneRecordOrEveryElement) {
 }
 
 }  // namespace
+}  // namespace kova_test

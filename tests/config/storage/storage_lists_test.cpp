@@ -1,5 +1,4 @@
-// "StorageGroup" and "Raid" (caller-sized records) and "RecordMode" (one
-// record per channel), both ways.
+// "StorageGroup" and "Raid": caller-sized records, both ways.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -8,14 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "config/alarm/alarm_test_util.h"
-#include "kova/kova.h"
 #include "kova/records/storage.h"
+#include "test_util.h"
 
+namespace kova_test {
 namespace {
-
-using kova_test::Doc;
-using kova_test::PackBytes;
 
 // `count` records of `stride` bytes, each with its size word, the rest 0xEE.
 // (The vector's storage is aligned for the records.)
@@ -41,7 +37,7 @@ TEST(CallerSizedRecords, TheCallersSizeStepsBothWays) {
   const uint32_t shortStride = offsetof(StorageGroupRecord, channelCount);
   std::vector<unsigned char> b = Slots(shortStride, 3);
   uint32_t ret = 0;
-  ASSERT_EQ(1, Parse("StorageGroup", kova_test::Sample("StorageGroup"), &b, &ret));
+  ASSERT_EQ(1, Parse("StorageGroup", Sample("StorageGroup"), &b, &ret));
   EXPECT_EQ(2 * shortStride, ret);
   EXPECT_EQ('G', b[shortStride + offsetof(StorageGroupRecord, name)]);
   EXPECT_EQ('E', b[shortStride + offsetof(StorageGroupRecord, memo)]);
@@ -57,11 +53,11 @@ TEST(CallerSizedRecords, TheCallersSizeStepsBothWays) {
   for (uint32_t stride : {static_cast<uint32_t>(sizeof(RaidRecord)) + 3,
                           static_cast<uint32_t>(sizeof(RaidRecord)) + 64}) {
     std::vector<unsigned char> raid = Slots(stride, 2);
-    ASSERT_EQ(1, Parse("Raid", kova_test::Sample("Raid"), &raid, &ret));
+    ASSERT_EQ(1, Parse("Raid", Sample("Raid"), &raid, &ret));
     EXPECT_EQ(2 * stride, ret);
     EXPECT_EQ('1', raid[stride + offsetof(RaidRecord, name) + 2]);
     EXPECT_EQ(0, raid[stride - 1]);  // cleared, not written
-    EXPECT_EQ(kova_test::PackedText("Raid"), Packed("Raid", raid, 2 * stride));
+    EXPECT_EQ(Fixture("Raid.packed.txt"), Packed("Raid", raid, 2 * stride));
   }
 
   // Refused: no size word, a size of 0, a size beyond the buffer, below one record.
@@ -75,8 +71,7 @@ TEST(CallerSizedRecords, TheCallersSizeStepsBothWays) {
     std::memcpy(buf.data(), &c.word, 4);
     const std::vector<unsigned char> before = buf;
     for (const char* name : {"StorageGroup", "Raid"}) {
-      EXPECT_EQ(0,
-                KOVA_ParseData(name, kova_test::Sample(name).c_str(), buf.data(), c.length, &ret))
+      EXPECT_EQ(0, KOVA_ParseData(name, Sample(name).c_str(), buf.data(), c.length, &ret))
           << name << " " << c.word;
       EXPECT_EQ(before, buf);
       EXPECT_EQ("<failed>", PackBytes(name, buf.data(), c.length)) << name << " " << c.word;
@@ -88,14 +83,5 @@ TEST(CallerSizedRecords, TheCallersSizeStepsBothWays) {
             PackBytes("StorageGroup", tiny.data(), sizeof(StorageGroupRecord), 1u << 16));
 }
 
-TEST(RecordMode, OneObjectIsChannelZero) {
-  uint32_t ret = 0;
-  RecordModeConfig one = {};
-  ASSERT_EQ(1, KOVA_ParseData("RecordMode", Doc(R"({"Mode":1,"ModeExtra1":"2"})").c_str(), &one,
-                              sizeof one, &ret));
-  EXPECT_EQ(1, one.mode);
-  EXPECT_EQ(0, one.modeExtra1);
-  EXPECT_EQ("{ \"Mode\" : 1, \"ModeExtra1\" : 0 }\n", kova_test::Pack("RecordMode", one));
-}
-
 }  // namespace
+}  // namespace kova_test

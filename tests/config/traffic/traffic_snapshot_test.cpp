@@ -6,23 +6,16 @@
 #include <string>
 #include <vector>
 
-#include "config/alarm/alarm_test_util.h"
-#include "kova/kova.h"
 #include "kova/records/traffic.h"
+#include "test_util.h"
 
+namespace kova_test {
 namespace {
 
-using kova_test::Doc;
-using kova_test::NewRecord;
-using kova_test::Pack;
 using Record = TrafficSnapshotConfig;
 
-const char kName[] = "TrafficSnapshot";
-
-// Parses `json` into a fresh record; retLen starts at a value no call sets.
 std::unique_ptr<Record> Parse(const std::string& json, int* rc, uint32_t* ret) {
-  *ret = 0xFFFF;
-  return kova_test::ParseAs<Record>(kName, json, rc, ret);
+  return ParseAs<Record>("TrafficSnapshot", json, rc, ret);
 }
 
 // The three sub-blocks are read first and in order; the first that is
@@ -57,7 +50,7 @@ TEST(TrafficSnapshot, AFailingSubBlockLeavesEveryLaterKeyZero) {
     EXPECT_EQ(c.later ? 2 : 0, r->osd.attrScheme) << c.blocks;
     EXPECT_EQ(c.later ? 1 : 0, r->eventHandler.recordEnable) << c.blocks;
     // What was not read is not packed either.
-    const std::string packed = Pack(kName, *r);
+    const std::string packed = Pack("TrafficSnapshot", *r);
     EXPECT_EQ(c.radar, packed.find("\"Radar\"") != std::string::npos) << c.blocks;
     EXPECT_EQ(c.later, packed.find("\"EventHandler\"") != std::string::npos) << c.blocks;
   }
@@ -98,3 +91,4 @@ TEST(TrafficSnapshot, DeviceAddressIsCutBeforeConversion) {
 }
 
 }  // namespace
+}  // namespace kova_test
