@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "common/base/blocks.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/analyse/rule_config.h"
@@ -16,8 +17,7 @@ bool BuildRuleRecord(const Json::Value& rule, RuleRecord* out) {
   // A rule of a type without a record of its own still brings its head.
   const RuleType* described = FindRuleType(out->typeCode);
   out->size = described != nullptr ? described->recordSize : sizeof(RuleHead);
-  // malloc's alignment covers every rule record (doubles included).
-  out->record = std::calloc(1, out->size);
+  out->record = AllocateZeroed(out->size);  // aligned for every rule record
   if (out->record == nullptr) return false;
   try {
     if (described != nullptr) {
@@ -26,7 +26,7 @@ bool BuildRuleRecord(const Json::Value& rule, RuleRecord* out) {
       ParseFields(rule, out->record, kRuleHeadTable);
     }
   } catch (...) {  // out of memory half-way
-    std::free(out->record);
+    ReleaseBlock(out->record);
     out->record = nullptr;
     return false;
   }

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string>
 
+#include "common/base/blocks.h"
 #include "common/base/platform.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
@@ -119,7 +120,7 @@ void ForEachObject(const Json::Value& value, uint32_t cap, ReadOne readOne) {
 
 void ReadRecords(const Json::Value& value, const RecordReader& reader, CReqRealPicture* out) {
   ForEachObject(value, kMaxRecordsPerMember, [&](const Json::Value& obj) {
-    void* record = std::calloc(1, reader.size);
+    void* record = AllocateZeroed(reader.size);
     if (record == nullptr) return;
     // Listed before it is filled, so that whatever happens the parser
     // object releases it.

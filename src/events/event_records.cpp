@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdlib>
 
+#include "common/base/blocks.h"
 #include "config/analyse/rule_types.h"
 #include "kova/records/events.h"
 
@@ -315,7 +316,7 @@ const EventRecordKind& EventRecordOf(uint32_t code) {
 void* BuildEventRecord(uint32_t code, uint32_t dictionaryCode, const Json::Value& event,
                        const Json::Value& data) {
   const EventRecordKind& kind = EventRecordOf(code);
-  void* record = std::calloc(1, kind.size);
+  void* record = AllocateZeroed(kind.size);
   if (record == nullptr) return nullptr;
   try {
     ParseFields(event, record, kEventHeadFields);
@@ -333,7 +334,7 @@ void* BuildEventRecord(uint32_t code, uint32_t dictionaryCode, const Json::Value
 void ReleaseEventRecord(uint32_t code, void* record) {
   if (record == nullptr) return;
   ReleaseFields(record, EventRecordOf(code).table);
-  std::free(record);
+  ReleaseBlock(record);
 }
 
 }  // namespace kova

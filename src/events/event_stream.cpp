@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "common/base/blocks.h"
 #include "common/json/json.h"
 #include "config/analyse/rule_types.h"
 #include "events/event_code_dictionary.h"
@@ -36,7 +37,7 @@ const Json::Value& EventArray(const Json::Value& root) {
 void ReleaseNode(AnalyzerEventNode* node) {
   if (node->eventInfo == nullptr) return;
   if (node->release != nullptr) ReleaseFields(node->eventInfo, *node->release);
-  std::free(node->eventInfo);
+  ReleaseBlock(node->eventInfo);
   node->eventInfo = nullptr;
 }
 

@@ -6,9 +6,11 @@
 // the size of one record and outLen.
 //
 // The allocations are counted by the global operator new of this test
-// binary, on the calling thread, while a count is open: the tree's nodes
-// and the text (the JSON library keeps string values in blocks of its own,
-// which are not counted).
+// binary, on the calling thread, while a count is open: the tree's nodes,
+// the text and the records the event stream hands out (the JSON library
+// keeps string values in blocks of its own, which are not counted). The
+// same count makes one chosen allocation fail, to show that an event
+// notification loses nothing when memory runs out half-way.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -19,9 +21,11 @@
 #include <cstring>
 #include <new>
 #include <string>
+#include <vector>
 
 #include "api/dispatch.h"
 #include "harness/catalog.h"
+#include "harness/documents.h"
 #include "harness/guarded_buffer.h"
 #include "kova/kova.h"
 
@@ -39,8 +43,11 @@ std::atomic<uint64_t> gLastCount{0};
 thread_local uint64_t tCount = 0;  // the count open on this thread, 0 for none
 thread_local uint64_t tLive = 0;
 thread_local uint64_t tPeak = 0;
+thread_local uint64_t tMade = 0;    // allocations under the open count
+thread_local uint64_t tFailAt = 0;  // the one that fails, 0 for none
 
 void* Allocate(size_t n) noexcept {
+  if (tCount != 0 && ++tMade == tFailAt) return nullptr;
   void* raw = std::malloc(n + kHeaderSize);
   if (raw == nullptr) return nullptr;
   const BlockHeader h{n, tCount};
@@ -85,13 +92,40 @@ namespace {
 
 // Peak bytes allocated on this thread by `call`, beyond what was live before.
 template <typename Call>
-uint64_t PeakOf(Call call) {
+uint64_t PeakOf(Call call, uint64_t failAt = 0) {
   tCount = ++gLastCount;
-  tLive = 0;
-  tPeak = 0;
+  tLive = tPeak = tMade = 0;
+  tFailAt = failAt;
   call();
   tCount = 0;
   return tPeak;
+}
+
+int KOVA_CALL Ignore(uint32_t, const void*, uint32_t, const void*, uint32_t, void*) { return 0; }
+
+// The n-th allocation of a notification fails, for every n until a call
+// makes fewer: whatever was made before it is freed by the time the call
+// returns, records and their lists included. (The thread's JSON reader
+// keeps the message of a number it could not convert until its next read,
+// which the count takes in.)
+TEST(EventMemory, AFailedAllocationLeavesNothingBehind) {
+  const std::vector<SampleDocument> samples =
+      LoadSampleDocuments({std::string(KOVA_SAMPLES_DIR) + "/events"});
+  ASSERT_FALSE(samples.empty());
+  for (const SampleDocument& s : samples) {
+    for (auto* parse : {KOVA_ParseAnalyzerEventData, KOVA_ParseDataByCallback}) {
+      const auto call = [&] {
+        parse(s.text.c_str(), static_cast<uint32_t>(s.text.size()), Ignore, nullptr);
+        parse("{}", 2, Ignore, nullptr);
+      };
+      PeakOf(call);  // the reader and the tables of first use, kept for good
+      const uint64_t made = tMade;
+      for (uint64_t failAt = 1; failAt <= made; ++failAt) {
+        PeakOf(call, failAt);
+        ASSERT_EQ(0u, tLive) << s.path << ": allocation " << failAt << " of " << made << " failed";
+      }
+    }
+  }
 }
 
 class PackBadInputMemory : public testing::TestWithParam<int> {};

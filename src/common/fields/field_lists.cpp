@@ -6,6 +6,7 @@
 #include <cstring>
 #include <utility>
 
+#include "common/base/blocks.h"
 #include "common/base/log.h"
 #include "common/fields/field_table.h"
 #include "common/fields/field_walk.h"
@@ -21,7 +22,7 @@ namespace {
 constexpr size_t kEntriesHeader = alignof(std::max_align_t);
 
 unsigned char* AllocateEntries(uint32_t slots, uint32_t size) {
-  void* block = std::calloc(1, kEntriesHeader + static_cast<size_t>(slots) * size);
+  void* block = AllocateZeroed(kEntriesHeader + static_cast<size_t>(slots) * size);
   if (block == nullptr) return nullptr;
   const uint64_t n = slots;
   std::memcpy(block, &n, sizeof n);
@@ -57,7 +58,7 @@ void ReleaseList(unsigned char* record, const Field& f) {
   for (uint32_t i = 0; i < slots && f.element != nullptr; ++i) {
     ReleaseValue(entries + static_cast<size_t>(i) * f.size + f.element->offset, *f.element);
   }
-  std::free(entries - kEntriesHeader);
+  ReleaseBlock(entries - kEntriesHeader);
   StorePointer(base, nullptr);
   if (f.count.size != 0) StoreInt(record + f.count.offset, f.count.size, 0);
 }
