@@ -29,6 +29,7 @@ struct EnumMember {
 const char kAlarm[] = "{%s}";
 const char kNetwork[] = R"({"DefaultInterface":"eth0","eth0":{%s}})";
 const char kNas[] = R"([{"Enable":true,%s}])";
+const char kAlarmDoor[] = R"({"EventHandler":{"AccessControls":[{%s}]}})";
 
 // The record's size and the member's offset in it.
 #define AT(Rec, member) sizeof(Rec), offsetof(Rec, member)
@@ -63,6 +64,9 @@ const EnumMember kMembers[] = {
         {"Entrance1", KOVA_DEFENCE_AREA_ENTRANCE1}, {"Entrance2", KOVA_DEFENCE_AREA_ENTRANCE2},
         {"Inside", KOVA_DEFENCE_AREA_INSIDE}, {"Outside", KOVA_DEFENCE_AREA_OUTSIDE},
         {"PeopleDetect", KOVA_DEFENCE_AREA_PEOPLE_DETECT}}},
+    {"Alarm", kAlarmDoor, AT(AlarmInRecord, eventHandler.accessControlOperations[0]), "Operation", {
+        {"Auto", KOVA_DOOR_AUTO}, {"Open", KOVA_DOOR_OPEN}, {"Close", KOVA_DOOR_CLOSE},
+        {"OpenAlways", KOVA_DOOR_OPEN_ALWAYS}, {"CloseAlways", KOVA_DOOR_CLOSE_ALWAYS}}},
     {"Network", kNetwork, AT(NetworkConfig, interfaces[0].netMode), "NetMode", {
         {"half10M", KOVA_NETWORK_LINK_HALF_10M}, {"full10M", KOVA_NETWORK_LINK_FULL_10M},
         {"half100M", KOVA_NETWORK_LINK_HALF_100M}, {"full100M", KOVA_NETWORK_LINK_FULL_100M}}},

@@ -253,5 +253,26 @@ TEST(RuleList, IrregularMembersOfSingleTypes) {
             packed.find(R"("SizeFilter" : { "MinArea" : 2.500000000000000, "Type" : "ByArea" })"));
 }
 
+// The abnormality names against the header's constants, both ways.
+TEST(RuleList, VideoAbnormalTypeNames) {
+  Rules r(kRoom);
+  ASSERT_EQ(
+      1,
+      r.Parse(Doc(
+          "[" +
+          Rule("VideoAbnormalDetection", R"({"DetectType":["Loss","Cover","Frozen","Light"]})") +
+          "," + Rule("VideoAbnormalDetection", R"({"DetectType":["Dark","SceneChange"]})") + "]")));
+  auto first = r.Body<VideoAbnormalRule>(0, 19);
+  auto second = r.Body<VideoAbnormalRule>(1, 19);
+  const uint8_t expected[] = {KOVA_VIDEO_ABNORMAL_LOSS, KOVA_VIDEO_ABNORMAL_COVER,
+                              KOVA_VIDEO_ABNORMAL_FROZEN, KOVA_VIDEO_ABNORMAL_LIGHT};
+  EXPECT_EQ(0, std::memcmp(expected, first->detectTypes, sizeof expected));
+  EXPECT_EQ(KOVA_VIDEO_ABNORMAL_DARK, second->detectTypes[0]);
+  EXPECT_EQ(KOVA_VIDEO_ABNORMAL_SCENE_CHANGE, second->detectTypes[1]);
+  const std::string packed = r.Pack();
+  EXPECT_NE(std::string::npos, packed.find(R"([ "Loss", "Cover", "Frozen", "Light" ])"));
+  EXPECT_NE(std::string::npos, packed.find(R"([ "Dark", "SceneChange" ])"));
+}
+
 }  // namespace
 }  // namespace kova_test

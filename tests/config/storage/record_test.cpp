@@ -65,12 +65,15 @@ TEST(Record, MaskBitsTakeTheRecordsOrderBothWays) {
                                            "\"0 00:00:00-00:00:00\", \"0 00:00:00-00:00:00\" ] ]"))
         << c.device;
   }
-  // Record bits above 3 are dropped on pack.
+  // Record bits above 3 are dropped on pack; a negative stream is not sent.
   RecordConfig r = {};
   r.sections[0][0].enable = 0x30 | 1;
   EXPECT_EQ(0u, Pack("Record", r)
                     .find(R"({ "PreRecord" : 0, "Redundancy" : false, )"
                           R"("Stream" : 0, "TimeSection" : [ [ "2 00:00:00-00:00:00", )"));
+  r.stream = -1;
+  EXPECT_EQ(0u,
+            Pack("Record", r).find(R"({ "PreRecord" : 0, "Redundancy" : false, "TimeSection" : )"));
 }
 
 TEST(Record, ResponseChannelChoosesOneRecordOrEveryElement) {
