@@ -13,6 +13,7 @@
 //   clear   on text that is not JSON W  whole buffer cleared
 //                                    R  its whole records cleared
 //                                    N  left as it was
+//           (w, r: an empty text is refused before anything is cleared)
 //   retLen                           S  set   A  added to
 //   copy    text exactly outLen long M  copied (at most)   L  refused (less)
 //   short   input of one record - 1  R  refused   N  packs "null"
@@ -69,7 +70,7 @@ const Contract kContracts[] = {
                  "MovedDetect"},
     {"TSNSLRRO", "Multicast"},
     {"TEWSMRRA", "TemperatureAlarm FanSpeedAlarm"},
-    {"TZWSLRRO", "Network DVRIP"},
+    {"TZwSLRRO", "Network DVRIP"},
     {"TSWSLRRO", "NAS"},
     {"IENSLRRA", "EncodePlan"},
     {"TENSLRRA", "EncodeAdapt SmartEncode"},
@@ -146,7 +147,10 @@ char ClearLetter(const std::string& name, uint32_t size) {
   Parse(name, "this is not JSON", &b, &ret);
   if (b.bytes == before.bytes) return 'N';
   const bool tailKept = b.bytes[b.bytes.size() - 1] == kFill;
-  return tailKept ? 'R' : 'W';
+  Buffer empty = before;
+  Parse(name, "", &empty, &ret);
+  const bool emptyRefused = empty.bytes == before.bytes;
+  return (tailKept ? 'R' : 'W') + (emptyRefused ? 'a' - 'A' : 0);
 }
 
 char RetLenLetter(const std::string& name, uint32_t size) {
