@@ -74,6 +74,8 @@ TEST(EventStream, SelectsTheEventListAndTheEventsItDelivers) {
     EXPECT_EQ(c.codes, Codes(c.doc, false, &ret)) << c.what;
     EXPECT_EQ(1, ret) << c.what;
   }
+  // By callback a notification's events are read as well.
+  EXPECT_EQ((std::vector<uint32_t>{2, 3}), Codes(Notification(line + "," + region), true));
 }
 
 // The codes of the names the rule list rejects, as the device protocol lists

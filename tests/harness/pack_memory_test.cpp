@@ -119,6 +119,8 @@ TEST(EventMemory, AFailedAllocationLeavesNothingBehind) {
         parse("{}", 2, Ignore, nullptr);
       };
       PeakOf(call);  // the reader and the tables of first use, kept for good
+      PeakOf(call);
+      ASSERT_EQ(0u, tLive) << s.path;
       const uint64_t made = tMade;
       for (uint64_t failAt = 1; failAt <= made; ++failAt) {
         PeakOf(call, failAt);

@@ -93,12 +93,16 @@ TEST(EventHandler, ChannelSetsFollowTwoRules) {
 
 TEST(EventHandler, AwkwardMembers) {
   auto r = Parse(Doc(R"({
-      "PtzLink": [["Preset", 0, 3, 0, 0], ["Tour", 1, 2]],
+      "PtzLink": [["Preset", 0, 3, 0, 0], ["Tour", 1, 2], ["Tour", 4, 0, 0, 0]],
       "AccessControls": [{"Operation": "open"}, {"Operation": "Auto"}, null, {"Operation": 4}],
-      "PSTNAlarmServer": {"Destination": [257, -5, 3.9]},
+      "PSTNAlarmServer": {"Destination": [257, -5, 3.9], "NeedReport": true},
+      "VideoTitleEnable": true,
       "SnapshotTitle": [{"Text": "T", "Point": [1, 2, 3], "Size": [7, 8]}],
       "TourSplit": "Split4", "MatrixEnable": 2, "FlashEnable": 3, "Talkback": {}})"));
-  EXPECT_EQ(0, r->ptzLinks[1].type);            // three items: the entry stays zero
+  EXPECT_EQ(0, r->ptzLinks[1].type);  // three items: the entry stays zero
+  EXPECT_EQ(KOVA_PTZ_LINK_TOUR, r->ptzLinks[2].type);
+  EXPECT_EQ(1, r->needReport);
+  EXPECT_EQ(1, r->videoTitleEnable);
   EXPECT_EQ(0, r->accessControlOperations[0]);  // compared exactly
   EXPECT_EQ(1, r->destinations[0]);
   EXPECT_EQ(3, r->destinations[2]);
@@ -112,6 +116,9 @@ TEST(EventHandler, AwkwardMembers) {
   Json::Value out;
   kova::PackEventHandler(*r, out);
   EXPECT_EQ("[ \"None\", 0, 0, 0, 0 ]\n", kova::WriteJson(Element(Member(out, "PtzLink"), 1)));
+  EXPECT_EQ("Tour", kova::ToText(Element(Element(Member(out, "PtzLink"), 2), 0)));
+  EXPECT_TRUE(kova::ToBool(Member(Member(out, "PSTNAlarmServer"), "NeedReport")));
+  EXPECT_TRUE(kova::ToBool(Member(out, "VideoTitleEnable")));
   EXPECT_EQ(
       "[ { \"Operation\" : null }, { \"Operation\" : \"Auto\" }, null, { \"Operation\" : null } "
       "]\n",
