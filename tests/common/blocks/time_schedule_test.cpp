@@ -66,6 +66,19 @@ TEST(TimeSectionGrid, NoRangeChecksAndWrittenFormPadsToTwoDigits) {
   EXPECT_EQ("[ [ \"7 25:61:99--1:05:123\" ] ]\n", kova::WriteJson(out));
 }
 
+TEST(TimeSection, SizedSectionPacksOnlyWithItsOwnSize) {
+  SizedTimeSection sized{28, 1, 0, 0, 0, 24, 0, 0};
+  Json::Value out("untouched");
+  EXPECT_FALSE(kova::PackSizedTimeSection(out, sized));
+  sized.size = 32;
+  EXPECT_TRUE(kova::PackSizedTimeSection(out, sized));
+  EXPECT_EQ("1 00:00:00-24:00:00", kova::ToText(out));
+  SizedTimeSection in{7, 0, 0, 0, 0, 0, 0, 0};
+  EXPECT_TRUE(kova::ParseSizedTimeSection(Json::Value("0 08:30:00-17:45:00"), &in));
+  EXPECT_EQ(7u, in.size);  // neither checked nor changed
+  EXPECT_EQ(17, in.endHour);
+}
+
 std::string Days(int n) {
   std::string text = "[";
   for (int d = 0; d < n; ++d) {

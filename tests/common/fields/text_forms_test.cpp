@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <string>
+
+#include "common/base/log.h"
 
 namespace kova {
 namespace {
@@ -30,6 +33,51 @@ TEST(TimeRange, SixFieldsCutToBytesLeadUntouched) {
   EXPECT_EQ(45, r.endMinute);
   EXPECT_EQ(300 & 0xFF, r.endSecond);
   EXPECT_EQ(-1, ParseTimeRange("8:30-17:45", 10, &r));
+}
+
+TEST(IpText, DottedFormLowestByteFirst) {
+  char text[16];
+  EXPECT_STREQ("192.168.0.1", IpToText(0x0100A8C0u, text));
+  EXPECT_EQ(0x0100A8C0u, TextToIp("192.168.0.1"));
+  EXPECT_EQ(0x04030205u, TextToIp("1.2.3.4.5"));  // a fifth part ORs into the lowest byte
+  EXPECT_EQ(0x00000200u, TextToIp("x.2"));        // junk skipped, never an error
+}
+
+TEST(IntList, PiecesLimitsAndCount) {
+  uint32_t v[100];
+  uint32_t count = 99;
+  ASSERT_EQ(0, ParseIntList("1,2,,4", 6, v, &count));
+  EXPECT_EQ(4u, count);
+  EXPECT_EQ(0u, v[2]);
+  EXPECT_EQ(4u, v[3]);
+  count = 99;
+  EXPECT_EQ(0, ParseIntList(nullptr, 0, nullptr, &count));  // empty: nothing written
+  EXPECT_EQ(99u, count);
+  EXPECT_EQ(-1, ParseIntList("1", -1, v, &count));
+  EXPECT_EQ(-1, ParseIntList("12345678,5", 10, v, nullptr));  // a piece of 8 characters
+  EXPECT_EQ(0, ParseIntList("7,8,9", 3, v, &count));          // only the first `len` bytes
+  EXPECT_EQ(2u, count);
+  std::string hundred = "0";
+  for (int i = 1; i < 100; ++i) hundred += "," + std::to_string(i);
+  ASSERT_EQ(0, ParseIntList(hundred.c_str(), static_cast<int32_t>(hundred.size()), v, &count));
+  EXPECT_EQ(99u, v[99]);
+  hundred += ",";  // the hundredth comma
+  EXPECT_EQ(-1, ParseIntList(hundred.c_str(), static_cast<int32_t>(hundred.size()), v, &count));
+}
+
+TEST(RightItem, IdNameMemoAndTheirLimits) {
+  RightItem item = {};
+  EXPECT_EQ(kErrBadParameter, ParseRightItem("1:a:b", 5, nullptr));
+  EXPECT_EQ(kErrMalformedData, ParseRightItem("12:admin", 8, &item));
+  EXPECT_EQ(kErrMalformedData, ParseRightItem("1:a:b:c", 7, &item));
+  const std::string id31 = std::string(30, '0') + "7:a:b";
+  EXPECT_EQ(0u, ParseRightItem(id31.c_str(), static_cast<int32_t>(id31.size()), &item));
+  EXPECT_EQ(7u, item.id);
+  for (const std::string& bad : {std::string(32, '1') + ":a:b", "1:" + std::string(33, 'n') + ":b",
+                                 "1:a:" + std::string(33, 'm')}) {
+    EXPECT_EQ(kErrMalformedData,
+              ParseRightItem(bad.c_str(), static_cast<int32_t>(bad.size()), &item));
+  }
 }
 
 }  // namespace
