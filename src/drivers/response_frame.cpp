@@ -139,6 +139,12 @@ void StartSizedRecord(unsigned char* record, uint32_t size) {
 
 namespace {
 
+// The bytes a text may take in the caller's buffer: all of them when it is
+// copied "at most", all but the NUL's otherwise.
+uint32_t TextRoom(CopyRule rule, uint32_t outLen) {
+  return rule == CopyRule::kAtMost ? outLen : outLen - 1;
+}
+
 // A text written into the caller's buffer: the NUL after it when there is
 // room for one.
 int EndPacked(uint64_t length, char* outJson, uint32_t outLen) {
@@ -151,9 +157,7 @@ int EndPacked(uint64_t length, char* outJson, uint32_t outLen) {
 
 int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRule rule) {
   if (outJson == nullptr || outLen == 0) return 0;
-  // Never written past the room the rule leaves.
-  const uint32_t room = rule == CopyRule::kAtMost ? outLen : outLen - 1;
-  return EndPacked(WriteJsonInto(value, outJson, room), outJson, outLen);
+  return EndPacked(WriteJsonInto(value, outJson, TextRoom(rule, outLen)), outJson, outLen);
 }
 
 namespace {
@@ -283,7 +287,7 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
       std::memcpy(copy.data(), record, std::min(stride, f.recordSize));
       return static_cast<const unsigned char*>(copy.data());
     };
-    const uint32_t room = f.copy == CopyRule::kAtMost ? outLen : outLen - 1;
+    const uint32_t room = TextRoom(f.copy, outLen);
     const bool members = f.packWalk == PackWalk::kObjectMembers;
     const bool array =
         !members && (n > 1 || f.packArrayAlways ||

@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "common/base/blocks.h"
+#include "common/base/allocation.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/analyse/rule_config.h"

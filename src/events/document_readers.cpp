@@ -5,7 +5,7 @@
 #include <cstring>
 #include <string>
 
-#include "common/base/blocks.h"
+#include "common/base/allocation.h"
 #include "common/base/platform.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdlib>
 
-#include "common/base/blocks.h"
+#include "common/base/allocation.h"
 #include "config/analyse/rule_types.h"
 #include "kova/records/events.h"
 

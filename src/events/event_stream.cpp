@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "common/base/blocks.h"
+#include "common/base/allocation.h"
 #include "common/json/json.h"
 #include "config/analyse/rule_types.h"
 #include "events/event_code_dictionary.h"

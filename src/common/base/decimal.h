@@ -32,13 +32,26 @@ inline char* PutDecimal(char* p, int32_t v, int width = 0) {
   return p;
 }
 
-// "%02d:%02d:%02d".
-inline char* PutClock(char* p, int32_t hour, int32_t minute, int32_t second) {
+// "%02d:%02d".
+inline char* PutClock(char* p, int32_t hour, int32_t minute) {
   p = PutDecimal(p, hour, 2);
   *p++ = ':';
-  p = PutDecimal(p, minute, 2);
+  return PutDecimal(p, minute, 2);
+}
+
+// "%02d:%02d:%02d".
+inline char* PutClock(char* p, int32_t hour, int32_t minute, int32_t second) {
+  p = PutClock(p, hour, minute);
   *p++ = ':';
   return PutDecimal(p, second, 2);
+}
+
+// "%02d:%02d:%02d-%02d:%02d:%02d": at most kClockRangeText bytes.
+inline char* PutClockRange(char* p, int32_t beginHour, int32_t beginMinute, int32_t beginSecond,
+                           int32_t endHour, int32_t endMinute, int32_t endSecond) {
+  p = PutClock(p, beginHour, beginMinute, beginSecond);
+  *p++ = '-';
+  return PutClock(p, endHour, endMinute, endSecond);
 }
 
 inline bool IsDigit(char c) { return c >= '0' && c <= '9'; }

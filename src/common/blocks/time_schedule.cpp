@@ -111,9 +111,7 @@ void FormatSection(int32_t enable, int32_t bh, int32_t bm, int32_t bs, int32_t e
   char text[kDecimalText + 1 + kClockRangeText];
   char* p = PutDecimal(text, enable);
   *p++ = ' ';
-  p = PutClock(p, bh, bm, bs);
-  *p++ = '-';
-  p = PutClock(p, eh, em, es);
+  p = PutClockRange(p, bh, bm, bs, eh, em, es);
   out = Json::Value(text, p);
 }
 

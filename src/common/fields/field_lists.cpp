@@ -6,7 +6,7 @@
 #include <cstring>
 #include <utility>
 
-#include "common/base/blocks.h"
+#include "common/base/allocation.h"
 #include "common/base/log.h"
 #include "common/fields/field_table.h"
 #include "common/fields/field_walk.h"

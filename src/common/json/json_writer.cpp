@@ -2,12 +2,9 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cinttypes>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
-
-#include "common/json/json.h"
 
 namespace kova {
 
@@ -25,6 +22,12 @@ bool TextSink::Grow(size_t n) {
 void TextSink::Clear() {
   if (grown_ == nullptr && base_ != nullptr) std::memset(base_, 0, static_cast<size_t>(cap_));
   len_ = 0;
+}
+
+uint64_t TextSink::Done() {
+  if (!full_) return len_;
+  Clear();
+  return 0;
 }
 
 namespace {
@@ -199,58 +202,6 @@ uint64_t StringLength(const char* begin, const char* end) {
   return n;
 }
 
-uint64_t Digits(uint64_t x) {
-  uint64_t n = 1;
-  for (; x >= 10; x /= 10) ++n;
-  return n;
-}
-
-}  // namespace
-
-uint64_t TextLength(const Json::Value& v) {
-  switch (v.type()) {
-    case Json::nullValue:
-      return 4;
-    case Json::booleanValue:
-      return v.asBool() ? 4 : 5;
-    case Json::intValue: {
-      const int64_t x = v.asLargestInt();
-      // The magnitude in unsigned arithmetic: INT64_MIN has no positive twin.
-      return x < 0 ? 1 + Digits(0 - static_cast<uint64_t>(x)) : Digits(static_cast<uint64_t>(x));
-    }
-    case Json::uintValue:
-      return Digits(v.asLargestUInt());
-    case Json::realValue: {
-      char num[64];
-      return FormatReal(v.asDouble(), num);
-    }
-    case Json::stringValue: {
-      const char* begin = nullptr;
-      const char* end = nullptr;
-      return v.getString(&begin, &end) ? StringLength(begin, end) : 2;
-    }
-    case Json::arrayValue: {
-      const Json::ArrayIndex n = v.size();
-      uint64_t total = 4 + (n != 0 ? 2 * (static_cast<uint64_t>(n) - 1) : 0);  // "[ ", ", ", " ]"
-      ForEachElement(v, n, [&total](uint32_t, const Json::Value& e) { total += TextLength(e); });
-      return total;
-    }
-    case Json::objectValue: {
-      const Json::ArrayIndex n = v.size();
-      uint64_t total = 4 + (n != 0 ? 2 * (static_cast<uint64_t>(n) - 1) : 0);  // "{ ", ", ", " }"
-      for (auto it = v.begin(), end = v.end(); it != end; ++it) {
-        const char* ke = nullptr;
-        const char* kb = it.memberName(&ke);
-        total += StringLength(kb, ke) + 3 + TextLength(*it);  // key, " : ", value
-      }
-      return total;
-    }
-  }
-  return 0;
-}
-
-namespace {
-
 // The least text an object keeps whatever its values become: its keys, each
 // with " : " and at least one byte of value, and the separators.
 uint64_t KeptLength(const Json::Value& v) {
@@ -287,9 +238,7 @@ uint64_t WriteJsonInto(const Json::Value& root, char* out, uint64_t room) {
   TextSink sink(out, room);
   WriteValue(root, &sink);
   sink.Put('\n');
-  if (!sink.full()) return sink.size();
-  sink.Clear();
-  return 0;
+  return sink.Done();
 }
 
 bool ArrayText::Add(const Json::Value& element) {
@@ -299,18 +248,14 @@ bool ArrayText::Add(const Json::Value& element) {
     sink_.Literal(", ");
   }
   WriteValue(element, &sink_);
-  if (!sink_.full()) return true;
-  sink_.Clear();
-  return false;
+  return sink_.Done() != 0;
 }
 
 uint64_t ArrayText::Finish() {
   if (count_ == 0) sink_.Literal("[ ");
   sink_.Literal(" ]");
   sink_.Put('\n');
-  if (!sink_.full()) return sink_.size();
-  sink_.Clear();
-  return 0;
+  return sink_.Done();
 }
 
 }  // namespace kova

@@ -41,6 +41,8 @@ class TextSink {
   }
   // Forgets what was written; a caller's buffer is cleared over its room.
   void Clear();
+  // The length written; 0 once the text did not fit, with the sink cleared.
+  uint64_t Done();
 
  private:
   bool Grow(size_t n);
@@ -77,10 +79,6 @@ std::string WriteJson(const Json::Value& root);
 // length written, newline included and no NUL after it; 0 when the text is
 // longer, with the `room` bytes of `out` cleared.
 uint64_t WriteJsonInto(const Json::Value& root, char* out, uint64_t room);
-
-// Length of the single-line text of `v`, newline not included, counted
-// without writing it.
-uint64_t TextLength(const Json::Value& v);
 
 // The room of a caller's text buffer, spent while a pack puts its records
 // one by one into one object (each adds or replaces members and removes

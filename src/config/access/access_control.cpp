@@ -46,17 +46,12 @@ void PackRange(const unsigned char* record, Json::Value& obj, const Field& f) {
   char text[kova::kClockRangeText];
   char* p = text;
   if (r->secondsPresent != 0) {
-    p = kova::PutClock(p, r->beginHour, r->beginMinute, r->beginSecond);
+    p = kova::PutClockRange(p, r->beginHour, r->beginMinute, r->beginSecond, r->endHour,
+                            r->endMinute, r->endSecond);
+  } else {
+    p = kova::PutClock(p, r->beginHour, r->beginMinute);
     *p++ = '-';
-    p = kova::PutClock(p, r->endHour, r->endMinute, r->endSecond);
-  } else {  // "%02d:%02d-%02d:%02d"
-    p = kova::PutDecimal(p, r->beginHour, 2);
-    *p++ = ':';
-    p = kova::PutDecimal(p, r->beginMinute, 2);
-    *p++ = '-';
-    p = kova::PutDecimal(p, r->endHour, 2);
-    *p++ = ':';
-    p = kova::PutDecimal(p, r->endMinute, 2);
+    p = kova::PutClock(p, r->endHour, r->endMinute);
   }
   kova::SetKeptMember(obj, f.key) = Json::Value(text, p);
 }

@@ -47,9 +47,8 @@ void ParseWindowTimes(const Json::Value& v, TimeSectionRecord* window) {
 
 void PackWindowTimes(const TimeSectionRecord& w, Json::Value& out) {
   char text[kClockRangeText];
-  char* p = PutClock(text, w.beginHour, w.beginMinute, w.beginSecond);
-  *p++ = '-';
-  out = Json::Value(text, PutClock(p, w.endHour, w.endMinute, w.endSecond));
+  out = Json::Value(text, PutClockRange(text, w.beginHour, w.beginMinute, w.beginSecond, w.endHour,
+                                        w.endMinute, w.endSecond));
 }
 
 // "ChnTime" keys its channels by name ("En5", "Time5"), each an array of

@@ -59,9 +59,8 @@ std::string WriteSchemeSection(const LightingSchemeSection& s) {
   const int modeLength = end != nullptr ? static_cast<int>(static_cast<const char*>(end) - s.mode)
                                         : static_cast<int>(sizeof s.mode);
   char text[kClockRangeText + 1];  // the range and its blank
-  char* p = PutClock(text, s.beginHour, s.beginMinute, s.beginSecond);
-  *p++ = '-';
-  p = PutClock(p, s.endHour, s.endMinute, s.endSecond);
+  char* p = PutClockRange(text, s.beginHour, s.beginMinute, s.beginSecond, s.endHour, s.endMinute,
+                          s.endSecond);
   *p++ = ' ';
   std::string out(text, p);
   return out.append(s.mode, static_cast<size_t>(modeLength));

@@ -2,8 +2,8 @@
 // rule records and the entries of allocated lists. They come from the global
 // operator new, zeroed, so that a program that replaces it (to count, to
 // limit, to find leaks) sees them as it sees every other allocation.
-#ifndef KOVA_COMMON_BASE_BLOCKS_H_
-#define KOVA_COMMON_BASE_BLOCKS_H_
+#ifndef KOVA_COMMON_BASE_ALLOCATION_H_
+#define KOVA_COMMON_BASE_ALLOCATION_H_
 
 #include <cstddef>
 #include <cstring>
@@ -23,4 +23,4 @@ inline void ReleaseBlock(void* p) { ::operator delete(p); }
 
 }  // namespace kova
 
-#endif  // KOVA_COMMON_BASE_BLOCKS_H_
+#endif  // KOVA_COMMON_BASE_ALLOCATION_H_
