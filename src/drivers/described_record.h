@@ -33,6 +33,16 @@ bool PackDescribed(const unsigned char* record, Json::Value& out) {
   return PackValue(record, kWhole, &out);
 }
 
+template <const Field& kWhole>
+bool PackDescribedText(const unsigned char* record, TextSink* out) {
+  return WriteValueText(record, kWhole, out);
+}
+// The pack of a described record, for a frame.
+template <const Field& kWhole>
+constexpr Packing DescribedPack() {
+  return Packing(PackDescribed<kWhole>, PackDescribedText<kWhole>);
+}
+
 // A record that carries its own size, for a frame that does not clear the
 // buffer: cleared with its size word written (also for a null element),
 // then read like ParseDescribed.
@@ -52,7 +62,7 @@ bool ParseDescribedSized(const Json::Value& element, const StepContext& ctx,
 template <typename Rec, const Field& kWhole>
 constexpr ResponseFrame DescribedFrame() {
   constexpr ResponseFrame frame =
-      ResponseFrame::For<Rec>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
+      ResponseFrame::For<Rec>(ParseDescribed<kWhole>, DescribedPack<kWhole>())
           .Walk(RecordWalk::kPerChannel)
           .Describe(kWhole);
   return kWhole.shape == FieldShape::kList ? frame.ArrayRecords() : frame;

@@ -162,6 +162,18 @@ int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRul
 
 namespace {
 
+// One record's element through its step's value; false when it did not
+// fit (the buffer cleared) or the step failed (`failed` set).
+bool PackElement(const ResponseFrame& f, const unsigned char* record, ArrayText* text,
+                 bool* failed) {
+  Json::Value element;
+  if (!f.pack(record, element)) {
+    *failed = true;
+    return false;
+  }
+  return text->Add(element);
+}
+
 // Whether record i is worked in a copy: a slot shorter than the record, or
 // not aligned for it (caller-sized strides are arbitrary).
 bool NeedsCopy(const ResponseFrame& f, const unsigned char* slot, uint32_t stride) {
@@ -298,14 +310,29 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
       // whole array is kept.
       ArrayText text(outJson, room);
       for (uint32_t i = 0; i < n; ++i) {
-        Json::Value element;
-        if (!f.pack(recordAt(i), element)) {
+        const unsigned char* record = recordAt(i);
+        bool failed = false;
+        const bool fits = f.packText != nullptr ? text.AddWritten([&](TextSink* out) {
+          failed = !f.packText(record, out);
+          return !failed;
+        })
+                                                : PackElement(f, record, &text, &failed);
+        if (failed) {
           std::memset(outJson, 0, outLen);
           return 0;
         }
-        if (!text.Add(element)) return 0;  // the buffer cleared
+        if (!fits) return 0;  // the buffer cleared
       }
       return EndPacked(text.Finish(), outJson, outLen);
+    }
+    if (!members && f.packText != nullptr) {
+      TextSink sink(outJson, room);
+      if (!f.packText(recordAt(0), &sink)) {
+        std::memset(outJson, 0, outLen);
+        return 0;
+      }
+      sink.Put('\n');
+      return EndPacked(sink.Done(), outJson, outLen);
     }
     Json::Value root;
     if (members) root = Json::Value(Json::objectValue);

@@ -11,7 +11,7 @@
 // src/api/name_table.inc names that frame:
 //
 //   extern const ResponseFrame kNtpFrame =
-//       ResponseFrame::For<NtpConfig>(ParseTableStep<kNtp>, PackTableStep<kNtp>)
+//       ResponseFrame::For<NtpConfig>(ParseTableStep<kNtp>, TablePack<kNtp>())
 //           .Walk(RecordWalk::kPerChannel)
 //           .IgnoreResult();
 //
@@ -27,6 +27,7 @@
 #include <cstdint>
 
 #include "common/fields/field_table.h"
+#include "common/fields/field_text.h"
 
 namespace kova {
 
@@ -47,6 +48,18 @@ using ParseStep = bool (*)(const Json::Value& element, const StepContext& ctx,
                            unsigned char* record);
 // One record into one JSON value (null on entry). false fails the whole pack.
 using PackStep = bool (*)(const unsigned char* record, Json::Value& out);
+// The same record's text written straight, byte for byte what the value of
+// its PackStep gives through the single-line writer, with no value built.
+using PackTextStep = bool (*)(const unsigned char* record, TextSink* out);
+
+// A frame's pack: the step, and its text step when it has one (a
+// description's walk has; a hand-written step is given alone).
+struct Packing {
+  constexpr Packing(PackStep step) : tree(step) {}  // NOLINT: a step alone packs through its value
+  constexpr Packing(PackStep step, PackTextStep textStep) : tree(step), text(textStep) {}
+  PackStep tree;
+  PackTextStep text = nullptr;
+};
 
 // Whether "result" decides anything.
 enum class ResultRule : uint8_t {
@@ -122,6 +135,7 @@ struct ResponseFrame {
   uint32_t recordAlign = 1;  // a caller's slot not aligned for the record is worked in a copy
   ParseStep parse = nullptr;
   PackStep pack = nullptr;
+  PackTextStep packText = nullptr;  // when set, used instead of `pack` and the writer
   ResultRule result = ResultRule::kMustBeTrue;
   TableAt tableAt = TableAt::kParamsTable;
   NullTable nullTable = NullTable::kSucceedEmpty;
@@ -164,12 +178,13 @@ struct ResponseFrame {
   const Field* description = nullptr;
 
   template <typename Rec>
-  static constexpr ResponseFrame For(ParseStep p, PackStep k) {
+  static constexpr ResponseFrame For(ParseStep p, Packing k) {
     ResponseFrame f;
     f.recordSize = static_cast<uint32_t>(sizeof(Rec));
     f.recordAlign = static_cast<uint32_t>(alignof(Rec));
     f.parse = p;
-    f.pack = k;
+    f.pack = k.tree;
+    f.packText = k.text;
     return f;
   }
   // The one way an attribute is set: a copy with `member` set to `v`.
@@ -248,7 +263,7 @@ struct ResponseFrame {
 // cleared, an empty text refused, a missing table read as one cleared record
 // and the returned length one record.
 template <typename Rec>
-constexpr ResponseFrame DeviceObjectFrame(ParseStep parse, PackStep pack) {
+constexpr ResponseFrame DeviceObjectFrame(ParseStep parse, Packing pack) {
   return ResponseFrame::For<Rec>(parse, pack)
       .RefuseEmptyText()
       .OnNullTable(NullTable::kAllZeroRecord)
@@ -258,7 +273,7 @@ constexpr ResponseFrame DeviceObjectFrame(ParseStep parse, PackStep pack) {
 // or buffers): never cleared by the frame, a missing table read by the step
 // like any other, the returned length one record.
 template <typename Rec>
-constexpr ResponseFrame KeptRecordFrame(ParseStep parse, PackStep pack) {
+constexpr ResponseFrame KeptRecordFrame(ParseStep parse, Packing pack) {
   return ResponseFrame::For<Rec>(parse, pack)
       .Clear(Clearing::kNone)
       .OnNullTable(NullTable::kStep)
@@ -267,7 +282,7 @@ constexpr ResponseFrame KeptRecordFrame(ParseStep parse, PackStep pack) {
 // A table-driver configuration: its record, its per-record steps (which
 // never fail) and its driver settings.
 template <typename Rec>
-constexpr ResponseFrame DriverFrame(ParseStep parse, PackStep pack, DriverSettings d) {
+constexpr ResponseFrame DriverFrame(ParseStep parse, Packing pack, DriverSettings d) {
   return ResponseFrame::For<Rec>(parse, pack).Driver(d);
 }
 
@@ -309,11 +324,21 @@ bool PackTableStep(const unsigned char* record, Json::Value& out) {
   PackFields(record, out, kTable);
   return true;
 }
+template <const FieldTable& kTable>
+bool PackTableText(const unsigned char* record, TextSink* out) {
+  WriteFieldsText(record, kTable, out);
+  return true;
+}
+// The pack of a record that is one field table, for a frame.
+template <const FieldTable& kTable>
+constexpr Packing TablePack() {
+  return Packing(PackTableStep<kTable>, PackTableText<kTable>);
+}
 
 // The frame of a record that is one field table, described by it.
 template <typename Rec, const FieldTable& kTable>
 constexpr ResponseFrame TableFrame() {
-  return ResponseFrame::For<Rec>(ParseTableStep<kTable>, PackTableStep<kTable>)
+  return ResponseFrame::For<Rec>(ParseTableStep<kTable>, TablePack<kTable>())
       .Describe(WholeTable<Rec, kTable>::kField);
 }
 

@@ -7,6 +7,7 @@
 #include "common/blocks/event_handler_lists.h"
 #include "common/blocks/time_schedule.h"
 #include "common/fields/field_table.h"
+#include "common/fields/field_text.h"
 #include "common/json/json.h"
 
 namespace kova {
@@ -265,6 +266,57 @@ void PackLinkageStep(const unsigned char* record, Json::Value& obj, const Field&
   PackEventHandler(*reinterpret_cast<const EventHandlerRecord*>(record + f.offset), handler);
   PackBeside(record, f, handler);
   if (f.table != nullptr) PackFields(record, handler, *f.table);
+}
+
+namespace {
+
+struct LinkageAt {
+  const unsigned char* record;
+  const Field* field;
+};
+
+// "TimeSection" as PackEventHandler and PackBeside leave it: the block's
+// own 7 or 8 days, the alarm week over their first seven days, or the
+// rule's grid in their place.
+void WriteLinkageSchedule(const void* context, TextSink* out) {
+  const LinkageAt& at = *static_cast<const LinkageAt*>(context);
+  const Field& f = *at.field;
+  const unsigned char* beside = at.record + f.beside.offset;
+  if (f.beside.size == sizeof(WeekSchedule7x10)) {
+    WriteTimeSectionGridText(reinterpret_cast<const TimeSectionRecord*>(beside), KOVA_WEEK_DAYS,
+                             KOVA_ANALYSE_SECTIONS_PER_DAY, out);
+    return;
+  }
+  const HolidaySchedule& schedule =
+      reinterpret_cast<const EventHandlerRecord*>(at.record + f.offset)->schedule;
+  constexpr int32_t kDays = sizeof schedule.sections / sizeof schedule.sections[0];
+  const TimeSectionRecord* rows[kDays];
+  for (int32_t d = 0; d < kDays; ++d) rows[d] = schedule.sections[d];
+  if (f.beside.size == sizeof(WeekSchedule7x6)) {
+    const WeekSchedule7x6* week = reinterpret_cast<const WeekSchedule7x6*>(beside);
+    for (int32_t d = 0; d < KOVA_WEEK_DAYS; ++d) rows[d] = week->sections[d];
+  }
+  static_assert(sizeof schedule.sections[0] == sizeof(TimeSectionRecord) * KOVA_SECTIONS_PER_DAY,
+                "the alarm week's days are the block's days");
+  WriteSectionRowsText(rows, schedule.holidayEnabled != 0 ? kDays : KOVA_WEEK_DAYS,
+                       KOVA_SECTIONS_PER_DAY, out);
+}
+
+}  // namespace
+
+void PackLinkageText(const unsigned char* record, const Field& f, TextSink* out) {
+  const LinkageAt at{record, &f};
+  ObjectText handler;
+  handler.Member("TimeSection", WriteLinkageSchedule, &at);
+  handler.Fields(record + f.offset, kEventHandler);
+  if (f.table != nullptr) handler.Fields(record, *f.table);
+  if (handler.ok()) {
+    handler.Write(out);
+    return;
+  }
+  Json::Value obj;
+  PackLinkageStep(record, obj, f);
+  WriteJsonValue(Member(obj, f.key), out);
 }
 
 }  // namespace kova

@@ -49,6 +49,8 @@ void PackEventHandler(const EventHandlerRecord& record, Json::Value& jsonEventHa
 // schedule kept beside it, then the extra table's members.
 void ParseLinkageStep(const Json::Value& obj, unsigned char* record, const Field& f);
 void PackLinkageStep(const unsigned char* record, Json::Value& obj, const Field& f);
+// PackLinkageStep's member written straight as text.
+void PackLinkageText(const unsigned char* record, const Field& f, TextSink* out);
 
 // A schedule grid of type Grid kept in the record beside a linkage block.
 template <typename Grid>
@@ -94,7 +96,8 @@ constexpr LinkageField MakeLinkage(size_t offset) {
   static_assert(std::is_same<T, EventHandlerRecord>::value,
                 "an \"EventHandler\" field holds an EventHandlerRecord");
   return LinkageField{MakeCustom("EventHandler", offset, static_cast<uint32_t>(sizeof(T)),
-                                 ParseLinkageStep, PackLinkageStep)};
+                                 ParseLinkageStep, PackLinkageStep)
+                          .PackText(PackLinkageText)};
 }
 
 }  // namespace kova

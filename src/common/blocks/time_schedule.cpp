@@ -6,6 +6,7 @@
 
 #include "common/base/decimal.h"
 #include "common/json/json.h"
+#include "common/json/json_writer.h"
 
 namespace kova {
 
@@ -136,6 +137,61 @@ bool PackTimeSectionGrid(Json::Value& jsonOut, const TimeSectionRecord* sections
     }
   }
   return true;
+}
+
+namespace {
+
+// One day's sections, "[ "...", ... ]".
+void WriteSectionRow(const TimeSectionRecord* row, int32_t sectionsPerDay, TextSink* out) {
+  out->Literal("[ ");
+  for (int32_t s = 0; s < sectionsPerDay; ++s) {
+    const TimeSectionRecord& r = row[s];
+    // The section's text needs no escapes: digits, signs, ' ', ':' and '-'.
+    char text[2 + 2 + kDecimalText + 1 + kClockRangeText];
+    char* p = text;
+    if (s != 0) {
+      *p++ = ',';
+      *p++ = ' ';
+    }
+    *p++ = '"';
+    p = PutDecimal(p, r.enable);
+    *p++ = ' ';
+    p = PutClockRange(p, r.beginHour, r.beginMinute, r.beginSecond, r.endHour, r.endMinute,
+                      r.endSecond);
+    *p++ = '"';
+    out->Put(text, static_cast<size_t>(p - text));
+  }
+  out->Literal(" ]");
+}
+
+}  // namespace
+
+void WriteSectionRowsText(const TimeSectionRecord* const* rows, int32_t days,
+                          int32_t sectionsPerDay, TextSink* out) {
+  if (rows == nullptr || days < 1 || sectionsPerDay < 1) {
+    out->Literal("null");
+    return;
+  }
+  out->Literal("[ ");
+  for (int32_t d = 0; d < days; ++d) {
+    if (d != 0) out->Literal(", ");
+    WriteSectionRow(rows[d], sectionsPerDay, out);
+  }
+  out->Literal(" ]");
+}
+
+void WriteTimeSectionGridText(const TimeSectionRecord* sections, int32_t days,
+                              int32_t sectionsPerDay, TextSink* out) {
+  if (sections == nullptr || days < 1 || sectionsPerDay < 1) {
+    out->Literal("null");
+    return;
+  }
+  out->Literal("[ ");
+  for (int32_t d = 0; d < days; ++d) {
+    if (d != 0) out->Literal(", ");
+    WriteSectionRow(sections + static_cast<size_t>(d) * sectionsPerDay, sectionsPerDay, out);
+  }
+  out->Literal(" ]");
 }
 
 namespace {

@@ -18,11 +18,20 @@
 
 namespace kova {
 
+class TextSink;
+
 // Writes the whole grid, empty sections included, as jsonOut[d][s]
 // strings. `sections` holds days * sectionsPerDay records, day-major.
 // False (nothing written) when `sections` is null or a dimension is < 1.
 bool PackTimeSectionGrid(Json::Value& jsonOut, const TimeSectionRecord* sections, int32_t days,
                          int32_t sectionsPerDay);
+// The text of that grid packed into a null value: `days` rows, row d the
+// `sectionsPerDay` records from rows[d]; "null" when a dimension is < 1.
+void WriteSectionRowsText(const TimeSectionRecord* const* rows, int32_t days,
+                          int32_t sectionsPerDay, TextSink* out);
+// The same for a day-major grid.
+void WriteTimeSectionGridText(const TimeSectionRecord* sections, int32_t days,
+                              int32_t sectionsPerDay, TextSink* out);
 
 // Reads an array of days, each an array of section strings, into a grid of
 // maxDays * maxSectionsPerDay records; day d's section s lands in record

@@ -12,6 +12,8 @@
 
 namespace kova {
 
+class TextSink;
+
 // What one scalar (or one tuple item, or one list entry) holds.
 enum class FieldKind : uint8_t {
   kBool,     // boolean conversion stored as 0/1 in an integer member of any width
@@ -135,6 +137,10 @@ struct FieldTable {
 // `obj`; `field.key` and `field.offset` say which.
 using CustomParse = void (*)(const Json::Value& obj, unsigned char* record, const Field& field);
 using CustomPack = void (*)(const unsigned char* record, Json::Value& obj, const Field& field);
+// The same step's member written straight as text: the value (no key) of
+// the one member `field.key` its CustomPack always writes, byte for byte
+// what the single-line writer gives for it.
+using CustomPackText = void (*)(const unsigned char* record, const Field& field, TextSink* out);
 
 // Where a flag or count member sits in the record.
 struct Slot {
@@ -169,6 +175,7 @@ struct Field {
   const char* noMemoryReport = nullptr;  // allocated kList: reported when its entries cannot be had
   CustomParse parse = nullptr;           // kCustom
   CustomPack pack = nullptr;             // kCustom
+  CustomPackText packText = nullptr;     // kCustom: when set, pack writes text with it
   Slot beside = {0, 0};                  // kCustom: a second member its step keeps (size 0: none)
   // Parse rules for a member that is missing, null or of another JSON type
   // (see the builders below).
@@ -237,6 +244,9 @@ struct Field {
   }
   // Pack: a nested block none of whose members is written packs as null.
   constexpr Field NullWhenEmpty() const { return With(&Field::nullWhenEmpty, true); }
+  // A custom step that always writes its one member `key` (when present by
+  // its presence rule), and writes it straight as text with `write`.
+  constexpr Field PackText(CustomPackText write) const { return With(&Field::packText, write); }
 };
 
 // The description of a record type, found by the member's type for nested

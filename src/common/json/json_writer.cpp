@@ -138,20 +138,15 @@ void WriteValue(const Json::Value& v, TextSink* out) {
         out->Literal("false");
       }
       break;
-    case Json::intValue: {
-      const int64_t x = v.asLargestInt();
-      // The magnitude in unsigned arithmetic: INT64_MIN has no positive twin.
-      WriteUnsigned(x < 0 ? 0 - static_cast<uint64_t>(x) : static_cast<uint64_t>(x), x < 0, out);
+    case Json::intValue:
+      WriteJsonInt(v.asLargestInt(), out);
       break;
-    }
     case Json::uintValue:
       WriteUnsigned(v.asLargestUInt(), false, out);
       break;
-    case Json::realValue: {
-      char num[64];
-      out->Put(num, FormatReal(v.asDouble(), num));
+    case Json::realValue:
+      WriteJsonReal(v.asDouble(), out);
       break;
-    }
     case Json::stringValue: {
       const char* begin = nullptr;
       const char* end = nullptr;
@@ -218,6 +213,24 @@ uint64_t KeptLength(const Json::Value& v) {
 
 }  // namespace
 
+void WriteJsonValue(const Json::Value& v, TextSink* out) { WriteValue(v, out); }
+
+void WriteJsonString(const char* begin, const char* end, TextSink* out) {
+  WriteString(begin, end, out);
+}
+
+void WriteJsonInt(int64_t x, TextSink* out) {
+  // The magnitude in unsigned arithmetic: INT64_MIN has no positive twin.
+  WriteUnsigned(x < 0 ? 0 - static_cast<uint64_t>(x) : static_cast<uint64_t>(x), x < 0, out);
+}
+
+void WriteJsonUInt(uint64_t x, TextSink* out) { WriteUnsigned(x, false, out); }
+
+void WriteJsonReal(double x, TextSink* out) {
+  char num[64];
+  out->Put(num, FormatReal(x, num));
+}
+
 bool TextBudget::Spend(const Json::Value& root, uint32_t index) {
   // A later record may replace a member's value with a shorter one (two
   // devices with one identifier), so only what the object keeps counts.
@@ -241,12 +254,16 @@ uint64_t WriteJsonInto(const Json::Value& root, char* out, uint64_t room) {
   return sink.Done();
 }
 
-bool ArrayText::Add(const Json::Value& element) {
+void ArrayText::Separate() {
   if (count_++ == 0) {
     sink_.Literal("[ ");
   } else {
     sink_.Literal(", ");
   }
+}
+
+bool ArrayText::Add(const Json::Value& element) {
+  Separate();
   WriteValue(element, &sink_);
   return sink_.Done() != 0;
 }

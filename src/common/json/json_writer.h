@@ -63,14 +63,33 @@ class ArrayText {
   ArrayText(char* out, uint64_t room) : sink_(out, room) {}
   // False once the text no longer fits, with the room cleared.
   bool Add(const Json::Value& element);
+  // The same for an element `write(TextSink*)` writes itself; false when
+  // it fails (nothing is cleared then) or the text no longer fits.
+  template <typename Write>
+  bool AddWritten(Write write) {
+    Separate();
+    if (!write(&sink_)) return false;
+    return sink_.Done() != 0;
+  }
   // The length written, newline included and no NUL after it; 0 when the
   // text does not fit, with the room cleared.
   uint64_t Finish();
 
  private:
+  void Separate();
+
   TextSink sink_;
   uint32_t count_ = 0;
 };
+
+// The pieces of the text, for writers that walk something other than a
+// value tree: each writes exactly what the tree's writer writes for a value
+// of that kind.
+void WriteJsonValue(const Json::Value& v, TextSink* out);
+void WriteJsonString(const char* begin, const char* end, TextSink* out);
+void WriteJsonInt(int64_t x, TextSink* out);
+void WriteJsonUInt(uint64_t x, TextSink* out);
+void WriteJsonReal(double x, TextSink* out);
 
 // Returns the single-line text of `root`, newline included.
 std::string WriteJson(const Json::Value& root);

@@ -46,6 +46,6 @@ bool ParseInput(const Json::Value& table, const StepContext& ctx, unsigned char*
 }  // namespace
 
 extern const ResponseFrame kAlarmFrame =
-    AlarmSourceFrame<R>(ParseInput, PackTableStep<kTable>).Describe(WholeTable<R, kTable>::kField);
+    AlarmSourceFrame<R>(ParseInput, TablePack<kTable>()).Describe(WholeTable<R, kTable>::kField);
 
 }  // namespace kova

@@ -48,8 +48,8 @@ constexpr DriverSettings kOneRecord{0, false, true, false};
 extern const ResponseFrame kAlarmLampFrame =
     DriverFrame<AlarmLampRecord>(ParseAlarmLamp, PackAlarmLamp, kOneRecord);
 extern const ResponseFrame kDefenceArmModeFrame =
-    DriverFrame<DefenceArmModeRecord>(ParseTableStep<kDefenceArmMode>,
-                                      PackTableStep<kDefenceArmMode>, kOneRecord)
+    DriverFrame<DefenceArmModeRecord>(ParseTableStep<kDefenceArmMode>, TablePack<kDefenceArmMode>(),
+                                      kOneRecord)
         .Describe(WholeTable<DefenceArmModeRecord, kDefenceArmMode>::kField);
 
 }  // namespace kova

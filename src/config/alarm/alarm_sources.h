@@ -16,7 +16,7 @@
 namespace kova {
 
 template <typename Rec>
-constexpr ResponseFrame AlarmSourceFrame(ParseStep parse, PackStep pack) {
+constexpr ResponseFrame AlarmSourceFrame(ParseStep parse, Packing pack) {
   return ResponseFrame::For<Rec>(parse, pack)
       .IgnoreResult()
       .OnNullTable(NullTable::kStep)
@@ -26,7 +26,7 @@ constexpr ResponseFrame AlarmSourceFrame(ParseStep parse, PackStep pack) {
 
 template <typename Rec, const FieldTable& kTable>
 constexpr ResponseFrame AlarmSourceFrame() {
-  return AlarmSourceFrame<Rec>(ParseTableStep<kTable>, PackTableStep<kTable>)
+  return AlarmSourceFrame<Rec>(ParseTableStep<kTable>, TablePack<kTable>())
       .Describe(WholeTable<Rec, kTable>::kField);
 }
 

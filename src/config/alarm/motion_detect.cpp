@@ -169,7 +169,7 @@ bool ParseMotion(const Json::Value& table, const StepContext& ctx, unsigned char
 }  // namespace
 
 extern const ResponseFrame kMotionDetectFrame =
-    AlarmSourceFrame<R>(ParseMotion, PackTableStep<kTable>)
+    AlarmSourceFrame<R>(ParseMotion, TablePack<kTable>())
         .Describe(WholeTable<R, kTable>::kField)
         .Result(ResultRule::kMustBeTrue)
         .OnNullTable(NullTable::kAllZeroRecord);

@@ -23,7 +23,7 @@ constexpr FieldTable kSceneChange = KOVA_TABLE(kSceneChangeFields);
 // for; an element that is not an object reads as an empty record.
 constexpr ResponseFrame kSceneChangeFrame =
     ResponseFrame::For<SceneChangeDetectRecord>(ParseTableStep<kSceneChange>,
-                                                PackTableStep<kSceneChange>)
+                                                TablePack<kSceneChange>())
         .Walk(RecordWalk::kPerChannel)
         .Describe(WholeTable<SceneChangeDetectRecord, kSceneChange>::kField);
 

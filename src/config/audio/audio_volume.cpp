@@ -12,7 +12,7 @@ constexpr Field kVolume = KOVA_F(AudioVolumeConfig, volume, nullptr, kInt);
 }  // namespace
 
 extern const ResponseFrame kAudioVolumeFrame =
-    ResponseFrame::For<AudioVolumeConfig>(ParseDescribed<kVolume>, PackDescribed<kVolume>)
+    ResponseFrame::For<AudioVolumeConfig>(ParseDescribed<kVolume>, DescribedPack<kVolume>())
         .Walk(RecordWalk::kPerChannel)
         .Describe(kVolume);
 

@@ -24,7 +24,7 @@ bool ParseFromParams(const Json::Value& /*table*/, const StepContext& ctx, unsig
 // record is the "params" object it came from.
 template <typename Rec, const FieldTable& kTable>
 constexpr ResponseFrame MethodAnswerFrame() {
-  return ResponseFrame::For<Rec>(ParseFromParams<kTable>, PackTableStep<kTable>)
+  return ResponseFrame::For<Rec>(ParseFromParams<kTable>, TablePack<kTable>())
       .OnNullTable(NullTable::kStep)
       .Returned(ReturnedLength::kSetRecord)
       .Describe(WholeTable<Rec, kTable>::kField);

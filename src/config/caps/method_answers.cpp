@@ -167,7 +167,7 @@ extern const ResponseFrame kVideoStatSummaryFrame =
 extern const ResponseFrame kFocusStatusFrame = MethodAnswerFrame<FocusStatus, kFocusAnswer>();
 // "result" must be true (a refusal is false), and it is read from the answer's root.
 extern const ResponseFrame kPtzInstanceFrame =
-    ResponseFrame::For<PtzInstance>(ParseTableStep<kPtzInstance>, PackTableStep<kPtzInstance>)
+    ResponseFrame::For<PtzInstance>(ParseTableStep<kPtzInstance>, TablePack<kPtzInstance>())
         .Table(TableAt::kRoot)
         .Returned(ReturnedLength::kSetRecord);
 

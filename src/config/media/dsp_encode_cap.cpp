@@ -72,9 +72,8 @@ bool ParseCap(const Json::Value& table, const StepContext& ctx, unsigned char* r
 
 }  // namespace
 
-extern const ResponseFrame kDspEncodeCapFrame =
-    ResponseFrame::For<D>(ParseCap, PackTableStep<kTable>)
-        .Clear(Clearing::kEachRecord)
-        .Describe(WholeTable<D, kTable>::kField);
+extern const ResponseFrame kDspEncodeCapFrame = ResponseFrame::For<D>(ParseCap, TablePack<kTable>())
+                                                    .Clear(Clearing::kEachRecord)
+                                                    .Describe(WholeTable<D, kTable>::kField);
 
 }  // namespace kova

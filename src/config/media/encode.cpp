@@ -108,14 +108,13 @@ bool ParseChannel(const Json::Value& table, const StepContext& ctx, unsigned cha
 
 }  // namespace
 
-extern const ResponseFrame kEncodeFrame =
-    ResponseFrame::For<C>(ParseChannel, PackTableStep<kChannel>)
-        .Describe(WholeTable<C, kChannel>::kField)
-        .Walk(RecordWalk::kPerChannel)
-        .ChannelAtRoot()
-        .Clear(Clearing::kNone)
-        .Short(ShortInput::kNullUnlessEmpty)
-        .ArrayUnlessExactlyOne()
-        .Copy(CopyRule::kAtMost);
+extern const ResponseFrame kEncodeFrame = ResponseFrame::For<C>(ParseChannel, TablePack<kChannel>())
+                                              .Describe(WholeTable<C, kChannel>::kField)
+                                              .Walk(RecordWalk::kPerChannel)
+                                              .ChannelAtRoot()
+                                              .Clear(Clearing::kNone)
+                                              .Short(ShortInput::kNullUnlessEmpty)
+                                              .ArrayUnlessExactlyOne()
+                                              .Copy(CopyRule::kAtMost);
 
 }  // namespace kova

@@ -59,6 +59,7 @@ constexpr const Field& kWhole = DescribedObject<DvripConfig>::kWhole;
 }  // namespace
 
 extern const ResponseFrame kDvripFrame =
-    DeviceObjectFrame<DvripConfig>(ParseDescribed<kWhole>, PackDescribed<kWhole>).Describe(kWhole);
+    DeviceObjectFrame<DvripConfig>(ParseDescribed<kWhole>, DescribedPack<kWhole>())
+        .Describe(kWhole);
 
 }  // namespace kova

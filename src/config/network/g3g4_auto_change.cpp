@@ -17,7 +17,7 @@ constexpr FieldTable kTable = KOVA_TABLE(kFields);
 }  // namespace
 
 extern const ResponseFrame kG3G4AutoChangeFrame =
-    DriverFrame<G3G4AutoChangeRecord>(ParseTableStep<kTable>, PackTableStep<kTable>,
+    DriverFrame<G3G4AutoChangeRecord>(ParseTableStep<kTable>, TablePack<kTable>(),
                                       {0, false, true, false})
         .Describe(WholeTable<G3G4AutoChangeRecord, kTable>::kField);
 

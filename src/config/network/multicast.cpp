@@ -44,7 +44,7 @@ constexpr const Field& kWhole = DescribedObject<MulticastConfig>::kWhole;
 
 extern const ResponseFrame kMulticastFrame =
     KeptRecordFrame<MulticastConfig>(ParseDescribedSized<MulticastConfig, kWhole>,
-                                     PackDescribed<kWhole>)
+                                     DescribedPack<kWhole>())
         .Describe(kWhole);
 
 }  // namespace kova

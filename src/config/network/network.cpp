@@ -86,7 +86,7 @@ constexpr const Field& kWhole = DescribedObject<NetworkConfig>::kWhole;
 }  // namespace
 
 extern const ResponseFrame kNetworkFrame =
-    DeviceObjectFrame<NetworkConfig>(ParseDescribed<kWhole>, PackDescribed<kWhole>)
+    DeviceObjectFrame<NetworkConfig>(ParseDescribed<kWhole>, DescribedPack<kWhole>())
         .Describe(kWhole);
 
 }  // namespace kova

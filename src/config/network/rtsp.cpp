@@ -44,7 +44,7 @@ constexpr const Field& kWhole = DescribedObject<RtspConfig>::kWhole;
 }  // namespace
 
 extern const ResponseFrame kRtspFrame =
-    KeptRecordFrame<RtspConfig>(ParseDescribedSized<RtspConfig, kWhole>, PackDescribed<kWhole>)
+    KeptRecordFrame<RtspConfig>(ParseDescribedSized<RtspConfig, kWhole>, DescribedPack<kWhole>())
         .IgnoreResult()
         .Describe(kWhole);
 

@@ -128,7 +128,7 @@ bool ParsePtzTable(const Json::Value& table, const StepContext& ctx, unsigned ch
 }  // namespace
 
 extern const ResponseFrame kPtzFrame =
-    ResponseFrame::For<PtzConfig>(ParsePtzTable, PackDescribed<kWhole>)
+    ResponseFrame::For<PtzConfig>(ParsePtzTable, DescribedPack<kWhole>())
         .Describe(kWhole)
         .Result(ResultRule::kFalseFails)
         .OnNullTable(NullTable::kFail)

@@ -45,7 +45,7 @@ constexpr FieldTable kPowerUp = KOVA_TABLE(kPowerUpFields);
 // A fixed 24-byte record served by the table drivers: an array of channels
 // or one channel's object.
 extern const ResponseFrame kPowerUpFrame =
-    DriverFrame<PowerUpConfig>(ParseTableStep<kPowerUp>, PackTableStep<kPowerUp>,
+    DriverFrame<PowerUpConfig>(ParseTableStep<kPowerUp>, TablePack<kPowerUp>(),
                                {0, true, true, true})
         .Describe(WholeTable<PowerUpConfig, kPowerUp>::kField);
 

@@ -34,7 +34,8 @@ KOVA_DESCRIBE(GeneralConfig, kGeneralFields)
 extern const ResponseFrame kGeneralFrame =
     DescribedObject<GeneralConfig>::kFrame.Walk(RecordWalk::kOne);
 extern const ResponseFrame kLanguageFrame =
-    ResponseFrame::For<LanguageConfig>(ParseDescribed<kLanguageText>, PackDescribed<kLanguageText>)
+    ResponseFrame::For<LanguageConfig>(ParseDescribed<kLanguageText>,
+                                       DescribedPack<kLanguageText>())
         .Describe(kLanguageText);
 
 }  // namespace kova

@@ -48,7 +48,7 @@ constexpr FieldTable kThermometry = KOVA_TABLE(kThermometryFields);
 
 extern const ResponseFrame kHeatImagingThermometryFrame =
     DriverFrame<HeatImagingThermometryConfig>(ParseTableStep<kThermometry>,
-                                              PackTableStep<kThermometry>, {0, false, true, false})
+                                              TablePack<kThermometry>(), {0, false, true, false})
         .Describe(WholeTable<HeatImagingThermometryConfig, kThermometry>::kField);
 
 }  // namespace kova

@@ -1,0 +1,359 @@
+// The walker's pack as text (see field_text.h).
+#include "common/fields/field_text.h"
+
+#include <json/value.h>
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+#include "common/fields/field_walk.h"
+#include "common/fields/fields.h"
+
+namespace kova {
+
+using namespace walk;  // NOLINT: the walker's own pieces
+
+namespace {
+
+using Entry = ObjectText::Entry;
+
+bool KeyLess(const Entry& a, const Entry& b) {
+  const int c = std::memcmp(a.key, b.key, std::min(a.length, b.length));
+  return c != 0 ? c < 0 : a.length < b.length;
+}
+
+bool SameKey(const Entry& a, const Entry& b) {
+  return a.length == b.length && std::memcmp(a.key, b.key, a.length) == 0;
+}
+
+const char* UnnamedText(const Field& f, bool* written) {
+  Unnamed rule = f.unnamed;
+  if (rule == Unnamed::kTable) rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
+  *written = true;
+  switch (rule) {
+    case Unnamed::kOmit:
+      *written = false;
+      return nullptr;
+    case Unnamed::kNull:
+      return nullptr;
+    case Unnamed::kFirstName: {
+      const char* first = f.names->count > 0 ? f.names->names[0] : nullptr;
+      return first != nullptr ? first : "";
+    }
+    case Unnamed::kUnknownName: {
+      const char* unknown = EnumName(*f.names, f.names->unknownValue);
+      return unknown != nullptr ? unknown : "";
+    }
+    case Unnamed::kTable:
+    case Unnamed::kEmptyText:
+      break;
+  }
+  return "";
+}
+
+// Whether PackScalar writes anything for `p`.
+bool ScalarWrites(const unsigned char* p, const Field& f) {
+  if (f.packAs != PackAs::kNatural) return true;
+  switch (f.kind) {
+    case FieldKind::kBool:
+    case FieldKind::kInt:
+    case FieldKind::kUInt:
+    case FieldKind::kText:
+    case FieldKind::kTextRaw:
+      return true;
+    case FieldKind::kReal:
+      return f.size == sizeof(float) || f.size == sizeof(double);
+    case FieldKind::kEnum: {
+      if (f.names == nullptr) return false;
+      if (EnumName(*f.names, LoadInt(p, f.size, true)) != nullptr) return true;
+      bool written = false;
+      UnnamedText(f, &written);
+      return written;
+    }
+    case FieldKind::kObject:
+    case FieldKind::kCustom:
+      return false;
+  }
+  return false;
+}
+
+void WriteText(const char* p, uint32_t cap, bool convert, TextSink* out) {
+  const size_t n = strnlen(p, cap);
+  if (!convert) {
+    WriteJsonString(p, p + n, out);
+    return;
+  }
+  // The UTF-8 form has room for one and a half times the local form, as
+  // SetJsonString gives it (the cut is deliberate).
+  const size_t size = (3 * n) / 2 + 1;
+  char local[512];
+  std::vector<char> large;
+  char* utf8 = local;
+  if (size > sizeof local) {
+    large.assign(size, '\0');
+    utf8 = large.data();
+  }
+  const int32_t written =
+      AnsiToUtf8(p, static_cast<int32_t>(n), utf8, static_cast<int32_t>(size));
+  const size_t length = written > 0 ? strnlen(utf8, static_cast<size_t>(written)) : 0;
+  WriteJsonString(utf8, utf8 + length, out);
+}
+
+void WriteBool(bool b, TextSink* out) {
+  if (b) {
+    out->Literal("true");
+  } else {
+    out->Literal("false");
+  }
+}
+
+// PackScalar's value as text; false, with nothing written, when it writes none.
+bool WriteScalar(const unsigned char* p, const Field& f, TextSink* out) {
+  if (!ScalarWrites(p, f)) return false;
+  if (f.packAs == PackAs::kBoolNonZero) {
+    WriteBool(LoadInt(p, f.size, false) != 0, out);
+    return true;
+  }
+  if (f.packAs == PackAs::kBoolEqualsOne) {
+    WriteBool(LoadInt(p, f.size, true) == 1, out);
+    return true;
+  }
+  switch (f.kind) {
+    case FieldKind::kBool:
+      WriteBool(LoadInt(p, f.size, false) != 0, out);
+      break;
+    case FieldKind::kInt:
+      WriteJsonInt(LoadInt(p, f.size, true), out);
+      break;
+    case FieldKind::kUInt:
+      WriteJsonUInt(static_cast<uint64_t>(LoadInt(p, f.size, false)), out);
+      break;
+    case FieldKind::kReal:
+      if (f.size == sizeof(float)) {
+        float x;
+        std::memcpy(&x, p, sizeof x);
+        WriteJsonReal(static_cast<double>(x), out);
+      } else {
+        double x;
+        std::memcpy(&x, p, sizeof x);
+        WriteJsonReal(x, out);
+      }
+      break;
+    case FieldKind::kText:
+    case FieldKind::kTextRaw:
+      WriteText(reinterpret_cast<const char*>(p), f.size, f.kind == FieldKind::kText, out);
+      break;
+    case FieldKind::kEnum: {
+      const char* name = EnumName(*f.names, LoadInt(p, f.size, true));
+      bool written = true;
+      if (name == nullptr) name = UnnamedText(f, &written);
+      if (name == nullptr) {
+        out->Literal("null");
+      } else {
+        WriteJsonString(name, name + std::strlen(name), out);
+      }
+      break;
+    }
+    case FieldKind::kObject:
+    case FieldKind::kCustom:
+      break;
+  }
+  return true;
+}
+
+// The list `f` of `record` (its offset and count counted from `record`).
+void WriteList(const unsigned char* record, const Field& f, TextSink* out) {
+  uint32_t n = f.capacity;
+  if (f.count.size != 0) {
+    n = CutCount(LoadInt(record + f.count.offset, f.count.size, f.count.isSigned), f.capacity);
+  }
+  out->Literal("[ ");
+  bool first = true;
+  for (uint32_t k = 0; k < n && f.element != nullptr && !out->full(); ++k) {
+    const unsigned char* entry =
+        record + f.offset + static_cast<size_t>(k) * f.size + f.element->offset;
+    const Field& e = *f.element;
+    // Whether the entry is written is known before its separator is.
+    if (e.shape == FieldShape::kCustom || (e.shape == FieldShape::kScalar && !ScalarWrites(entry, e)) ||
+        (e.shape == FieldShape::kNested && e.table == nullptr) ||
+        (e.shape == FieldShape::kList && e.element == nullptr)) {
+      continue;
+    }
+    if (!first) out->Literal(", ");
+    first = false;
+    WriteValueText(entry, e, out);
+  }
+  out->Literal(" ]");
+}
+
+// The members PackFields writes for a field `f` of `base` that is not a
+// hand-written step nor an inline block: whether it writes one.
+bool FieldWrites(const unsigned char* base, const Field& f) {
+  switch (f.shape) {
+    case FieldShape::kScalar:
+      return ScalarWrites(base + f.offset, f);
+    case FieldShape::kNested:
+      return f.table != nullptr;
+    case FieldShape::kList:
+    case FieldShape::kTuple:
+      return true;
+    case FieldShape::kCustom:
+      return false;
+  }
+  return false;
+}
+
+// The members of `fields` of `base` as one object. `fromNull`: the tree
+// starts as null (a table step's answer), and stays "null" when nothing
+// is written; `nullWhenEmpty`: an object with no member is written "null".
+void WriteObject(const unsigned char* base, const Field* fields, size_t count, bool fromNull,
+                 bool nullWhenEmpty, TextSink* out) {
+  ObjectText object;
+  object.Fields(base, fields, count);
+  if (!object.ok()) {
+    Json::Value obj = fromNull ? Json::Value() : Json::Value(Json::objectValue);
+    PackFields(base, obj, fields, count);
+    if (nullWhenEmpty && obj.empty()) obj = Json::Value();
+    WriteJsonValue(obj, out);
+    return;
+  }
+  if ((fromNull && !object.made()) || (nullWhenEmpty && object.empty())) {
+    out->Literal("null");
+    return;
+  }
+  object.Write(out);
+}
+
+}  // namespace
+
+void ObjectText::Add(const Entry& e) {
+  if (n_ < kLocal) {
+    local_[n_++] = e;
+    return;
+  }
+  if (spill_.empty()) spill_.assign(local_, local_ + kLocal);
+  spill_.push_back(e);
+  ++n_;
+}
+
+bool ObjectText::Has(const char* key, size_t length) const {
+  const Entry* e = n_ <= kLocal ? local_ : spill_.data();
+  for (size_t i = 0; i < n_; ++i) {
+    if (e[i].length == length && std::memcmp(e[i].key, key, length) == 0) return true;
+  }
+  return false;
+}
+
+void ObjectText::Member(const char* key, MemberText write, const void* context) {
+  Add(Entry{key, std::strlen(key), nullptr, context, nullptr, write});
+}
+
+void ObjectText::Fields(const void* record, const Field* fields, size_t count) {
+  const unsigned char* base = static_cast<const unsigned char*>(record);
+  for (size_t i = 0; i < count && ok_; ++i) {
+    const Field& f = fields[i];
+    if (f.direction == Direction::kParseOnly) continue;
+    if (!Present(base, f)) continue;
+    if (f.shape == FieldShape::kCustom) {
+      if (f.packText != nullptr && f.key != nullptr) {
+        Add(Entry{f.key, std::strlen(f.key), &f, base, nullptr, nullptr});
+        continue;
+      }
+      if (f.pack == nullptr) continue;
+      steps_.emplace_front();
+      Json::Value& v = steps_.front();
+      f.pack(base, v, f);
+      if (v.isNull()) continue;
+      if (!v.isObject()) {
+        ok_ = false;
+        return;
+      }
+      made_ = true;
+      for (auto it = v.begin(), end = v.end(); it != end; ++it) {
+        const char* ke = nullptr;
+        const char* kb = it.memberName(&ke);
+        const size_t length = static_cast<size_t>(ke - kb);
+        if (Has(kb, length)) {  // it may have extended what was there
+          ok_ = false;
+          return;
+        }
+        Add(Entry{kb, length, nullptr, nullptr, &*it, nullptr});
+      }
+      continue;
+    }
+    if (f.allocated) continue;
+    if (f.key == nullptr) {
+      if (f.shape == FieldShape::kNested && f.table != nullptr) {
+        Fields(base + f.offset, f.table->fields, f.table->count);
+      }
+      continue;
+    }
+    if (FieldWrites(base, f)) Add(Entry{f.key, std::strlen(f.key), &f, base, nullptr, nullptr});
+  }
+}
+
+void ObjectText::Write(TextSink* out) {
+  Entry* e = data();
+  // Stable: of two members of one key, the later stays later.
+  for (size_t i = 1; i < n_; ++i) {
+    const Entry x = e[i];
+    size_t j = i;
+    for (; j > 0 && KeyLess(x, e[j - 1]); --j) e[j] = e[j - 1];
+    e[j] = x;
+  }
+  out->Literal("{ ");
+  bool first = true;
+  for (size_t i = 0; i < n_ && !out->full(); ++i) {
+    if (i + 1 < n_ && SameKey(e[i], e[i + 1])) continue;  // the later one stands
+    if (!first) out->Literal(", ");
+    first = false;
+    WriteJsonString(e[i].key, e[i].key + e[i].length, out);
+    out->Literal(" : ");
+    const unsigned char* record = static_cast<const unsigned char*>(e[i].record);
+    if (e[i].tree != nullptr) {
+      WriteJsonValue(*e[i].tree, out);
+    } else if (e[i].write != nullptr) {
+      e[i].write(e[i].record, out);
+    } else if (e[i].field->shape == FieldShape::kCustom) {
+      e[i].field->packText(record, *e[i].field, out);
+    } else if (e[i].field->shape == FieldShape::kList) {
+      WriteList(record, *e[i].field, out);  // the count member lives in the record
+    } else {
+      WriteValueText(record + e[i].field->offset, *e[i].field, out);
+    }
+  }
+  out->Literal(" }");
+}
+
+void WriteFieldsText(const void* record, const FieldTable& t, TextSink* out) {
+  WriteObject(static_cast<const unsigned char*>(record), t.fields, t.count, true, false, out);
+}
+
+bool WriteValueText(const unsigned char* member, const Field& f, TextSink* out) {
+  switch (f.shape) {
+    case FieldShape::kScalar:
+      return WriteScalar(member, f, out);
+    case FieldShape::kNested:
+      if (f.table == nullptr) return false;
+      WriteObject(member, f.table->fields, f.table->count, false, f.nullWhenEmpty, out);
+      return true;
+    case FieldShape::kTuple:
+      out->Literal("[ ");
+      for (uint32_t i = 0; i < f.capacity; ++i) {
+        if (i != 0) out->Literal(", ");
+        if (!WriteScalar(member + i * f.size, f, out)) out->Literal("\"\"");
+      }
+      out->Literal(" ]");
+      return true;
+    case FieldShape::kList:
+      if (f.element == nullptr) return false;
+      WriteList(member - f.offset, f, out);  // a list entry that is itself a list
+      return true;
+    case FieldShape::kCustom:
+      return false;
+  }
+  return false;
+}
+
+}  // namespace kova

@@ -1,0 +1,79 @@
+// The walker's pack written straight as text: the same bytes the value
+// tree of PackFields / PackValue gives through the single-line writer, with
+// no tree built for what the description says itself. Members go out in
+// the JSON library's key order (bytes compared, then the shorter first), a
+// later member of the same key replacing an earlier one. A hand-written
+// step with a text writer (Field::PackText) writes its member straight; any
+// other packs into a value of its own, whose members join the others, and
+// when it writes a member already written (it may have extended it) or
+// anything but members, that object is packed through the tree instead.
+#ifndef KOVA_COMMON_FIELDS_FIELD_TEXT_H_
+#define KOVA_COMMON_FIELDS_FIELD_TEXT_H_
+
+#include <json/value.h>
+
+#include <cstddef>
+#include <forward_list>
+#include <vector>
+
+#include "common/fields/field_table.h"
+#include "common/json/json_writer.h"
+
+namespace kova {
+
+// The text of PackFields(record, obj, t) into a null `obj`: an object, or
+// "null" when nothing is written.
+void WriteFieldsText(const void* record, const FieldTable& t, TextSink* out);
+
+// The text of PackValue(member, f, &v): false, with nothing written, when
+// PackValue writes nothing.
+bool WriteValueText(const unsigned char* member, const Field& f, TextSink* out);
+
+// Writes one member's value.
+using MemberText = void (*)(const void* context, TextSink* out);
+
+// One object whose members come from several places (field tables over
+// records, hand-written members), written as PackFields over each of them
+// in turn would leave a tree, without the tree.
+class ObjectText {
+ public:
+  // The members PackFields(record, obj, fields, count) writes.
+  void Fields(const void* record, const Field* fields, size_t count);
+  void Fields(const void* record, const FieldTable& t) { Fields(record, t.fields, t.count); }
+  // A member `key` (a literal) whose value `write(context, out)` writes.
+  void Member(const char* key, MemberText write, const void* context);
+  // False when a hand-written step wrote what only its tree can follow:
+  // the object is then to be packed through the tree.
+  bool ok() const { return ok_; }
+  // Whether any member or step made the object (a null tree stays null).
+  bool made() const { return made_ || n_ != 0; }
+  bool empty() const { return n_ == 0; }
+  // The members, "{ ... }", in key order.
+  void Write(TextSink* out);
+
+  struct Entry {
+    const char* key;
+    size_t length;
+    const Field* field;           // a field of `record`, or null
+    const void* record;           // the field's record, or the writer's context
+    const Json::Value* tree;      // a step's member, or null
+    MemberText write;             // a hand-written member, or null
+  };
+
+ private:
+  void Add(const Entry& e);
+  bool Has(const char* key, size_t length) const;
+  Entry* data() { return n_ <= kLocal ? local_ : spill_.data(); }
+
+  static constexpr size_t kLocal = 48;
+  Entry local_[kLocal];
+  std::vector<Entry> spill_;  // once more members than the local slots
+  size_t n_ = 0;
+  std::forward_list<Json::Value> steps_;  // what the steps packed, kept until written
+  bool ok_ = true;
+  bool made_ = false;
+};
+
+}  // namespace kova
+
+#endif  // KOVA_COMMON_FIELDS_FIELD_TEXT_H_
