@@ -94,8 +94,7 @@ void WriteText(const char* p, uint32_t cap, bool convert, TextSink* out) {
     large.assign(size, '\0');
     utf8 = large.data();
   }
-  const int32_t written =
-      AnsiToUtf8(p, static_cast<int32_t>(n), utf8, static_cast<int32_t>(size));
+  const int32_t written = AnsiToUtf8(p, static_cast<int32_t>(n), utf8, static_cast<int32_t>(size));
   const size_t length = written > 0 ? strnlen(utf8, static_cast<size_t>(written)) : 0;
   WriteJsonString(utf8, utf8 + length, out);
 }
@@ -175,7 +174,8 @@ void WriteList(const unsigned char* record, const Field& f, TextSink* out) {
         record + f.offset + static_cast<size_t>(k) * f.size + f.element->offset;
     const Field& e = *f.element;
     // Whether the entry is written is known before its separator is.
-    if (e.shape == FieldShape::kCustom || (e.shape == FieldShape::kScalar && !ScalarWrites(entry, e)) ||
+    if (e.shape == FieldShape::kCustom ||
+        (e.shape == FieldShape::kScalar && !ScalarWrites(entry, e)) ||
         (e.shape == FieldShape::kNested && e.table == nullptr) ||
         (e.shape == FieldShape::kList && e.element == nullptr)) {
       continue;
@@ -328,6 +328,10 @@ void ObjectText::Write(TextSink* out) {
 
 void WriteFieldsText(const void* record, const FieldTable& t, TextSink* out) {
   WriteObject(static_cast<const unsigned char*>(record), t.fields, t.count, true, false, out);
+}
+
+void WriteMembersText(const void* record, const FieldTable& t, TextSink* out) {
+  WriteObject(static_cast<const unsigned char*>(record), t.fields, t.count, false, false, out);
 }
 
 bool WriteValueText(const unsigned char* member, const Field& f, TextSink* out) {

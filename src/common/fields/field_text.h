@@ -25,6 +25,10 @@ namespace kova {
 // "null" when nothing is written.
 void WriteFieldsText(const void* record, const FieldTable& t, TextSink* out);
 
+// The text of PackFields(record, obj, t) into an empty object: always an
+// object.
+void WriteMembersText(const void* record, const FieldTable& t, TextSink* out);
+
 // The text of PackValue(member, f, &v): false, with nothing written, when
 // PackValue writes nothing.
 bool WriteValueText(const unsigned char* member, const Field& f, TextSink* out);
@@ -40,6 +44,10 @@ class ObjectText {
   // The members PackFields(record, obj, fields, count) writes.
   void Fields(const void* record, const Field* fields, size_t count);
   void Fields(const void* record, const FieldTable& t) { Fields(record, t.fields, t.count); }
+  template <size_t N>
+  void Fields(const void* record, const Field (&fields)[N]) {
+    Fields(record, fields, N);
+  }
   // A member `key` (a literal) whose value `write(context, out)` writes.
   void Member(const char* key, MemberText write, const void* context);
   // False when a hand-written step wrote what only its tree can follow:
@@ -54,10 +62,10 @@ class ObjectText {
   struct Entry {
     const char* key;
     size_t length;
-    const Field* field;           // a field of `record`, or null
-    const void* record;           // the field's record, or the writer's context
-    const Json::Value* tree;      // a step's member, or null
-    MemberText write;             // a hand-written member, or null
+    const Field* field;       // a field of `record`, or null
+    const void* record;       // the field's record, or the writer's context
+    const Json::Value* tree;  // a step's member, or null
+    MemberText write;         // a hand-written member, or null
   };
 
  private:

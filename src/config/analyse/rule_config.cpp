@@ -60,4 +60,19 @@ void PackRuleBody(const unsigned char* body, const RuleType& type, Json::Value& 
   PackFields(body, config, type.config);
 }
 
+namespace {
+
+void WriteConfig(const void* context, TextSink* out) {
+  const RuleBodyAt& at = *static_cast<const RuleBodyAt*>(context);
+  WriteMembersText(at.body, at.type->config, out);
+}
+
+}  // namespace
+
+void GatherRuleBody(const RuleBodyAt& at, ObjectText* rule) {
+  rule->Fields(at.body, *at.type->head);
+  rule->Fields(at.body + at.type->linkageOffset, kRuleLinkageFields);
+  rule->Member("Config", WriteConfig, &at);
+}
+
 }  // namespace kova

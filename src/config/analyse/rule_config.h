@@ -47,6 +47,7 @@
 #include <type_traits>
 
 #include "common/fields/field_table.h"
+#include "common/fields/field_text.h"
 #include "kova/records/analyse.h"
 #include "kova/records/analyse_rules.h"
 #include "kova/records/analyse_traffic_rules.h"
@@ -100,6 +101,13 @@ void ParseRuleBody(const Json::Value& rule, unsigned char* body, const RuleType&
 // object `rule`: "Name", "Enable", "TrackEnable", "ObjectTypes" (not for an
 // audio rule), "EventHandler", "PtzPresetId" and "Config".
 void PackRuleBody(const unsigned char* body, const RuleType& type, Json::Value& rule);
+// The same members gathered for writing straight as text; `at` is kept
+// until `rule` is written.
+struct RuleBodyAt {
+  const unsigned char* body;
+  const RuleType* type;
+};
+void GatherRuleBody(const RuleBodyAt& at, ObjectText* rule);
 
 // The bound rule types, by the file that describes them.
 // cross_rules.cpp

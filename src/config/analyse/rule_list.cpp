@@ -19,6 +19,7 @@
 
 #include "common/base/log.h"
 #include "common/json/json.h"
+#include "common/json/json_writer.h"
 #include "config/analyse/rule_config.h"
 #include "config/analyse/rule_types.h"
 #include "drivers/response_frame.h"
@@ -131,48 +132,96 @@ bool ParseRuleList(const Json::Value& table, const StepContext& /*ctx*/, unsigne
   return true;
 }
 
-// One entry at `at` with `left` bytes to the end of the buffer, written as
-// a rule object into `rules`; `*used` receives its length. False when the
-// entry is not one the library can read.
-bool PackEntry(const unsigned char* at, size_t left, Json::Value& rules, size_t* used) {
-  RuleEntryHeader header;
-  if (left < sizeof header) return false;
-  std::memcpy(&header, at, sizeof header);
-  const int32_t expected = RuleBodySize(header.ruleType);
-  if (expected <= 0 || header.bodySize != static_cast<uint32_t>(expected)) return false;
-  if (left - sizeof header < header.bodySize) return false;
-  const RuleType* type = FindRuleType(header.ruleType);
-  if (type == nullptr || type->recordSize != header.bodySize) return false;
-
-  const unsigned char* body = at + kHeaderSize;
-  std::unique_ptr<unsigned char[]> scratch;
-  if (!Aligned(body)) {
-    // A caller's buffer that puts the record out of line: read from a copy.
-    scratch.reset(new (std::nothrow) unsigned char[header.bodySize]);
-    if (!scratch) return false;
-    std::memcpy(scratch.get(), body, header.bodySize);
-    body = scratch.get();
+// The entry at `at` with `left` bytes to the end of the buffer: its header,
+// its type and its body (read from `scratch` when the caller's buffer puts
+// it out of line). Null when the entry is not one the library can read.
+const RuleType* ReadEntry(const unsigned char* at, size_t left, RuleEntryHeader* header,
+                          const unsigned char** body, std::unique_ptr<unsigned char[]>* scratch) {
+  if (left < sizeof *header) return nullptr;
+  std::memcpy(header, at, sizeof *header);
+  const int32_t expected = RuleBodySize(header->ruleType);
+  if (expected <= 0 || header->bodySize != static_cast<uint32_t>(expected)) return nullptr;
+  if (left - sizeof *header < header->bodySize) return nullptr;
+  const RuleType* type = FindRuleType(header->ruleType);
+  if (type == nullptr || type->recordSize != header->bodySize) return nullptr;
+  *body = at + kHeaderSize;
+  if (!Aligned(*body)) {
+    scratch->reset(new (std::nothrow) unsigned char[header->bodySize]);
+    if (!*scratch) return nullptr;
+    std::memcpy(scratch->get(), *body, header->bodySize);
+    *body = scratch->get();
   }
-  Json::Value& rule = Append(rules, Json::Value(Json::objectValue));
-  PackRuleBody(body, *type, rule);
+  return type;
+}
+
+// One rule object, from its entry's header and body.
+void PackRule(const RuleEntryHeader& header, const unsigned char* body, const RuleType& type,
+              Json::Value& rule) {
+  PackRuleBody(body, type, rule);
   SetKeptMember(rule, "Type") = RuleTypeName(header.ruleType);
   PackFields(&header, rule, &kPackedClass, 1);
-  *used = kHeaderSize + header.bodySize;
+}
+
+void WriteName(const void* context, TextSink* out) {
+  const char* name = static_cast<const char*>(context);
+  WriteJsonString(name, name + std::strlen(name), out);
+}
+
+// The text of PackRule.
+void WriteRule(const RuleEntryHeader& header, const unsigned char* body, const RuleType& type,
+               TextSink* out) {
+  const RuleBodyAt at{body, &type};
+  ObjectText rule;
+  GatherRuleBody(at, &rule);
+  rule.Member("Type", WriteName, RuleTypeName(header.ruleType));
+  rule.Fields(&header, &kPackedClass, 1);
+  if (rule.ok()) {
+    rule.Write(out);
+    return;
+  }
+  Json::Value tree(Json::objectValue);
+  PackRule(header, body, type, tree);
+  WriteJsonValue(tree, out);
+}
+
+// The rules of the list, each entry read by `entry(header, body, type)`;
+// false when an entry is not one the library can read.
+template <typename Entry>
+bool ForEachRule(const unsigned char* record, Entry entry) {
+  List list;
+  std::memcpy(&list, record, sizeof list);
+  if (list.ruleCount > 0 && list.ruleBuffer == nullptr) return false;
+  size_t at = 0;
+  for (uint32_t i = 0; i < list.ruleCount; ++i) {
+    RuleEntryHeader header;
+    const unsigned char* body = nullptr;
+    std::unique_ptr<unsigned char[]> scratch;
+    const RuleType* type =
+        ReadEntry(list.ruleBuffer + at, list.ruleBufferLength - at, &header, &body, &scratch);
+    if (type == nullptr) return false;
+    entry(i, header, body, *type);
+    at += kHeaderSize + header.bodySize;
+  }
   return true;
 }
 
 bool PackRuleList(const unsigned char* record, Json::Value& out) {
-  List list;
-  std::memcpy(&list, record, sizeof list);
   out = Json::Value(Json::arrayValue);
-  if (list.ruleCount > 0 && list.ruleBuffer == nullptr) return false;
-  size_t at = 0;
-  for (uint32_t i = 0; i < list.ruleCount; ++i) {
-    size_t used = 0;
-    if (!PackEntry(list.ruleBuffer + at, list.ruleBufferLength - at, out, &used)) return false;
-    at += used;
-  }
-  return true;
+  return ForEachRule(record, [&](uint32_t, const RuleEntryHeader& header, const unsigned char* body,
+                                 const RuleType& type) {
+    PackRule(header, body, type, Append(out, Json::Value(Json::objectValue)));
+  });
+}
+
+bool PackRuleListText(const unsigned char* record, TextSink* out) {
+  out->Literal("[ ");
+  const bool read = ForEachRule(record, [&](uint32_t i, const RuleEntryHeader& header,
+                                            const unsigned char* body, const RuleType& type) {
+    if (i != 0) out->Literal(", ");
+    WriteRule(header, body, type, out);
+  });
+  out->Literal(" ]");
+  return read;
 }
 
 // "result" is not looked at.
@@ -180,6 +229,6 @@ bool PackRuleList(const unsigned char* record, Json::Value& out) {
 }  // namespace
 
 extern const ResponseFrame kVideoAnalyseRuleFrame =
-    KeptRecordFrame<List>(ParseRuleList, PackRuleList).IgnoreResult();
+    KeptRecordFrame<List>(ParseRuleList, Packing(PackRuleList, PackRuleListText)).IgnoreResult();
 
 }  // namespace kova
