@@ -1,7 +1,7 @@
 // A weekly "TimeSection" (or "TimeSchedule") grid held in a record member
 // of Days x Sections section records, as a custom step of a field table:
 //
-//   KOVA_CUSTOM(Rec, timeSection, "TimeSection", ParseWeekGrid<7, 6>, PackWeekGrid<7, 6>)
+//   KOVA_WEEK_GRID(Rec, timeSection, "TimeSection", 7, 6)
 //       .Flag(KOVA_AT(Rec, timeSectionPresent))
 //
 // Parse reads the member when it is an array (days and sections beyond the
@@ -17,6 +17,7 @@
 #include "common/blocks/time_schedule.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
+#include "common/json/json_writer.h"
 
 namespace kova {
 
@@ -40,6 +41,28 @@ void PackWeekGrid(const unsigned char* record, Json::Value& obj, const Field& f)
   PackTimeSectionGrid(SetKeptMember(obj, f.key), &grid[0][0], kDays, kSections);
 }
 
+// PackWeekGrid's member as text (KOVA_WEEK_GRID holds the member's size to
+// the grid's).
+template <int kDays, int kSections>
+void PackWeekGridText(const unsigned char* record, const Field& f, TextSink* out) {
+  TimeSectionRecord grid[kDays][kSections];
+  std::memcpy(grid, record + f.offset, sizeof grid);
+  WriteTimeSectionGridText(&grid[0][0], kDays, kSections, out);
+}
+
+template <int kDays, int kSections, uint32_t kMemberSize>
+constexpr CustomPackText WeekGridText() {
+  static_assert(kMemberSize == sizeof(TimeSectionRecord) * kDays * kSections,
+                "the member holds the grid");
+  return PackWeekGridText<kDays, kSections>;
+}
+
 }  // namespace kova
+
+// A member of Days x Sections section records, as the custom field above.
+#define KOVA_WEEK_GRID(Rec, member, key, days, sections)                 \
+  KOVA_CUSTOM(Rec, member, key, (::kova::ParseWeekGrid<days, sections>), \
+              (::kova::PackWeekGrid<days, sections>))                    \
+      .PackText(::kova::WeekGridText<days, sections, KOVA_MEMBER_SIZE(Rec, member)>())
 
 #endif  // KOVA_COMMON_WEEK_GRID_H_

@@ -96,12 +96,17 @@ bool PackModules(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
+// The list is always written: it is the whole text.
+bool PackModulesText(const unsigned char* record, TextSink* out) {
+  return WriteValueText(record + kModuleTable[0].offset, kModuleTable[0], out);
+}
+
 // Only a "result" given and false fails.
 
 }  // namespace
 
 extern const ResponseFrame kVideoAnalyseModuleFrame =
-    KeptRecordFrame<VideoAnalyseModuleConfig>(ParseModules, PackModules)
+    KeptRecordFrame<VideoAnalyseModuleConfig>(ParseModules, Packing(PackModules, PackModulesText))
         .Result(ResultRule::kFalseFails)
         .Describe(kModuleTable[0]);
 

@@ -11,9 +11,8 @@ namespace kova {
 constexpr Field kAccessTimeScheduleFields[] = {
     KOVA_F(AccessTimeScheduleConfig, enable, "Enable", kBool),
     KOVA_F(AccessTimeScheduleConfig, name, "Name", kText),
-    KOVA_CUSTOM(AccessTimeScheduleConfig, timeSchedule, "TimeSchedule",
-                (ParseWeekGrid<7, KOVA_ACCESS_SCHEDULE_SECTIONS>),
-                (PackWeekGrid<7, KOVA_ACCESS_SCHEDULE_SECTIONS>))
+    KOVA_WEEK_GRID(AccessTimeScheduleConfig, timeSchedule, "TimeSchedule", 7,
+                   KOVA_ACCESS_SCHEDULE_SECTIONS)
         .Flag(KOVA_AT(AccessTimeScheduleConfig, timeSchedulePresent)),
 };
 KOVA_DESCRIBE(AccessTimeScheduleConfig, kAccessTimeScheduleFields)

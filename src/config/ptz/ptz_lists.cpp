@@ -56,8 +56,7 @@ constexpr Field kPtzAutoMovementFields[] = {
         .Flag(KOVA_AT(PtzAutoMovementEntry, snapshotEnablePresent)),
     KOVA_F(PtzAutoMovementEntry, snapshotDelayTime, "SnapshotDelayTime", kInt)
         .Flag(KOVA_AT(PtzAutoMovementEntry, snapshotDelayTimePresent)),
-    KOVA_CUSTOM(PtzAutoMovementEntry, timeSection, "TimeSection", (ParseWeekGrid<7, 6>),
-                (PackWeekGrid<7, 6>))
+    KOVA_WEEK_GRID(PtzAutoMovementEntry, timeSection, "TimeSection", 7, 6)
         .Flag(KOVA_AT(PtzAutoMovementEntry, timeSectionPresent)),
 };
 KOVA_DESCRIBE(PtzAutoMovementEntry, kPtzAutoMovementFields)

@@ -6,6 +6,7 @@
 #include "common/blocks/time_schedule.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
+#include "common/json/json_writer.h"
 #include "drivers/response_frame.h"
 #include "kova/records/storage.h"
 
@@ -57,24 +58,38 @@ void ParseSchedule(const Json::Value& table, unsigned char* record, const Field&
   }
 }
 
-void PackSchedule(const unsigned char* record, Json::Value& table, const Field&) {
-  const RecordConfig* r = reinterpret_cast<const RecordConfig*>(record);
-  TimeSectionRecord grid[kWeekDays + 1][kSectionsPerDay];
-  std::memcpy(grid, r->sections, sizeof r->sections);
-  std::memcpy(grid[kHolidayRow], r->holidaySections, sizeof r->holidaySections);
+// The rows written: the week, then the holiday row when it is valid, each
+// section's mask in the device's bit order. Returns the row count.
+int DeviceRows(const RecordConfig& r, TimeSectionRecord (&grid)[kWeekDays + 1][kSectionsPerDay]) {
+  std::memcpy(grid, r.sections, sizeof r.sections);
+  std::memcpy(grid[kHolidayRow], r.holidaySections, sizeof r.holidaySections);
   for (auto& day : grid) {
     for (TimeSectionRecord& s : day) s.enable = MaskToDevice(s.enable);
   }
-  const bool holiday = r->holidayValid != 0;
-  PackTimeSectionGrid(SetKeptMember(table, "TimeSection"), &grid[0][0],
-                      holiday ? kWeekDays + 1 : kWeekDays, kSectionsPerDay);
-  if (holiday) SetKeptMember(table, "HolidayEnable") = r->holidayEnable != 0;
+  return r.holidayValid != 0 ? kWeekDays + 1 : kWeekDays;
+}
+
+void PackSchedule(const unsigned char* record, Json::Value& table, const Field&) {
+  TimeSectionRecord grid[kWeekDays + 1][kSectionsPerDay];
+  const int rows = DeviceRows(*reinterpret_cast<const RecordConfig*>(record), grid);
+  PackTimeSectionGrid(SetKeptMember(table, "TimeSection"), &grid[0][0], rows, kSectionsPerDay);
+}
+
+void PackScheduleText(const unsigned char* record, const Field&, TextSink* out) {
+  TimeSectionRecord grid[kWeekDays + 1][kSectionsPerDay];
+  const int rows = DeviceRows(*reinterpret_cast<const RecordConfig*>(record), grid);
+  WriteTimeSectionGridText(&grid[0][0], rows, kSectionsPerDay, out);
 }
 
 constexpr Field kRecordFields[] = {
     KOVA_F(RecordConfig, preRecord, "PreRecord", kInt),
     KOVA_F(RecordConfig, redundancy, "Redundancy", kBool),
-    KOVA_CUSTOM(RecordConfig, sections, "TimeSection", ParseSchedule, PackSchedule),
+    KOVA_CUSTOM(RecordConfig, sections, "TimeSection", ParseSchedule, PackSchedule)
+        .PackText(PackScheduleText),
+    // Written with a holiday row only; read by the schedule's step (intended).
+    KOVA_F(RecordConfig, holidayEnable, "HolidayEnable", kBool)
+        .Flag(KOVA_AT(RecordConfig, holidayValid))
+        .PackOnly(),
     KOVA_F(RecordConfig, stream, "Stream", kUInt).NonNegative(),
 };
 constexpr FieldTable kRecordTable = KOVA_TABLE(kRecordFields);
@@ -94,10 +109,15 @@ bool PackChannel(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
+bool PackChannelText(const unsigned char* record, TextSink* out) {
+  WriteMembersText(record, kRecordTable, out);
+  return true;
+}
+
 }  // namespace
 
 extern const ResponseFrame kRecordFrame =
-    ResponseFrame::For<RecordConfig>(ParseChannel, PackChannel)
+    ResponseFrame::For<RecordConfig>(ParseChannel, Packing(PackChannel, PackChannelText))
         .Describe(WholeTable<RecordConfig, kRecordTable>::kField)
         .Walk(RecordWalk::kPerChannel)
         .ChannelAtRoot()

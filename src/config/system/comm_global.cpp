@@ -22,8 +22,7 @@ extern const ResponseFrame kCommGlobalFrame =
 constexpr Field kFlashLightFields[] = {
     KOVA_F(FlashLightConfig, enable, "Enable", kBool),
     KOVA_F(FlashLightConfig, brightness, "Brightness", kInt),
-    KOVA_CUSTOM(FlashLightConfig, timeSection, "TimeSection", (ParseWeekGrid<7, 6>),
-                (PackWeekGrid<7, 6>))
+    KOVA_WEEK_GRID(FlashLightConfig, timeSection, "TimeSection", 7, 6)
         .Flag(KOVA_AT(FlashLightConfig, timeSectionPresent)),
 };
 KOVA_DESCRIBE(FlashLightConfig, kFlashLightFields)

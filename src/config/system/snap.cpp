@@ -2,6 +2,7 @@
 #include "common/blocks/time_schedule.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
+#include "common/json/json_writer.h"
 #include "drivers/described_record.h"
 #include "drivers/response_frame.h"
 #include "kova/records/system.h"
@@ -19,15 +20,25 @@ void ParseSections(const Json::Value& obj, unsigned char* record, const Field&) 
   r->dayCount = days;
 }
 
+int32_t PackedDays(const SnapConfig& r) {
+  return (r.dayCount < 1 || r.dayCount > 8) ? 8 : r.dayCount;
+}
+
 void PackSections(const unsigned char* record, Json::Value& obj, const Field&) {
   const SnapConfig* r = reinterpret_cast<const SnapConfig*>(record);
-  const int32_t days = (r->dayCount < 1 || r->dayCount > 8) ? 8 : r->dayCount;
-  kova::PackTimeSectionGrid(kova::SetKeptMember(obj, "TimeSection"), &r->sections[0][0], days, 6);
+  kova::PackTimeSectionGrid(kova::SetKeptMember(obj, "TimeSection"), &r->sections[0][0],
+                            PackedDays(*r), 6);
+}
+
+void PackSectionsText(const unsigned char* record, const Field&, kova::TextSink* out) {
+  const SnapConfig* r = reinterpret_cast<const SnapConfig*>(record);
+  kova::WriteTimeSectionGridText(&r->sections[0][0], PackedDays(*r), 6, out);
 }
 
 constexpr Field kSnapFields[] = {
     KOVA_F(SnapConfig, holidayEnable, "HolidayEnable", kBool),
-    KOVA_CUSTOM(SnapConfig, sections, "TimeSection", ParseSections, PackSections),
+    KOVA_CUSTOM(SnapConfig, sections, "TimeSection", ParseSections, PackSections)
+        .PackText(PackSectionsText),
 };
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "common/blocks/time_schedule.h"
+#include "common/blocks/week_grid.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "drivers/described_record.h"
@@ -26,13 +27,6 @@ void ParseWeek(const Json::Value& obj, unsigned char* record, const Field& f) {
   MarkPresent(record, f);
 }
 
-void PackWeek(const unsigned char* record, Json::Value& obj, const Field& f) {
-  WeekSchedule7x6 week;
-  std::memcpy(&week, record + f.offset, sizeof week);
-  PackTimeSectionGrid(SetKeptMember(obj, f.key), &week.sections[0][0], KOVA_WEEK_DAYS,
-                      KOVA_SECTIONS_PER_DAY);
-}
-
 constexpr Field kProfileIndex = KOVA_ITEM(int32_t, kInt);
 
 }  // namespace
@@ -43,7 +37,10 @@ constexpr Field kVideoInModeFields[] = {
         .Count(KOVA_AT(VideoInModeConfig, configCount), CountRule::kTaken),
     KOVA_F(VideoInModeConfig, configEx, "ConfigEx", kText)
         .Flag(KOVA_AT(VideoInModeConfig, configExPresent)),
-    KOVA_CUSTOM(VideoInModeConfig, timeSection, "TimeSection", ParseWeek, PackWeek)
+    KOVA_CUSTOM(VideoInModeConfig, timeSection, "TimeSection", ParseWeek,
+                (PackWeekGrid<KOVA_WEEK_DAYS, KOVA_SECTIONS_PER_DAY>))
+        .PackText(WeekGridText<KOVA_WEEK_DAYS, KOVA_SECTIONS_PER_DAY,
+                               KOVA_MEMBER_SIZE(VideoInModeConfig, timeSection)>())
         .Flag(KOVA_AT(VideoInModeConfig, timeSectionPresent)),
 };
 
