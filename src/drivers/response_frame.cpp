@@ -334,6 +334,17 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
       sink.Put('\n');
       return EndPacked(sink.Done(), outJson, outLen);
     }
+    if (members && f.packMembers != nullptr && !NeedsCopy(f, in, stride) &&
+        stride % f.recordAlign == 0) {
+      // The members are written after the last record is read: the records
+      // are read in place, never through a copy.
+      ObjectText object;
+      for (uint32_t i = 0; i < n; ++i) f.packMembers(in + static_cast<size_t>(i) * stride, &object);
+      TextSink sink(outJson, room);
+      object.Write(&sink);
+      sink.Put('\n');
+      return EndPacked(sink.Done(), outJson, outLen);
+    }
     Json::Value root;
     if (members) root = Json::Value(Json::objectValue);
     TextBudget budget(room);

@@ -52,13 +52,21 @@ using PackStep = bool (*)(const unsigned char* record, Json::Value& out);
 // its PackStep gives through the single-line writer, with no value built.
 using PackTextStep = bool (*)(const unsigned char* record, TextSink* out);
 
+// For a pack that puts each record into one object as members
+// (PackWalk::kObjectMembers): adds the members the record's PackStep puts
+// there, for writing straight as text.
+using PackMembersStep = void (*)(const unsigned char* record, ObjectText* object);
+
 // A frame's pack: the step, and its text step when it has one (a
 // description's walk has; a hand-written step is given alone).
 struct Packing {
   constexpr Packing(PackStep step) : tree(step) {}  // NOLINT: a step alone packs through its value
   constexpr Packing(PackStep step, PackTextStep textStep) : tree(step), text(textStep) {}
+  constexpr Packing(PackStep step, PackMembersStep membersStep)
+      : tree(step), members(membersStep) {}
   PackStep tree;
   PackTextStep text = nullptr;
+  PackMembersStep members = nullptr;
 };
 
 // Whether "result" decides anything.
@@ -135,7 +143,8 @@ struct ResponseFrame {
   uint32_t recordAlign = 1;  // a caller's slot not aligned for the record is worked in a copy
   ParseStep parse = nullptr;
   PackStep pack = nullptr;
-  PackTextStep packText = nullptr;  // when set, used instead of `pack` and the writer
+  PackTextStep packText = nullptr;        // when set, used instead of `pack` and the writer
+  PackMembersStep packMembers = nullptr;  // the same for a pack of members
   ResultRule result = ResultRule::kMustBeTrue;
   TableAt tableAt = TableAt::kParamsTable;
   NullTable nullTable = NullTable::kSucceedEmpty;
@@ -185,6 +194,7 @@ struct ResponseFrame {
     f.parse = p;
     f.pack = k.tree;
     f.packText = k.text;
+    f.packMembers = k.members;
     return f;
   }
   // The one way an attribute is set: a copy with `member` set to `v`.

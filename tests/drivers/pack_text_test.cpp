@@ -59,13 +59,16 @@ TEST(PackText, WritesWhatTheValueTreeWrites) {
   int frames = 0;
   for (size_t k = 0; k < kova::kPackNameCount; ++k) {
     const kova::NameEntry& name = kova::kPackNames[k];
-    if (name.frame == nullptr || name.frame->packText == nullptr || HoldsPointer(name.name)) {
+    const ResponseFrame* rules = kova::kPackNames[kova::FindPackName("VideoAnalyseRule")].frame;
+    if (name.frame == nullptr || name.frame == rules ||
+        (name.frame->packText == nullptr && name.frame->packMembers == nullptr)) {
       continue;
     }
     ++frames;
     const ResponseFrame& text = *name.frame;
     ResponseFrame tree = text;
     tree.packText = nullptr;
+    tree.packMembers = nullptr;
     const uint32_t size = text.recordSize;
     // Every way of filling one record; two records (an array) and a buffer
     // one byte short of the text with the last.
@@ -81,6 +84,13 @@ TEST(PackText, WritesWhatTheValueTreeWrites) {
       }
       if (text.packWalk == kova::PackWalk::kCallerSized) {
         for (uint32_t i = 0; i < records; ++i) std::memcpy(&in[size_t{i} * size], &size, 4);
+      }
+      // A pointer in the record aimed at a buffer of what it announces.
+      kova_harness::PointedBuffers pointed;
+      if (HoldsPointer(name.name)) {
+        std::string content(64, '\0');
+        FillSmall(reinterpret_cast<uint8_t*>(&content[0]), content.size(), run);
+        pointed.Attach(name.name, in.data(), in.size(), size, -1, content);
       }
       // Room for any text the record gives: a few bytes of text per byte.
       const uint32_t room = 16 * static_cast<uint32_t>(in.size()) + 4096;

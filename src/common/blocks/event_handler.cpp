@@ -270,25 +270,20 @@ void PackLinkageStep(const unsigned char* record, Json::Value& obj, const Field&
 
 namespace {
 
-struct LinkageAt {
-  const unsigned char* record;
-  const Field* field;
-};
-
 // "TimeSection" as PackEventHandler and PackBeside leave it: the block's
 // own 7 or 8 days, the alarm week over their first seven days, or the
 // rule's grid in their place.
-void WriteLinkageSchedule(const void* context, TextSink* out) {
-  const LinkageAt& at = *static_cast<const LinkageAt*>(context);
-  const Field& f = *at.field;
-  const unsigned char* beside = at.record + f.beside.offset;
+void WriteLinkageSchedule(const void* block, const Field* field, TextSink* out) {
+  const unsigned char* record = static_cast<const unsigned char*>(block);
+  const Field& f = *field;
+  const unsigned char* beside = record + f.beside.offset;
   if (f.beside.size == sizeof(WeekSchedule7x10)) {
     WriteTimeSectionGridText(reinterpret_cast<const TimeSectionRecord*>(beside), KOVA_WEEK_DAYS,
                              KOVA_ANALYSE_SECTIONS_PER_DAY, out);
     return;
   }
   const HolidaySchedule& schedule =
-      reinterpret_cast<const EventHandlerRecord*>(at.record + f.offset)->schedule;
+      reinterpret_cast<const EventHandlerRecord*>(record + f.offset)->schedule;
   constexpr int32_t kDays = sizeof schedule.sections / sizeof schedule.sections[0];
   const TimeSectionRecord* rows[kDays];
   for (int32_t d = 0; d < kDays; ++d) rows[d] = schedule.sections[d];
@@ -302,12 +297,11 @@ void WriteLinkageSchedule(const void* context, TextSink* out) {
                        KOVA_SECTIONS_PER_DAY, out);
 }
 
-}  // namespace
-
-void PackLinkageText(const unsigned char* record, const Field& f, TextSink* out) {
-  const LinkageAt at{record, &f};
+void WriteLinkage(const void* block, const Field* field, TextSink* out) {
+  const unsigned char* record = static_cast<const unsigned char*>(block);
+  const Field& f = *field;
   ObjectText handler;
-  handler.Member("TimeSection", WriteLinkageSchedule, &at);
+  handler.Member("TimeSection", WriteLinkageSchedule, record, &f);
   handler.Fields(record + f.offset, kEventHandler);
   if (f.table != nullptr) handler.Fields(record, *f.table);
   if (handler.ok()) {
@@ -317,6 +311,12 @@ void PackLinkageText(const unsigned char* record, const Field& f, TextSink* out)
   Json::Value obj;
   PackLinkageStep(record, obj, f);
   WriteJsonValue(Member(obj, f.key), out);
+}
+
+}  // namespace
+
+void PackLinkageText(const unsigned char* record, const Field& f, ObjectText* object) {
+  object->Member(f.key, WriteLinkage, record, &f);
 }
 
 }  // namespace kova

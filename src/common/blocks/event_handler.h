@@ -50,7 +50,7 @@ void PackEventHandler(const EventHandlerRecord& record, Json::Value& jsonEventHa
 void ParseLinkageStep(const Json::Value& obj, unsigned char* record, const Field& f);
 void PackLinkageStep(const unsigned char* record, Json::Value& obj, const Field& f);
 // PackLinkageStep's member written straight as text.
-void PackLinkageText(const unsigned char* record, const Field& f, TextSink* out);
+void PackLinkageText(const unsigned char* record, const Field& f, ObjectText* object);
 
 // A schedule grid of type Grid kept in the record beside a linkage block.
 template <typename Grid>

@@ -16,6 +16,7 @@
 
 #include "common/blocks/time_schedule.h"
 #include "common/fields/field_table.h"
+#include "common/fields/field_text.h"
 #include "common/json/json.h"
 #include "common/json/json_writer.h"
 
@@ -44,10 +45,14 @@ void PackWeekGrid(const unsigned char* record, Json::Value& obj, const Field& f)
 // PackWeekGrid's member as text (KOVA_WEEK_GRID holds the member's size to
 // the grid's).
 template <int kDays, int kSections>
-void PackWeekGridText(const unsigned char* record, const Field& f, TextSink* out) {
+void WriteWeekGrid(const void* member, const Field* /*f*/, TextSink* out) {
   TimeSectionRecord grid[kDays][kSections];
-  std::memcpy(grid, record + f.offset, sizeof grid);
+  std::memcpy(grid, member, sizeof grid);
   WriteTimeSectionGridText(&grid[0][0], kDays, kSections, out);
+}
+template <int kDays, int kSections>
+void PackWeekGridText(const unsigned char* record, const Field& f, ObjectText* object) {
+  object->Member(f.key, WriteWeekGrid<kDays, kSections>, record + f.offset);
 }
 
 template <int kDays, int kSections, uint32_t kMemberSize>

@@ -12,7 +12,7 @@
 
 namespace kova {
 
-class TextSink;
+class ObjectText;
 
 // What one scalar (or one tuple item, or one list entry) holds.
 enum class FieldKind : uint8_t {
@@ -137,10 +137,11 @@ struct FieldTable {
 // `obj`; `field.key` and `field.offset` say which.
 using CustomParse = void (*)(const Json::Value& obj, unsigned char* record, const Field& field);
 using CustomPack = void (*)(const unsigned char* record, Json::Value& obj, const Field& field);
-// The same step's member written straight as text: the value (no key) of
-// the one member `field.key` its CustomPack always writes, byte for byte
-// what the single-line writer gives for it.
-using CustomPackText = void (*)(const unsigned char* record, const Field& field, TextSink* out);
+// The same step for a pack written straight as text: adds to `object` the
+// members its CustomPack writes (ObjectText::Member), each with a writer
+// of its value that gives byte for byte what the single-line writer gives.
+using CustomPackText = void (*)(const unsigned char* record, const Field& field,
+                                ObjectText* object);
 
 // Where a flag or count member sits in the record.
 struct Slot {
@@ -244,8 +245,7 @@ struct Field {
   }
   // Pack: a nested block none of whose members is written packs as null.
   constexpr Field NullWhenEmpty() const { return With(&Field::nullWhenEmpty, true); }
-  // A custom step that always writes its one member `key` (when present by
-  // its presence rule), and writes it straight as text with `write`.
+  // A custom step's members for a pack written straight as text.
   constexpr Field PackText(CustomPackText write) const { return With(&Field::packText, write); }
 };
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 #include "common/fields/field_walk.h"
@@ -245,8 +246,14 @@ bool ObjectText::Has(const char* key, size_t length) const {
   return false;
 }
 
-void ObjectText::Member(const char* key, MemberText write, const void* context) {
-  Add(Entry{key, std::strlen(key), nullptr, context, nullptr, write});
+void ObjectText::Member(const char* key, MemberText write, const void* record, const Field* field) {
+  Add(Entry{key, std::strlen(key), field, record, nullptr, write});
+}
+
+void ObjectText::OwnMember(std::string key, MemberText write, const void* record,
+                           const Field* field) {
+  keys_.push_front(std::move(key));
+  Add(Entry{keys_.front().c_str(), keys_.front().size(), field, record, nullptr, write});
 }
 
 void ObjectText::Fields(const void* record, const Field* fields, size_t count) {
@@ -256,8 +263,8 @@ void ObjectText::Fields(const void* record, const Field* fields, size_t count) {
     if (f.direction == Direction::kParseOnly) continue;
     if (!Present(base, f)) continue;
     if (f.shape == FieldShape::kCustom) {
-      if (f.packText != nullptr && f.key != nullptr) {
-        Add(Entry{f.key, std::strlen(f.key), &f, base, nullptr, nullptr});
+      if (f.packText != nullptr) {
+        f.packText(base, f, this);
         continue;
       }
       if (f.pack == nullptr) continue;
@@ -314,9 +321,7 @@ void ObjectText::Write(TextSink* out) {
     if (e[i].tree != nullptr) {
       WriteJsonValue(*e[i].tree, out);
     } else if (e[i].write != nullptr) {
-      e[i].write(e[i].record, out);
-    } else if (e[i].field->shape == FieldShape::kCustom) {
-      e[i].field->packText(record, *e[i].field, out);
+      e[i].write(e[i].record, e[i].field, out);
     } else if (e[i].field->shape == FieldShape::kList) {
       WriteList(record, *e[i].field, out);  // the count member lives in the record
     } else {

@@ -14,6 +14,7 @@
 
 #include <cstddef>
 #include <forward_list>
+#include <string>
 #include <vector>
 
 #include "common/fields/field_table.h"
@@ -33,8 +34,8 @@ void WriteMembersText(const void* record, const FieldTable& t, TextSink* out);
 // PackValue writes nothing.
 bool WriteValueText(const unsigned char* member, const Field& f, TextSink* out);
 
-// Writes one member's value.
-using MemberText = void (*)(const void* context, TextSink* out);
+// Writes one member's value from what ObjectText::Member was given.
+using MemberText = void (*)(const void* record, const Field* field, TextSink* out);
 
 // One object whose members come from several places (field tables over
 // records, hand-written members), written as PackFields over each of them
@@ -48,8 +49,12 @@ class ObjectText {
   void Fields(const void* record, const Field (&fields)[N]) {
     Fields(record, fields, N);
   }
-  // A member `key` (a literal) whose value `write(context, out)` writes.
-  void Member(const char* key, MemberText write, const void* context);
+  // A member `key` (a literal) whose value `write(record, field, out)`
+  // writes; what `record` points at is kept until the object is written.
+  void Member(const char* key, MemberText write, const void* record, const Field* field = nullptr);
+  // The same for a key made at run time, kept by the object.
+  void OwnMember(std::string key, MemberText write, const void* record,
+                 const Field* field = nullptr);
   // False when a hand-written step wrote what only its tree can follow:
   // the object is then to be packed through the tree.
   bool ok() const { return ok_; }
@@ -62,8 +67,8 @@ class ObjectText {
   struct Entry {
     const char* key;
     size_t length;
-    const Field* field;       // a field of `record`, or null
-    const void* record;       // the field's record, or the writer's context
+    const Field* field;       // a field of `record` (or what `write` is given)
+    const void* record;       // where the field's offset counts from (or `write`'s record)
     const Json::Value* tree;  // a step's member, or null
     MemberText write;         // a hand-written member, or null
   };
@@ -78,6 +83,7 @@ class ObjectText {
   std::vector<Entry> spill_;  // once more members than the local slots
   size_t n_ = 0;
   std::forward_list<Json::Value> steps_;  // what the steps packed, kept until written
+  std::forward_list<std::string> keys_;   // keys made at run time
   bool ok_ = true;
   bool made_ = false;
 };

@@ -95,4 +95,11 @@ bool SetJsonStringBounded(Json::Value& v, const char* src, uint32_t cap, uint8_t
   return SetJsonString(v, text.c_str(), convert);
 }
 
+std::string NameOfField(const char* src, uint32_t cap) {
+  Json::Value v;
+  SetJsonStringBounded(v, src, cap, 1);
+  const std::string text = ToText(v);
+  return text.substr(0, std::strlen(text.c_str()));
+}
+
 }  // namespace kova

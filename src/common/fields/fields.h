@@ -9,6 +9,7 @@
 #include <json/value.h>
 
 #include <cstdint>
+#include <string>
 
 namespace kova {
 
@@ -33,6 +34,10 @@ bool SetJsonString(Json::Value& v, const char* src, uint8_t convert);
 // (Records come from callers; a field filled to capacity is never read past.)
 // Stores it like SetJsonString.
 bool SetJsonStringBounded(Json::Value& v, const char* src, uint32_t cap, uint8_t convert);
+
+// The text of a fixed field of capacity `cap` as SetJsonStringBounded
+// stores it (converted to UTF-8), up to its first NUL: a member's name.
+std::string NameOfField(const char* src, uint32_t cap);
 
 // UTF-8 to the local code page: converts the NUL-terminated length of `src`
 // (`srcLen` is only checked to be at least 1) into at most `cap` bytes of

@@ -47,8 +47,29 @@ void PackClockRange(const unsigned char* record, Json::Value& obj, const Field& 
   }
 }
 
-#define KOVA_CLOCK_RANGE(member, key) \
-  KOVA_CUSTOM(DayNightPeriod, member, key, ParseClockRange, PackClockRange)
+// The clock texts need no escapes: digits, signs and ':'.
+void WriteClockRange(const void* member, const Field*, TextSink* out) {
+  ClockTime times[2];
+  std::memcpy(times, member, sizeof times);
+  out->Literal("[ ");
+  for (uint32_t i = 0; i < 2; ++i) {
+    if (i != 0) out->Literal(", ");
+    char text[kClockText + 2];
+    text[0] = '"';
+    char* end = PutClock(text + 1, times[i].hour, times[i].minute, times[i].second);
+    *end++ = '"';
+    out->Put(text, static_cast<size_t>(end - text));
+  }
+  out->Literal(" ]");
+}
+
+void PackClockRangeText(const unsigned char* record, const Field& f, ObjectText* obj) {
+  obj->Member(f.key, WriteClockRange, record + f.offset);
+}
+
+#define KOVA_CLOCK_RANGE(member, key)                                       \
+  KOVA_CUSTOM(DayNightPeriod, member, key, ParseClockRange, PackClockRange) \
+      .PackText(PackClockRangeText)
 
 inline constexpr const char* kSwitchModeNames[] = {"ByColor", "ByBrightness"};
 inline constexpr EnumNames kSwitchModes =
@@ -211,12 +232,55 @@ bool PackGlobal(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
+template <size_t kSlots>
+void WriteNumberedSlot(const void* slot, const Field*, TextSink* out) {
+  WriteMembersText(slot, kNumbered[kSlots].table, out);
+}
+constexpr MemberText kNumberedWriters[] = {WriteNumberedSlot<0>, WriteNumberedSlot<1>};
+static_assert(sizeof kNumberedWriters / sizeof kNumberedWriters[0] ==
+                  sizeof kNumbered / sizeof kNumbered[0],
+              "a writer for each kind of numbered slot");
+
+void WritePeriod(const void* period, const Field*, TextSink* out) {
+  WriteMembersText(period, KOVA_TABLE(kPeriodFields), out);
+}
+
+bool PackGlobalText(const unsigned char* record, TextSink* out) {
+  G g;
+  std::memcpy(&g, record, sizeof g);
+  ObjectText table;
+  table.Fields(&g, kGlobalFields);
+  const unsigned char* at = reinterpret_cast<const unsigned char*>(&g);
+  for (size_t k = 0; k < sizeof kNumbered / sizeof kNumbered[0]; ++k) {
+    const NumberedSlots& n = kNumbered[k];
+    for (uint32_t i = 0; i < n.slots; ++i) {
+      if (at[n.flagsAt + i] == 0) continue;
+      table.OwnMember(NumberedKey(n.base, n.first + i), kNumberedWriters[k],
+                      at + n.at + i * n.slotSize);
+    }
+  }
+  const uint32_t periods =
+      g.periods == nullptr ? 0 : CutCount(g.periodCount, KOVA_GLOBAL_MAX_PERIODS);
+  for (uint32_t i = 0; i < periods; ++i) {
+    table.OwnMember(NumberedKey("TimePeriod", i + 1), WritePeriod,
+                    reinterpret_cast<const unsigned char*>(g.periods) + i * sizeof(DayNightPeriod));
+  }
+  if (!table.ok()) {
+    Json::Value tree;
+    PackGlobal(record, tree);
+    WriteJsonValue(tree, out);
+    return true;
+  }
+  table.Write(out);
+  return true;
+}
+
 // Only a "result" given and false fails.
 
 }  // namespace
 
 extern const ResponseFrame kVideoAnalyseGlobalFrame =
-    KeptRecordFrame<G>(ParseGlobal, PackGlobal)
+    KeptRecordFrame<G>(ParseGlobal, Packing(PackGlobal, PackGlobalText))
         .Result(ResultRule::kFalseFails)
         .Describe(WholeTable<G, kGlobalTable>::kField);
 

@@ -62,8 +62,8 @@ void PackRuleBody(const unsigned char* body, const RuleType& type, Json::Value& 
 
 namespace {
 
-void WriteConfig(const void* context, TextSink* out) {
-  const RuleBodyAt& at = *static_cast<const RuleBodyAt*>(context);
+void WriteConfig(const void* body, const Field*, TextSink* out) {
+  const RuleBodyAt& at = *static_cast<const RuleBodyAt*>(body);
   WriteMembersText(at.body, at.type->config, out);
 }
 

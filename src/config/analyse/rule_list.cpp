@@ -162,8 +162,8 @@ void PackRule(const RuleEntryHeader& header, const unsigned char* body, const Ru
   PackFields(&header, rule, &kPackedClass, 1);
 }
 
-void WriteName(const void* context, TextSink* out) {
-  const char* name = static_cast<const char*>(context);
+void WriteName(const void* text, const Field*, TextSink* out) {
+  const char* name = static_cast<const char*>(text);
   WriteJsonString(name, name + std::strlen(name), out);
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "common/fields/field_table.h"
+#include "common/fields/field_text.h"
 #include "common/fields/fields.h"
 #include "common/json/json.h"
 #include "drivers/described_record.h"
@@ -61,11 +62,22 @@ void PackInterfaces(const unsigned char* record, Json::Value& table, const Field
   const uint32_t n = CutCount(config->interfaceCount, KOVA_NETWORK_MAX_INTERFACES);
   for (uint32_t i = 0; i < n; ++i) {
     const NetworkInterface& nif = config->interfaces[i];
-    Json::Value name;
-    SetJsonStringBounded(name, nif.name, sizeof nif.name, 1);
-    Json::Value& obj = SetMember(table, ToText(name).c_str());
+    Json::Value& obj = SetMember(table, NameOfField(nif.name, sizeof nif.name).c_str());
     obj = Json::Value(Json::objectValue);
     PackFields(&nif, obj, kInterfaceFields);
+  }
+}
+
+void WriteInterface(const void* nif, const Field*, TextSink* out) {
+  WriteMembersText(nif, KOVA_TABLE(kInterfaceFields), out);
+}
+
+void PackInterfacesText(const unsigned char* record, const Field&, ObjectText* table) {
+  const NetworkConfig* config = reinterpret_cast<const NetworkConfig*>(record);
+  const uint32_t n = CutCount(config->interfaceCount, KOVA_NETWORK_MAX_INTERFACES);
+  for (uint32_t i = 0; i < n; ++i) {
+    const NetworkInterface& nif = config->interfaces[i];
+    table->OwnMember(NameOfField(nif.name, sizeof nif.name), WriteInterface, &nif);
   }
 }
 
@@ -73,7 +85,8 @@ constexpr Field kNetworkFields[] = {
     KOVA_F(NetworkConfig, hostName, "Hostname", kText),
     KOVA_F(NetworkConfig, domain, "Domain", kText),
     KOVA_F(NetworkConfig, defaultInterface, "DefaultInterface", kText),
-    KOVA_CUSTOM(NetworkConfig, interfaces, nullptr, ParseInterfaces, PackInterfaces),
+    KOVA_CUSTOM(NetworkConfig, interfaces, nullptr, ParseInterfaces, PackInterfaces)
+        .PackText(PackInterfacesText),
 };
 
 }  // namespace

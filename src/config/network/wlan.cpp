@@ -3,6 +3,7 @@
 #include <string>
 
 #include "common/fields/field_table.h"
+#include "common/fields/field_text.h"
 #include "common/fields/fields.h"
 #include "common/json/json.h"
 #include "drivers/response_frame.h"
@@ -72,18 +73,32 @@ bool PackWLanStep(const unsigned char* record, Json::Value& out) {
   const uint32_t n = CutCount(config->interfaceCount, KOVA_WLAN_MAX_INTERFACES);
   for (uint32_t i = 0; i < n; ++i) {
     const WLanInterface& wif = config->interfaces[i];
-    Json::Value name;
-    SetJsonStringBounded(name, wif.name, sizeof wif.name, 1);
-    Json::Value& obj = SetMember(out, ToText(name).c_str());
+    Json::Value& obj = SetMember(out, NameOfField(wif.name, sizeof wif.name).c_str());
     obj = Json::Value(Json::objectValue);
     PackFields(&wif, obj, kWLanInterfaceFields);
   }
   return true;
 }
 
+void WriteInterface(const void* wif, const Field*, TextSink* out) {
+  WriteMembersText(wif, KOVA_TABLE(kWLanInterfaceFields), out);
+}
+
+bool PackWLanText(const unsigned char* record, TextSink* out) {
+  const WLanConfig* config = reinterpret_cast<const WLanConfig*>(record);
+  ObjectText interfaces;
+  const uint32_t n = CutCount(config->interfaceCount, KOVA_WLAN_MAX_INTERFACES);
+  for (uint32_t i = 0; i < n; ++i) {
+    const WLanInterface& wif = config->interfaces[i];
+    interfaces.OwnMember(NameOfField(wif.name, sizeof wif.name), WriteInterface, &wif);
+  }
+  interfaces.Write(out);
+  return true;
+}
+
 }  // namespace
 
-extern const ResponseFrame kWLanFrame =
-    DriverFrame<WLanConfig>(ParseWLanStep, PackWLanStep, {0, false, true, false});
+extern const ResponseFrame kWLanFrame = DriverFrame<WLanConfig>(
+    ParseWLanStep, Packing(PackWLanStep, PackWLanText), {0, false, true, false});
 
 }  // namespace kova

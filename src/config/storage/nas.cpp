@@ -10,6 +10,7 @@
 #include "common/fields/fields.h"
 #include "common/fields/text_forms.h"
 #include "common/json/json.h"
+#include "common/json/json_writer.h"
 #include "config/storage/nas_forms.h"
 #include "drivers/response_frame.h"
 #include "drivers/table_driver.h"
@@ -135,12 +136,35 @@ bool PackNasRoot(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
+bool PackNasRootText(const unsigned char* record, TextSink* out) {
+  if (LoadInt(record + offsetof(NasConfig, useServerList), 4, true) == 0) {
+    Json::Value legacy;
+    PackNasRoot(record, legacy);
+    WriteJsonValue(legacy, out);
+    return true;
+  }
+  uint32_t n = kServerSlots;
+  while (n > 0 && AllZero(ServerSlot(record, n - 1), sizeof(NasServer))) --n;
+  out->Literal("[ ");
+  for (uint32_t i = 0; i < n; ++i) {
+    if (i != 0) out->Literal(", ");
+    if (AllZero(ServerSlot(record, i), sizeof(NasServer))) {
+      out->Literal("null");
+    } else {
+      WriteMembersText(ServerSlot(record, i), KOVA_TABLE(kServerFields), out);
+    }
+  }
+  out->Literal(" ]");
+  return true;
+}
+
 }  // namespace
 
-extern const ResponseFrame kNasFrame = ResponseFrame::For<NasConfig>(ParseNasRoot, PackNasRoot)
-                                           .IgnoreResult()
-                                           .Table(TableAt::kRoot)
-                                           .OnNullTable(NullTable::kFail)
-                                           .Returned(ReturnedLength::kSetRecord);
+extern const ResponseFrame kNasFrame =
+    ResponseFrame::For<NasConfig>(ParseNasRoot, Packing(PackNasRoot, PackNasRootText))
+        .IgnoreResult()
+        .Table(TableAt::kRoot)
+        .OnNullTable(NullTable::kFail)
+        .Returned(ReturnedLength::kSetRecord);
 
 }  // namespace kova

@@ -75,10 +75,14 @@ void PackSchedule(const unsigned char* record, Json::Value& table, const Field&)
   PackTimeSectionGrid(SetKeptMember(table, "TimeSection"), &grid[0][0], rows, kSectionsPerDay);
 }
 
-void PackScheduleText(const unsigned char* record, const Field&, TextSink* out) {
+void WriteSchedule(const void* record, const Field*, TextSink* out) {
   TimeSectionRecord grid[kWeekDays + 1][kSectionsPerDay];
-  const int rows = DeviceRows(*reinterpret_cast<const RecordConfig*>(record), grid);
+  const int rows = DeviceRows(*static_cast<const RecordConfig*>(record), grid);
   WriteTimeSectionGridText(&grid[0][0], rows, kSectionsPerDay, out);
+}
+
+void PackScheduleText(const unsigned char* record, const Field& f, ObjectText* object) {
+  object->Member(f.key, WriteSchedule, record);
 }
 
 constexpr Field kRecordFields[] = {

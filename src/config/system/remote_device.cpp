@@ -75,19 +75,25 @@ bool ParseDevice(const Json::Value& device, const StepContext& ctx, unsigned cha
 // Adds the device to the one "table" object under its identifier.
 bool PackDevice(const unsigned char* record, Json::Value& table) {
   const RemoteDeviceConfig* r = reinterpret_cast<const RemoteDeviceConfig*>(record);
-  Json::Value id;
-  SetJsonStringBounded(id, r->id, sizeof r->id, 1);
-  const std::string key = ToText(id);
-  Json::Value& device = SetMember(table, key.c_str());
+  Json::Value& device = SetMember(table, NameOfField(r->id, sizeof r->id).c_str());
   device = Json::Value(Json::objectValue);
   PackFields(record, device, Description<RemoteDeviceConfig>::table);
   return true;
 }
 
+void WriteDevice(const void* record, const Field*, TextSink* out) {
+  WriteMembersText(record, Description<RemoteDeviceConfig>::table, out);
+}
+
+void PackDeviceMembers(const unsigned char* record, ObjectText* table) {
+  const RemoteDeviceConfig* r = reinterpret_cast<const RemoteDeviceConfig*>(record);
+  table->OwnMember(NameOfField(r->id, sizeof r->id), WriteDevice, record);
+}
+
 }  // namespace
 
 extern const ResponseFrame kRemoteDeviceFrame =
-    ResponseFrame::For<RemoteDeviceConfig>(ParseDevice, PackDevice)
+    ResponseFrame::For<RemoteDeviceConfig>(ParseDevice, Packing(PackDevice, PackDeviceMembers))
         .Walk(RecordWalk::kObjectMembers)
         .Describe(DescribedObject<RemoteDeviceConfig>::kWhole);
 

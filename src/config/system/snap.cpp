@@ -1,6 +1,7 @@
 // "Snap": the timed snapshot schedule of each channel.
 #include "common/blocks/time_schedule.h"
 #include "common/fields/field_table.h"
+#include "common/fields/field_text.h"
 #include "common/json/json.h"
 #include "common/json/json_writer.h"
 #include "drivers/described_record.h"
@@ -30,9 +31,13 @@ void PackSections(const unsigned char* record, Json::Value& obj, const Field&) {
                             PackedDays(*r), 6);
 }
 
-void PackSectionsText(const unsigned char* record, const Field&, kova::TextSink* out) {
-  const SnapConfig* r = reinterpret_cast<const SnapConfig*>(record);
+void WriteSections(const void* record, const Field*, kova::TextSink* out) {
+  const SnapConfig* r = static_cast<const SnapConfig*>(record);
   kova::WriteTimeSectionGridText(&r->sections[0][0], PackedDays(*r), 6, out);
+}
+
+void PackSectionsText(const unsigned char* record, const Field& f, kova::ObjectText* object) {
+  object->Member(f.key, WriteSections, record);
 }
 
 constexpr Field kSnapFields[] = {

@@ -326,6 +326,11 @@ bool WriteSnapshot(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
+bool WriteSnapshotText(const unsigned char* record, TextSink* out) {
+  WriteMembersText(record, kSnapshotTable, out);
+  return true;
+}
+
 // All of `outLen` is cleared, not only the record; "result" is not looked
 // at; a null table fails; `retLen` gets the record's size whatever the
 // filling met (all intended).
@@ -333,7 +338,7 @@ bool WriteSnapshot(const unsigned char* record, Json::Value& out) {
 }  // namespace
 
 extern const ResponseFrame kTrafficSnapshotFrame =
-    ResponseFrame::For<R>(FillSnapshot, WriteSnapshot)
+    ResponseFrame::For<R>(FillSnapshot, Packing(WriteSnapshot, WriteSnapshotText))
         .Clear(Clearing::kWholeBuffer)
         .IgnoreResult()
         .OnNullTable(NullTable::kFail)
