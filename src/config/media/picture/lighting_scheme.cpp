@@ -103,11 +103,34 @@ void PackWeek(const unsigned char* record, Json::Value& obj, const Field& f) {
   }
 }
 
+void WriteWeek(const void* record, const Field*, TextSink* out) {
+  const LightingSchemeProfile* p = static_cast<const LightingSchemeProfile*>(record);
+  out->Literal("[ ");
+  const uint32_t days = CutCount(p->dayCount, KOVA_WEEK_DAYS);
+  for (uint32_t d = 0; d < days; ++d) {
+    if (d != 0) out->Literal(", ");
+    out->Literal("[ ");
+    const uint32_t n = CutCount(p->sectionCount[d], KOVA_SCHEME_SECTIONS_PER_DAY);
+    for (uint32_t s = 0; s < n; ++s) {
+      if (s != 0) out->Literal(", ");
+      const std::string text = WriteSchemeSection(p->sections[d][s]);
+      WriteJsonString(text.data(), text.data() + text.size(), out);
+    }
+    out->Literal(" ]");
+  }
+  out->Literal(" ]");
+}
+
+void PackWeekText(const unsigned char* record, const Field& f, ObjectText* obj) {
+  obj->Member(f.key, WriteWeek, record);
+}
+
 }  // namespace
 
 constexpr Field kSchemeScheduleFields[] = {
     KOVA_F(LightingSchemeProfile, scheduleEnable, "Enable", kBool),
-    KOVA_CUSTOM(LightingSchemeProfile, sections, "TimeSectionByWeek", ParseWeek, PackWeek),
+    KOVA_CUSTOM(LightingSchemeProfile, sections, "TimeSectionByWeek", ParseWeek, PackWeek)
+        .PackText(PackWeekText),
 };
 constexpr FieldTable kSchemeSchedule = KOVA_TABLE(kSchemeScheduleFields);
 

@@ -49,11 +49,17 @@ bool PackDayNight(const unsigned char* record, Json::Value& target) {
   return true;
 }
 
+bool PackDayNightText(const unsigned char* record, TextSink* out) {
+  if (!WriteValueText(record, kProfiles, out)) out->Literal("null");
+  return true;
+}
+
 }  // namespace
 
 // A table of channels is an array of arrays of profiles.
 extern const ResponseFrame kVideoInDayNightFrame =
-    DriverFrame<VideoInDayNightConfig>(ParseDayNight, PackDayNight, {1, true, true, true})
+    DriverFrame<VideoInDayNightConfig>(ParseDayNight, Packing(PackDayNight, PackDayNightText),
+                                       {1, true, true, true})
         .Describe(kProfiles);
 
 }  // namespace kova
