@@ -5,6 +5,7 @@
 #include <cstring>
 #include <vector>
 
+#include "common/base/platform.h"
 #include "common/json/json.h"
 #include "common/json/json_writer.h"
 
@@ -184,6 +185,7 @@ bool NeedsCopy(const ResponseFrame& f, const unsigned char* slot, uint32_t strid
 
 int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, uint32_t outLen,
                    uint32_t* retLen) {
+  const platform::CodePagePin pin;  // one code page for every text of the document
   try {
     if (jsonText == nullptr || outBuf == nullptr || f.parse == nullptr || f.recordSize == 0) {
       return 0;
@@ -275,6 +277,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
 
 int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, char* outJson,
                   uint32_t outLen) {
+  const platform::CodePagePin pin;  // one code page for every text of the records
   try {
     if (outJson == nullptr || outLen == 0) return 0;
     std::memset(outJson, 0, outLen);

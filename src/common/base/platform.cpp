@@ -103,12 +103,16 @@ std::string FoldName(const std::string& name) {
 
 namespace {
 
-// Pins held on this thread, and the code page the first of them fixed.
+// Pins held on this thread, and the code page fixed by the first
+// conversion made under them (none when the document has no text).
 thread_local int tPins = 0;
 thread_local const internal::CodePage* tPinnedPage = nullptr;
 
 const internal::CodePage& CurrentCodePage() {
-  return tPinnedPage != nullptr ? *tPinnedPage : internal::FollowCodePage();
+  if (tPinnedPage != nullptr) return *tPinnedPage;
+  const internal::CodePage& page = internal::FollowCodePage();
+  if (tPins > 0) tPinnedPage = &page;
+  return page;
 }
 
 bool IsAscii(const char* s, size_t n) {
@@ -154,9 +158,9 @@ Conversion LocalToUtf8(const char* src, size_t n, char* dst, size_t cap) {
 std::string LocalCodePage() { return internal::ResolveCodePage(); }
 
 CodePagePin::CodePagePin() {
-  // The thread's converter stays as the first pin readied it until the last
-  // pin goes.
-  if (tPins++ == 0) tPinnedPage = &internal::FollowCodePage();
+  // The thread's converter stays as the first conversion under a pin
+  // readied it until the last pin goes.
+  ++tPins;
 }
 
 CodePagePin::~CodePagePin() {

@@ -63,8 +63,9 @@ Conversion LocalToUtf8(const char* src, size_t n, char* dst, size_t cap);
 std::string LocalCodePage();
 
 // While one lives on a thread, that thread's conversions use the local code
-// page as it was when the first one was made: one look at the environment
-// and the locale for a whole document instead of one per text field.
+// page as the first conversion under it found it: one look at the
+// environment and the locale for a whole document instead of one per text
+// field, and none for a document without text.
 class CodePagePin {
  public:
   CodePagePin();

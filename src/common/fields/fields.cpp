@@ -52,15 +52,19 @@ bool GetJsonString(const Json::Value& v, char* dst, uint32_t cap, uint8_t conver
   if (dst == nullptr || cap == 0) return false;
   std::memset(dst, 0, cap);
   if (!v.isString()) return false;
-  const std::string text = ToText(v);
+  // Read in place: the JSON library keeps a string NUL-terminated.
+  const char* begin = nullptr;
+  const char* end = nullptr;
+  if (!v.getString(&begin, &end) || begin == end) return true;
+  const size_t size = static_cast<size_t>(end - begin);
   if (convert) {
     // The capacity handed on is below INT32_MAX for any real record field.
     const uint32_t room = cap - 1 > 0x7FFFFFFFu ? 0x7FFFFFFFu : cap - 1;
-    const size_t len = std::min<size_t>(text.size(), 0x7FFFFFFFu);
-    Utf8ToAnsi(text.c_str(), static_cast<int32_t>(len), dst, static_cast<int32_t>(room));
+    const size_t len = std::min<size_t>(size, 0x7FFFFFFFu);
+    Utf8ToAnsi(begin, static_cast<int32_t>(len), dst, static_cast<int32_t>(room));
   } else {
     // Cut without regard to characters: a multi-byte character may be split.
-    std::memcpy(dst, text.data(), std::min<size_t>(text.size(), cap - 1));
+    std::memcpy(dst, begin, std::min<size_t>(size, cap - 1));
   }
   return true;
 }
