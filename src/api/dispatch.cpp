@@ -1,8 +1,5 @@
 #include "api/dispatch.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "common/base/ascii.h"
 #include "common/base/log.h"
 #include "config/flat/flat.h"

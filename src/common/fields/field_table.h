@@ -38,7 +38,8 @@
 //   PackFields(&fence, table, kFence);    // record -> JSON object
 //
 // A translator runs such a table inside its response frame
-// (drivers/response_frame.h): ParseTableStep<kFence> / PackTableStep<kFence>.
+// (drivers/response_frame.h): ParseTableStep<kFence> / TablePack<kFence>(),
+// whose pack writes the text straight from the record (field_text.h).
 //
 // Beside the shape, kind and names, a field takes independent attributes:
 //   presence  .Flag(slot) (KOVA_AT, KOVA_AT_ITEM for present[i]), .Sentinel(v),

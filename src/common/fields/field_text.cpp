@@ -28,31 +28,6 @@ bool SameKey(const Entry& a, const Entry& b) {
   return a.length == b.length && std::memcmp(a.key, b.key, a.length) == 0;
 }
 
-const char* UnnamedText(const Field& f, bool* written) {
-  Unnamed rule = f.unnamed;
-  if (rule == Unnamed::kTable) rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
-  *written = true;
-  switch (rule) {
-    case Unnamed::kOmit:
-      *written = false;
-      return nullptr;
-    case Unnamed::kNull:
-      return nullptr;
-    case Unnamed::kFirstName: {
-      const char* first = f.names->count > 0 ? f.names->names[0] : nullptr;
-      return first != nullptr ? first : "";
-    }
-    case Unnamed::kUnknownName: {
-      const char* unknown = EnumName(*f.names, f.names->unknownValue);
-      return unknown != nullptr ? unknown : "";
-    }
-    case Unnamed::kTable:
-    case Unnamed::kEmptyText:
-      break;
-  }
-  return "";
-}
-
 // Whether PackScalar writes anything for `p`.
 bool ScalarWrites(const unsigned char* p, const Field& f) {
   if (f.packAs != PackAs::kNatural) return true;

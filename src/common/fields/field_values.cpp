@@ -54,6 +54,30 @@ bool Present(const unsigned char* record, const Field& f) {
   return true;
 }
 
+const char* UnnamedText(const Field& f, bool* written) {
+  Unnamed rule = f.unnamed;
+  if (rule == Unnamed::kTable) rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
+  *written = true;
+  const char* text = nullptr;
+  switch (rule) {
+    case Unnamed::kOmit:
+      *written = false;
+      return nullptr;
+    case Unnamed::kNull:
+      return nullptr;
+    case Unnamed::kFirstName:
+      text = f.names->count > 0 ? f.names->names[0] : nullptr;
+      break;
+    case Unnamed::kUnknownName:
+      text = EnumName(*f.names, f.names->unknownValue);
+      break;
+    case Unnamed::kTable:
+    case Unnamed::kEmptyText:
+      break;
+  }
+  return text != nullptr ? text : "";
+}
+
 // One scalar of kind f.kind and width f.size.
 bool ParseScalar(const Json::Value& v, unsigned char* p, const Field& f) {
   switch (f.kind) {
@@ -144,27 +168,10 @@ bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
         *out = Json::Value(Json::StaticString(name));
         return true;
       }
-      Unnamed rule = f.unnamed;
-      if (rule == Unnamed::kTable)
-        rule = f.names->omitUnnamed ? Unnamed::kOmit : Unnamed::kEmptyText;
-      const char* fallback = nullptr;
-      switch (rule) {
-        case Unnamed::kOmit:
-          return false;
-        case Unnamed::kNull:
-          *out = Json::Value(Json::nullValue);
-          return true;
-        case Unnamed::kFirstName:
-          fallback = f.names->count > 0 ? f.names->names[0] : nullptr;
-          break;
-        case Unnamed::kUnknownName:
-          fallback = EnumName(*f.names, f.names->unknownValue);
-          break;
-        case Unnamed::kTable:
-        case Unnamed::kEmptyText:
-          break;
-      }
-      *out = Json::Value(Json::StaticString(fallback != nullptr ? fallback : ""));
+      bool written = false;
+      const char* text = UnnamedText(f, &written);
+      if (!written) return false;
+      *out = text != nullptr ? Json::Value(Json::StaticString(text)) : Json::Value();
       return true;
     }
     case FieldKind::kObject:

@@ -22,6 +22,9 @@ bool Present(const unsigned char* record, const Field& f);
 // One scalar of kind f.kind and width f.size.
 bool ParseScalar(const Json::Value& v, unsigned char* p, const Field& f);
 bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out);
+// What an enumeration value without a name packs as (f.names set): a text,
+// or null for JSON null; `written` false when nothing is written.
+const char* UnnamedText(const Field& f, bool* written);
 // The list `f` of `record` (its offset and count counted from `record`).
 bool ParseList(const Json::Value& v, unsigned char* record, const Field& f);
 void PackList(const unsigned char* record, const Field& f, Json::Value* out);
