@@ -164,34 +164,37 @@ void WriteSectionRow(const TimeSectionRecord* row, int32_t sectionsPerDay, TextS
   out->Literal(" ]");
 }
 
-}  // namespace
-
-void WriteSectionRowsText(const TimeSectionRecord* const* rows, int32_t days,
-                          int32_t sectionsPerDay, TextSink* out) {
-  if (rows == nullptr || days < 1 || sectionsPerDay < 1) {
+// The days, "[ [ ... ], ... ]": day d's sections start at rowOf(d);
+// "null" for a dimension below 1.
+template <typename RowOf>
+void WriteDays(int32_t days, int32_t sectionsPerDay, RowOf rowOf, TextSink* out) {
+  if (days < 1 || sectionsPerDay < 1) {
     out->Literal("null");
     return;
   }
   out->Literal("[ ");
   for (int32_t d = 0; d < days; ++d) {
     if (d != 0) out->Literal(", ");
-    WriteSectionRow(rows[d], sectionsPerDay, out);
+    WriteSectionRow(rowOf(d), sectionsPerDay, out);
   }
   out->Literal(" ]");
 }
 
+}  // namespace
+
+void WriteSectionRowsText(const TimeSectionRecord* const* rows, int32_t days,
+                          int32_t sectionsPerDay, TextSink* out) {
+  if (rows == nullptr) days = 0;
+  WriteDays(
+      days, sectionsPerDay, [rows](int32_t d) { return rows[d]; }, out);
+}
+
 void WriteTimeSectionGridText(const TimeSectionRecord* sections, int32_t days,
                               int32_t sectionsPerDay, TextSink* out) {
-  if (sections == nullptr || days < 1 || sectionsPerDay < 1) {
-    out->Literal("null");
-    return;
-  }
-  out->Literal("[ ");
-  for (int32_t d = 0; d < days; ++d) {
-    if (d != 0) out->Literal(", ");
-    WriteSectionRow(sections + static_cast<size_t>(d) * sectionsPerDay, sectionsPerDay, out);
-  }
-  out->Literal(" ]");
+  if (sections == nullptr) days = 0;
+  WriteDays(
+      days, sectionsPerDay,
+      [&](int32_t d) { return sections + static_cast<size_t>(d) * sectionsPerDay; }, out);
 }
 
 namespace {
