@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
 
 #include "common/fields/fields.h"
@@ -30,6 +29,20 @@ struct Flattener {
   void Leaf(const Json::Value& v, bool fits);
   void Walk(const Json::Value& v, size_t len, bool fits);
 };
+
+// "[i]" into `index`; its length.
+size_t IndexText(uint32_t i, char (&index)[16]) {
+  char digits[10];
+  size_t n = 0;
+  do {
+    digits[n++] = static_cast<char>('0' + i % 10);
+    i /= 10;
+  } while (i != 0);
+  index[0] = '[';
+  for (size_t k = 0; k < n; ++k) index[1 + k] = digits[n - 1 - k];
+  index[1 + n] = ']';
+  return n + 2;
+}
 
 bool NeedsEscape(char c) { return c == '.' || c == '[' || c == ']' || c == '\\'; }
 
@@ -94,10 +107,10 @@ void Flattener::Walk(const Json::Value& v, size_t len, bool fits) {
   if (v.isArray() && v.size() > 0) {
     ForEachElement(v, [&](uint32_t i, const Json::Value& e) {
       char index[16];
-      const int n = std::snprintf(index, sizeof index, "[%u]", i);
-      const bool childFits = fits && n > 0 && len + static_cast<size_t>(n) <= kPathRoom;
-      if (childFits) std::memcpy(path + len, index, static_cast<size_t>(n));
-      Walk(e, childFits ? len + static_cast<size_t>(n) : len, childFits);
+      const size_t n = IndexText(i, index);
+      const bool childFits = fits && len + n <= kPathRoom;
+      if (childFits) std::memcpy(path + len, index, n);
+      Walk(e, childFits ? len + n : len, childFits);
       return true;
     });
     return;
@@ -125,7 +138,10 @@ void Flattener::Walk(const Json::Value& v, size_t len, bool fits) {
 // The payload: "params"."table" when "params" has a member "table" (null
 // included), otherwise "params" itself.
 const Json::Value& PayloadOf(const Json::Value& params) {
-  return HasMember(params, "table") ? Member(params, "table") : params;
+  static const char kTable[] = "table";
+  const Json::Value* table =
+      params.isObject() ? params.find(kTable, kTable + sizeof kTable - 1) : nullptr;
+  return table != nullptr ? *table : params;
 }
 
 // Fills a document of `len` bytes (at least one value) from `payload`.
