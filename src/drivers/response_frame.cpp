@@ -47,9 +47,6 @@ void ClearOutput(const ResponseFrame& f, unsigned char* out, uint32_t outLen, ui
     case Clearing::kWholeBuffer:
       std::memset(out, 0, outLen);
       break;
-    case Clearing::kRecords:
-      std::memset(out, 0, static_cast<size_t>(outLen / stride) * stride);
-      break;
   }
   if (f.walk == RecordWalk::kCallerSized) {
     const uint32_t word = std::min<uint32_t>(stride, sizeof stride);

@@ -84,11 +84,10 @@ enum class NullTable : uint8_t {
   kAllZeroRecord,  // success with one cleared record
   kStep,           // the step reads the null table like any other and fills record 0
 };
-// How the caller's buffer is cleared: before the text is read (the whole
-// buffer, or its whole records), not at all, or each record just before its
-// step runs (a record built zeroed and filled: nothing is written when the
-// envelope is refused).
-enum class Clearing : uint8_t { kWholeBuffer, kRecords, kNone, kEachRecord };
+// How the caller's buffer is cleared: wholly before the text is read, not
+// at all, or each record just before its step runs (a record built zeroed
+// and filled: nothing is written when the envelope is refused).
+enum class Clearing : uint8_t { kWholeBuffer, kNone, kEachRecord };
 enum class RecordWalk : uint8_t {
   kOne,          // the table fills record 0
   kPerChannel,   // an array fills record i from element i (as many as fit); anything else record 0

@@ -245,7 +245,6 @@ bool ParseEventHandlerWithWeek(const Json::Value& obj, EventHandlerRecord* recor
 }
 
 void PackEventHandler(const EventHandlerRecord& r, Json::Value& obj) {
-  if (!obj.isObject()) obj = Json::Value(Json::objectValue);
   PackHolidaySchedule(SetKeptMember(obj, "TimeSection"), r.schedule);
   PackFields(&r, obj, kEventHandler);
 }

@@ -144,9 +144,8 @@ const Json::Value& PayloadOf(const Json::Value& params) {
   return table != nullptr ? *table : params;
 }
 
-// Fills a document of `len` bytes (at least one value) from `payload`.
+// Fills a cleared document of `len` bytes (at least one value) from `payload`.
 uint32_t FlattenInto(const Json::Value& payload, unsigned char* out, uint32_t len) {
-  std::memset(out, 0, len);
   Flattener f;
   f.values = out + kHeaderBytes;
   f.capacity = (len - kHeaderBytes) / sizeof(FlatValue);
