@@ -56,18 +56,32 @@ inline char* PutClockRange(char* p, int32_t beginHour, int32_t beginMinute, int3
 
 inline bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+// Two-digit fields laid out as `pattern` says ('d' a digit, any other byte
+// itself, a field every three bytes) at the start of `text`, into `fields`
+// in order; the byte after them must not be a digit. False (nothing stored)
+// for any other text.
+template <size_t N>
+bool ReadFixedFields(const char* text, const char (&pattern)[N], int32_t* const* fields) {
+  for (size_t i = 0; i + 1 < N; ++i) {
+    if (pattern[i] == 'd' ? !IsDigit(text[i]) : text[i] != pattern[i]) return false;
+  }
+  if (IsDigit(text[N - 1])) return false;
+  for (size_t f = 0; f < N / 3; ++f)
+    *fields[f] = (text[3 * f] - '0') * 10 + (text[3 * f + 1] - '0');
+  return true;
+}
+
 // The clock range every device writes, "08:00:00-18:00:00" (two digits a
 // field), at the start of `text`, into `fields` in order; the byte after it
 // must not be a digit. False (nothing stored) for any other text: the caller
 // then reads it the general way, which gives the same numbers for this form.
 inline bool ReadFixedClockRange(const char* text, int32_t* fields[6]) {
-  static const char kPattern[] = "dd:dd:dd-dd:dd:dd";
-  for (unsigned i = 0; i + 1 < sizeof kPattern; ++i) {
-    if (kPattern[i] == 'd' ? !IsDigit(text[i]) : text[i] != kPattern[i]) return false;
-  }
-  if (IsDigit(text[sizeof kPattern - 1])) return false;
-  for (int f = 0; f < 6; ++f) *fields[f] = (text[3 * f] - '0') * 10 + (text[3 * f + 1] - '0');
-  return true;
+  return ReadFixedFields(text, "dd:dd:dd-dd:dd:dd", fields);
+}
+
+// The same for one clock, "08:00:00", into three fields.
+inline bool ReadFixedClock(const char* text, int32_t* fields[3]) {
+  return ReadFixedFields(text, "dd:dd:dd", fields);
 }
 
 }  // namespace kova

@@ -29,9 +29,13 @@ void ParseClockRange(const Json::Value& obj, unsigned char* record, const Field&
   ClockTime times[2];
   std::memcpy(times, record + f.offset, sizeof times);
   for (uint32_t i = 0; i < 2; ++i) {
-    const std::string text = ToText(Element(v, i));
+    const char* text = TextInPlace(Element(v, i));
     ClockTime t;
-    if (std::sscanf(text.c_str(), "%d:%d:%d", &t.hour, &t.minute, &t.second) == 3) times[i] = t;
+    int32_t* fields[3] = {&t.hour, &t.minute, &t.second};
+    if (ReadFixedClock(text, fields) ||
+        std::sscanf(text, "%d:%d:%d", &t.hour, &t.minute, &t.second) == 3) {
+      times[i] = t;
+    }
   }
   std::memcpy(record + f.offset, times, sizeof times);
 }
@@ -141,9 +145,20 @@ struct NumberedSlots {
   FieldTable table;  // of one slot
 };
 
-std::string NumberedKey(const char* base, uint32_t number) {
-  return number == 0 ? std::string(base) : std::string(base) + std::to_string(number);
-}
+// `base` with `number` after it (nothing for 0), into a key of its own room.
+struct NumberedKey {
+  NumberedKey(const char* base, uint32_t number) {
+    const size_t n = strnlen(base, sizeof text - kDecimalText - 1);
+    std::memcpy(text, base, n);
+    char* end = text + n;
+    if (number != 0) end = PutDecimal(end, static_cast<int32_t>(number));
+    *end = '\0';
+  }
+  const char* c_str() const { return text; }
+  operator std::string() const { return text; }  // NOLINT: a key kept by a text object
+
+  char text[32];
+};
 
 const NumberedSlots kNumbered[] = {
     {"CalibrateArea", 0, KOVA_GLOBAL_MAX_CALIBRATE_AREAS, offsetof(G, calibrateAreas),
@@ -206,19 +221,18 @@ void PackPeriods(const G& g, Json::Value& table) {
   }
 }
 
+// The record is worked in place: the frame hands it over aligned.
 bool ParseGlobal(const Json::Value& table, const StepContext& /*ctx*/, unsigned char* record) {
-  G g;
-  std::memcpy(&g, record, sizeof g);
+  G* g = reinterpret_cast<G*>(record);
   // The caller's announcement of room for numbered periods survives the clearing.
-  DayNightPeriod* periods = g.periods;
-  const uint32_t room = g.periodCount;
-  std::memset(&g, 0, sizeof g);
-  g.periods = periods;
-  g.periodCount = room;
-  ParseFields(table, &g, kGlobalFields);
-  ParseNumbered(table, reinterpret_cast<unsigned char*>(&g));
-  ParsePeriods(table, &g);
-  std::memcpy(record, &g, sizeof g);
+  DayNightPeriod* periods = g->periods;
+  const uint32_t room = g->periodCount;
+  std::memset(record, 0, sizeof(G));
+  g->periods = periods;
+  g->periodCount = room;
+  ParseFields(table, record, kGlobalFields);
+  ParseNumbered(table, record);
+  ParsePeriods(table, g);
   return true;
 }
 
@@ -246,8 +260,7 @@ void WritePeriod(const void* period, const Field*, TextSink* out) {
 }
 
 bool PackGlobalText(const unsigned char* record, TextSink* out) {
-  G g;
-  std::memcpy(&g, record, sizeof g);
+  const G& g = *reinterpret_cast<const G*>(record);  // aligned by the frame
   ObjectText table;
   table.Fields(&g, kGlobalFields);
   const unsigned char* at = reinterpret_cast<const unsigned char*>(&g);

@@ -40,14 +40,14 @@ bool ReadFixedScheme(const char* text, LightingSchemeSection* s, char (&mode)[KO
 // an identifier of the device and is kept as its bytes.
 bool ReadSchemeSection(const Json::Value& v, LightingSchemeSection* s) {
   if (!v.isString()) return false;
-  const std::string text = ToText(v);
+  const char* text = TextInPlace(v);
   char mode[KOVA_VIDEO_IN_TEXT] = {};
-  if (ReadFixedScheme(text.c_str(), s, mode)) {
+  if (ReadFixedScheme(text, s, mode)) {
     std::memcpy(s->mode, mode, sizeof mode);
     return true;
   }
-  if (std::sscanf(text.c_str(), "%d:%d:%d-%d:%d:%d %31s", &s->beginHour, &s->beginMinute,
-                  &s->beginSecond, &s->endHour, &s->endMinute, &s->endSecond, mode) != 7) {
+  if (std::sscanf(text, "%d:%d:%d-%d:%d:%d %31s", &s->beginHour, &s->beginMinute, &s->beginSecond,
+                  &s->endHour, &s->endMinute, &s->endSecond, mode) != 7) {
     return false;
   }
   std::memcpy(s->mode, mode, sizeof mode);
