@@ -18,19 +18,24 @@ constexpr size_t kClockRangeText = 2 * kClockText + 1;
 // Writes `v` at `p` as "%0<width>d" does ("%d" for width 0: a sign, then
 // zeros up to the width, then the digits) and returns the end: at most
 // kDecimalText bytes for a width of 2 or less.
-inline char* PutDecimal(char* p, int32_t v, int width = 0) {
-  uint32_t magnitude = v < 0 ? 0u - static_cast<uint32_t>(v) : static_cast<uint32_t>(v);
+inline char* PutDecimal(char* p, uint32_t magnitude, bool negative, int width) {
   char digits[10];
   int n = 0;
   do {
     digits[n++] = static_cast<char>('0' + magnitude % 10);
     magnitude /= 10;
   } while (magnitude != 0);
-  if (v < 0) *p++ = '-';
-  for (int pad = width - n - (v < 0 ? 1 : 0); pad > 0; --pad) *p++ = '0';
+  if (negative) *p++ = '-';
+  for (int pad = width - n - (negative ? 1 : 0); pad > 0; --pad) *p++ = '0';
   while (n > 0) *p++ = digits[--n];
   return p;
 }
+inline char* PutDecimal(char* p, int32_t v, int width = 0) {
+  const uint32_t magnitude = v < 0 ? 0u - static_cast<uint32_t>(v) : static_cast<uint32_t>(v);
+  return PutDecimal(p, magnitude, v < 0, width);
+}
+// "%u".
+inline char* PutUnsigned(char* p, uint32_t v) { return PutDecimal(p, v, false, 0); }
 
 // "%02d:%02d".
 inline char* PutClock(char* p, int32_t hour, int32_t minute) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "common/base/decimal.h"
 #include "common/fields/fields.h"
 #include "common/json/json.h"
 #include "kova/records/flat.h"
@@ -32,16 +33,10 @@ struct Flattener {
 
 // "[i]" into `index`; its length.
 size_t IndexText(uint32_t i, char (&index)[16]) {
-  char digits[10];
-  size_t n = 0;
-  do {
-    digits[n++] = static_cast<char>('0' + i % 10);
-    i /= 10;
-  } while (i != 0);
   index[0] = '[';
-  for (size_t k = 0; k < n; ++k) index[1 + k] = digits[n - 1 - k];
-  index[1 + n] = ']';
-  return n + 2;
+  char* end = PutUnsigned(index + 1, i);
+  *end++ = ']';
+  return static_cast<size_t>(end - index);
 }
 
 bool NeedsEscape(char c) { return c == '.' || c == '[' || c == ']' || c == '\\'; }
