@@ -41,59 +41,71 @@ size_t IndexText(uint32_t i, char (&index)[16]) {
 
 bool NeedsEscape(char c) { return c == '.' || c == '[' || c == ']' || c == '\\'; }
 
-void StoreScalar(const Json::Value& v, FlatValue* out) {
+// The leaf's value into its cleared slot (not necessarily aligned): its
+// type and number, and its text in place.
+void StoreScalar(const Json::Value& v, unsigned char* slot) {
+  struct Head {
+    uint32_t type;
+    uint32_t cut;
+    int64_t integer;
+    double real;
+  } head = {};
+  static_assert(sizeof(Head) == offsetof(FlatValue, text) - offsetof(FlatValue, type),
+                "the members between the path and the text");
   switch (v.type()) {
     case Json::nullValue:
-      out->type = KOVA_FLAT_NULL;
+      head.type = KOVA_FLAT_NULL;
       break;
     case Json::booleanValue:
-      out->type = KOVA_FLAT_BOOL;
-      out->integer = ToBool(v) ? 1 : 0;
+      head.type = KOVA_FLAT_BOOL;
+      head.integer = ToBool(v) ? 1 : 0;
       break;
     case Json::intValue:
-      out->type = KOVA_FLAT_INT;
-      out->integer = v.asInt64();
+      head.type = KOVA_FLAT_INT;
+      head.integer = v.asInt64();
       break;
     case Json::uintValue: {
       const uint64_t u = v.asUInt64();
-      out->type = u > static_cast<uint64_t>(INT64_MAX) ? KOVA_FLAT_UINT : KOVA_FLAT_INT;
-      std::memcpy(&out->integer, &u, sizeof u);
+      head.type = u > static_cast<uint64_t>(INT64_MAX) ? KOVA_FLAT_UINT : KOVA_FLAT_INT;
+      std::memcpy(&head.integer, &u, sizeof u);
       break;
     }
     case Json::realValue:
-      out->type = KOVA_FLAT_REAL;
-      out->real = ToDouble(v);
+      head.type = KOVA_FLAT_REAL;
+      head.real = ToDouble(v);
       break;
     case Json::stringValue: {
-      out->type = KOVA_FLAT_TEXT;
-      GetJsonString(v, out->text, sizeof out->text, 1);
+      head.type = KOVA_FLAT_TEXT;
+      char* text = reinterpret_cast<char*>(slot + offsetof(FlatValue, text));
+      GetJsonString(v, text, KOVA_FLAT_TEXT_SIZE, 1);
       // Only a text that filled (nearly) all its room can have been cut: it
       // was when its whole conversion holds more than 255 bytes. Four bytes
       // beyond the room take the longest character of any local code page.
-      if (std::strlen(out->text) + 4 >= sizeof out->text) {
+      if (strnlen(text, KOVA_FLAT_TEXT_SIZE) + 4 >= KOVA_FLAT_TEXT_SIZE) {
         char scratch[KOVA_FLAT_TEXT_SIZE + 4];
         const int32_t n = Utf8ToAnsi(TextInPlace(v), 1, scratch, sizeof scratch);
-        out->cut = n >= static_cast<int32_t>(sizeof out->text) ? 1 : 0;
+        head.cut = n >= KOVA_FLAT_TEXT_SIZE ? 1 : 0;
       }
       break;
     }
     case Json::arrayValue:
-      out->type = KOVA_FLAT_EMPTY_ARRAY;
+      head.type = KOVA_FLAT_EMPTY_ARRAY;
       break;
     case Json::objectValue:
-      out->type = KOVA_FLAT_EMPTY_OBJECT;
+      head.type = KOVA_FLAT_EMPTY_OBJECT;
       break;
   }
+  std::memcpy(slot + offsetof(FlatValue, type), &head, sizeof head);
 }
 
 void Flattener::Leaf(const Json::Value& v, bool fits) {
   if (leafCount < UINT32_MAX) ++leafCount;
   if (!fits || count >= capacity) return;
-  FlatValue value;
-  std::memset(&value, 0, sizeof value);
-  std::memcpy(value.path, path, sizeof value.path);
-  StoreScalar(v, &value);
-  std::memcpy(values + static_cast<size_t>(count) * sizeof value, &value, sizeof value);
+  // The slot was cleared with the document; the whole path buffer goes in,
+  // as it stands.
+  unsigned char* slot = values + static_cast<size_t>(count) * sizeof(FlatValue);
+  std::memcpy(slot + offsetof(FlatValue, path), path, sizeof path);
+  StoreScalar(v, slot);
   ++count;
 }
 
