@@ -160,18 +160,6 @@ int CopyPacked(const Json::Value& value, char* outJson, uint32_t outLen, CopyRul
 
 namespace {
 
-// One record's element through its step's value; false when it did not
-// fit (the buffer cleared) or the step failed (`failed` set).
-bool PackElement(const ResponseFrame& f, const unsigned char* record, ArrayText* text,
-                 bool* failed) {
-  Json::Value element;
-  if (!f.pack(record, element)) {
-    *failed = true;
-    return false;
-  }
-  return text->Add(element);
-}
-
 // Whether record i is worked in a copy: a slot shorter than the record, or
 // not aligned for it (caller-sized strides are arbitrary).
 bool NeedsCopy(const ResponseFrame& f, const unsigned char* slot, uint32_t stride) {
@@ -304,30 +292,30 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
     const bool array =
         !members && (n > 1 || f.packArrayAlways ||
                      (f.arrayUnlessExactlyOne && f.packWalk != PackWalk::kOne && inLen != stride));
+    // One record's text: its text step, or its step's value through the writer.
+    const auto write = [&f](const unsigned char* record, TextSink* out) {
+      if (f.packText != nullptr) return f.packText(record, out);
+      Json::Value value;
+      if (!f.pack(record, value)) return false;
+      WriteJsonValue(value, out);
+      return true;
+    };
     if (array) {
       // Each record's element is written as soon as it is packed: the text
       // stops at the record that makes it too long, and no tree of the
       // whole array is kept.
       ArrayText text(outJson, room);
       for (uint32_t i = 0; i < n; ++i) {
-        const unsigned char* record = recordAt(i);
-        bool failed = false;
-        const bool fits = f.packText != nullptr ? text.AddWritten([&](TextSink* out) {
-          failed = !f.packText(record, out);
-          return !failed;
-        })
-                                                : PackElement(f, record, &text, &failed);
-        if (failed) {
-          std::memset(outJson, 0, outLen);
+        if (!text.AddWritten([&](TextSink* out) { return write(recordAt(i), out); })) {
+          std::memset(outJson, 0, outLen);  // a failed step, or a text too long
           return 0;
         }
-        if (!fits) return 0;  // the buffer cleared
       }
       return EndPacked(text.Finish(), outJson, outLen);
     }
-    if (!members && f.packText != nullptr) {
+    if (!members) {
       TextSink sink(outJson, room);
-      if (!f.packText(recordAt(0), &sink)) {
+      if (!write(recordAt(0), &sink)) {
         std::memset(outJson, 0, outLen);
         return 0;
       }
@@ -345,8 +333,7 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
       sink.Put('\n');
       return EndPacked(sink.Done(), outJson, outLen);
     }
-    Json::Value root;
-    if (members) root = Json::Value(Json::objectValue);
+    Json::Value root(Json::objectValue);
     TextBudget budget(room);
     for (uint32_t i = 0; i < n; ++i) {
       if (!f.pack(recordAt(i), root)) return 0;  // nothing written yet

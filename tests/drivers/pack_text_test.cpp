@@ -46,13 +46,26 @@ bool HoldsPointer(const char* name) {
   return false;
 }
 
-void ExpectSameText(const ResponseFrame& text, const std::vector<uint8_t>& in, uint32_t room) {
+// The frame packing through its steps' value trees alone.
+ResponseFrame ThroughTree(const ResponseFrame& text) {
   ResponseFrame tree = text;
   tree.packText = nullptr;
-  const Packed expected = PackThrough(tree, in, room);
+  tree.packMembers = nullptr;
+  return tree;
+}
+
+// Both ways into `room` bytes: the same result and the same buffer (all
+// cleared when refused).
+void ExpectSameText(const ResponseFrame& text, const std::vector<uint8_t>& in, uint32_t room,
+                    int result) {
+  const Packed expected = PackThrough(ThroughTree(text), in, room);
   const Packed got = PackThrough(text, in, room);
-  ASSERT_EQ(expected.result, 1);
+  ASSERT_EQ(expected.result, result);
+  ASSERT_EQ(got.result, result);
   ASSERT_EQ(expected.text, got.text);
+  if (result == 0) {
+    ASSERT_EQ(got.text, std::string(room, '\0'));
+  }
 }
 
 TEST(PackText, WritesWhatTheValueTreeWrites) {
@@ -66,9 +79,6 @@ TEST(PackText, WritesWhatTheValueTreeWrites) {
     }
     ++frames;
     const ResponseFrame& text = *name.frame;
-    ResponseFrame tree = text;
-    tree.packText = nullptr;
-    tree.packMembers = nullptr;
     const uint32_t size = text.recordSize;
     // Every way of filling one record; two records (an array) and a buffer
     // one byte short of the text with the last.
@@ -94,16 +104,12 @@ TEST(PackText, WritesWhatTheValueTreeWrites) {
       }
       // Room for any text the record gives: a few bytes of text per byte.
       const uint32_t room = 16 * static_cast<uint32_t>(in.size()) + 4096;
-      const Packed expected = PackThrough(tree, in, room);
-      const Packed got = PackThrough(text, in, room);
-      ASSERT_EQ(expected.result, 1);
-      ASSERT_EQ(expected.text, got.text);
+      ExpectSameText(text, in, room, 1);
       if (run != 6) continue;
-      const uint32_t length = static_cast<uint32_t>(strnlen(expected.text.data(), room));
-      const Packed shortTree = PackThrough(tree, in, length - 1);
-      const Packed shortText = PackThrough(text, in, length - 1);
-      ASSERT_EQ(shortTree.result, shortText.result);
-      ASSERT_EQ(shortTree.text, shortText.text);
+      // One byte short of the text: refused both ways, the buffer cleared.
+      const uint32_t length =
+          static_cast<uint32_t>(strnlen(PackThrough(text, in, room).text.data(), room));
+      ExpectSameText(text, in, length - 1, 0);
     }
   }
   EXPECT_GT(frames, 40);
@@ -131,7 +137,7 @@ TEST(PackText, RuleListsWriteWhatTheValueTreeWrites) {
     ASSERT_EQ(KOVA_ParseData(name.c_str(), doc.c_str(), &list, sizeof list, nullptr), 1);
     std::vector<uint8_t> in(sizeof list);
     std::memcpy(in.data(), &list, sizeof list);
-    ExpectSameText(frame, in, 64u << 20);
+    ExpectSameText(frame, in, 64u << 20, 1);
     size_t at = 0;
     for (uint32_t i = 0; i < list.ruleCount; ++i) {
       RuleEntryHeader header;
@@ -139,7 +145,7 @@ TEST(PackText, RuleListsWriteWhatTheValueTreeWrites) {
       FillSmall(rules.data() + at + sizeof header, header.bodySize, i);
       at += sizeof header + header.bodySize;
     }
-    ExpectSameText(frame, in, 64u << 20);
+    ExpectSameText(frame, in, 64u << 20, 1);
   }
 }
 

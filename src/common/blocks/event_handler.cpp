@@ -296,7 +296,9 @@ void WriteLinkageSchedule(const void* block, const Field* field, TextSink* out) 
                        KOVA_SECTIONS_PER_DAY, out);
 }
 
-void WriteLinkage(const void* block, const Field* field, TextSink* out) {
+}  // namespace
+
+void WriteLinkageText(const void* block, const Field* field, TextSink* out) {
   const unsigned char* record = static_cast<const unsigned char*>(block);
   const Field& f = *field;
   ObjectText handler;
@@ -310,12 +312,6 @@ void WriteLinkage(const void* block, const Field* field, TextSink* out) {
   Json::Value obj;
   PackLinkageStep(record, obj, f);
   WriteJsonValue(Member(obj, f.key), out);
-}
-
-}  // namespace
-
-void PackLinkageText(const unsigned char* record, const Field& f, ObjectText* object) {
-  object->Member(f.key, WriteLinkage, record, &f);
 }
 
 }  // namespace kova

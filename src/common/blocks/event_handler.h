@@ -50,7 +50,7 @@ void PackEventHandler(const EventHandlerRecord& record, Json::Value& jsonEventHa
 void ParseLinkageStep(const Json::Value& obj, unsigned char* record, const Field& f);
 void PackLinkageStep(const unsigned char* record, Json::Value& obj, const Field& f);
 // PackLinkageStep's member written straight as text.
-void PackLinkageText(const unsigned char* record, const Field& f, ObjectText* object);
+void WriteLinkageText(const void* record, const Field* f, TextSink* out);
 
 // A schedule grid of type Grid kept in the record beside a linkage block.
 template <typename Grid>
@@ -97,7 +97,7 @@ constexpr LinkageField MakeLinkage(size_t offset) {
                 "an \"EventHandler\" field holds an EventHandlerRecord");
   return LinkageField{MakeCustom("EventHandler", offset, static_cast<uint32_t>(sizeof(T)),
                                  ParseLinkageStep, PackLinkageStep)
-                          .PackText(PackLinkageText)};
+                          .PackText(WriteLinkageText)};
 }
 
 }  // namespace kova

@@ -106,19 +106,31 @@ int ScanRecord(const char* text, int width, TimeSectionRecord* r) {
   return ScanSection(text, width, fields);
 }
 
-// "%d %02d:%02d:%02d-%02d:%02d:%02d".
+// The longest text of one section.
+constexpr size_t kSectionText = kDecimalText + 1 + kClockRangeText;
+
+// "%d %02d:%02d:%02d-%02d:%02d:%02d" at `p`; returns the end.
+char* PutSection(char* p, int32_t enable, int32_t bh, int32_t bm, int32_t bs, int32_t eh,
+                 int32_t em, int32_t es) {
+  p = PutDecimal(p, enable);
+  *p++ = ' ';
+  return PutClockRange(p, bh, bm, bs, eh, em, es);
+}
+
+char* PutSection(char* p, const TimeSectionRecord& r) {
+  return PutSection(p, r.enable, r.beginHour, r.beginMinute, r.beginSecond, r.endHour, r.endMinute,
+                    r.endSecond);
+}
+
 void FormatSection(int32_t enable, int32_t bh, int32_t bm, int32_t bs, int32_t eh, int32_t em,
                    int32_t es, Json::Value& out) {
-  char text[kDecimalText + 1 + kClockRangeText];
-  char* p = PutDecimal(text, enable);
-  *p++ = ' ';
-  p = PutClockRange(p, bh, bm, bs, eh, em, es);
-  out = Json::Value(text, p);
+  char text[kSectionText];
+  out = Json::Value(text, PutSection(text, enable, bh, bm, bs, eh, em, es));
 }
 
 void FormatRecord(const TimeSectionRecord& r, Json::Value& out) {
-  FormatSection(r.enable, r.beginHour, r.beginMinute, r.beginSecond, r.endHour, r.endMinute,
-                r.endSecond, out);
+  char text[kSectionText];
+  out = Json::Value(text, PutSection(text, r));
 }
 
 // The single-section read form takes at most two digits per time field.
@@ -145,19 +157,15 @@ namespace {
 void WriteSectionRow(const TimeSectionRecord* row, int32_t sectionsPerDay, TextSink* out) {
   out->Literal("[ ");
   for (int32_t s = 0; s < sectionsPerDay; ++s) {
-    const TimeSectionRecord& r = row[s];
     // The section's text needs no escapes: digits, signs, ' ', ':' and '-'.
-    char text[2 + 2 + kDecimalText + 1 + kClockRangeText];
+    char text[2 + 2 + kSectionText];
     char* p = text;
     if (s != 0) {
       *p++ = ',';
       *p++ = ' ';
     }
     *p++ = '"';
-    p = PutDecimal(p, r.enable);
-    *p++ = ' ';
-    p = PutClockRange(p, r.beginHour, r.beginMinute, r.beginSecond, r.endHour, r.endMinute,
-                      r.endSecond);
+    p = PutSection(p, row[s]);
     *p++ = '"';
     out->Put(text, static_cast<size_t>(p - text));
   }

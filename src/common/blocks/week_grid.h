@@ -45,21 +45,17 @@ void PackWeekGrid(const unsigned char* record, Json::Value& obj, const Field& f)
 // PackWeekGrid's member as text (KOVA_WEEK_GRID holds the member's size to
 // the grid's).
 template <int kDays, int kSections>
-void WriteWeekGrid(const void* member, const Field* /*f*/, TextSink* out) {
+void WriteWeekGrid(const void* record, const Field* f, TextSink* out) {
   TimeSectionRecord grid[kDays][kSections];
-  std::memcpy(grid, member, sizeof grid);
+  std::memcpy(grid, static_cast<const unsigned char*>(record) + f->offset, sizeof grid);
   WriteTimeSectionGridText(&grid[0][0], kDays, kSections, out);
-}
-template <int kDays, int kSections>
-void PackWeekGridText(const unsigned char* record, const Field& f, ObjectText* object) {
-  object->Member(f.key, WriteWeekGrid<kDays, kSections>, record + f.offset);
 }
 
 template <int kDays, int kSections, uint32_t kMemberSize>
-constexpr CustomPackText WeekGridText() {
+constexpr MemberText WeekGridText() {
   static_assert(kMemberSize == sizeof(TimeSectionRecord) * kDays * kSections,
                 "the member holds the grid");
-  return PackWeekGridText<kDays, kSections>;
+  return WriteWeekGrid<kDays, kSections>;
 }
 
 }  // namespace kova

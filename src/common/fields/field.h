@@ -13,6 +13,7 @@
 namespace kova {
 
 class ObjectText;
+class TextSink;
 
 // What one scalar (or one tuple item, or one list entry) holds.
 enum class FieldKind : uint8_t {
@@ -137,9 +138,12 @@ struct FieldTable {
 // `obj`; `field.key` and `field.offset` say which.
 using CustomParse = void (*)(const Json::Value& obj, unsigned char* record, const Field& field);
 using CustomPack = void (*)(const unsigned char* record, Json::Value& obj, const Field& field);
-// The same step for a pack written straight as text: adds to `object` the
-// members its CustomPack writes (ObjectText::Member), each with a writer
-// of its value that gives byte for byte what the single-line writer gives.
+// One member's value (no key) written straight as text, byte for byte what
+// the single-line writer gives for the value its pack step makes; `record`
+// and `field` are what the member was given with.
+using MemberText = void (*)(const void* record, const Field* field, TextSink* out);
+// A step's members for a pack written straight as text: adds to `object`
+// the members its CustomPack writes (ObjectText::Member).
 using CustomPackText = void (*)(const unsigned char* record, const Field& field,
                                 ObjectText* object);
 
@@ -176,8 +180,12 @@ struct Field {
   const char* noMemoryReport = nullptr;  // allocated kList: reported when its entries cannot be had
   CustomParse parse = nullptr;           // kCustom
   CustomPack pack = nullptr;             // kCustom
-  CustomPackText packText = nullptr;     // kCustom: when set, pack writes text with it
-  Slot beside = {0, 0};                  // kCustom: a second member its step keeps (size 0: none)
+  // kCustom, for a pack written straight as text: the value of its one
+  // member `key` (written whenever the field is present), or, for any
+  // other step, what adds its members.
+  MemberText packValue = nullptr;
+  CustomPackText packText = nullptr;
+  Slot beside = {0, 0};  // kCustom: a second member its step keeps (size 0: none)
   // Parse rules for a member that is missing, null or of another JSON type
   // (see the builders below).
   bool alwaysRead = false;
@@ -245,8 +253,9 @@ struct Field {
   }
   // Pack: a nested block none of whose members is written packs as null.
   constexpr Field NullWhenEmpty() const { return With(&Field::nullWhenEmpty, true); }
-  // A custom step's members for a pack written straight as text.
-  constexpr Field PackText(CustomPackText write) const { return With(&Field::packText, write); }
+  // A custom step's text: the value of its one member, or its members.
+  constexpr Field PackText(MemberText write) const { return With(&Field::packValue, write); }
+  constexpr Field PackText(CustomPackText add) const { return With(&Field::packText, add); }
 };
 
 // The description of a record type, found by the member's type for nested

@@ -28,30 +28,27 @@ bool SameKey(const Entry& a, const Entry& b) {
   return a.length == b.length && std::memcmp(a.key, b.key, a.length) == 0;
 }
 
-// Whether PackScalar writes anything for `p`.
-bool ScalarWrites(const unsigned char* p, const Field& f) {
-  if (f.packAs != PackAs::kNatural) return true;
-  switch (f.kind) {
-    case FieldKind::kBool:
-    case FieldKind::kInt:
-    case FieldKind::kUInt:
-    case FieldKind::kText:
-    case FieldKind::kTextRaw:
+// Whether PackValue writes anything for the value at `member`.
+bool ValueWrites(const unsigned char* member, const Field& f) {
+  switch (f.shape) {
+    case FieldShape::kScalar:
+      return PackedScalarOf(member, f).is != PackedScalar::Is::kNothing;
+    case FieldShape::kNested:
+      return f.table != nullptr;
+    case FieldShape::kList:
+      return f.element != nullptr;
+    case FieldShape::kTuple:
       return true;
-    case FieldKind::kReal:
-      return f.size == sizeof(float) || f.size == sizeof(double);
-    case FieldKind::kEnum: {
-      if (f.names == nullptr) return false;
-      if (EnumName(*f.names, LoadInt(p, f.size, true)) != nullptr) return true;
-      bool written = false;
-      UnnamedText(f, &written);
-      return written;
-    }
-    case FieldKind::kObject:
-    case FieldKind::kCustom:
+    case FieldShape::kCustom:
       return false;
   }
   return false;
+}
+
+// Whether PackFields writes a member for field `f` of `base` (not a
+// hand-written step nor an inline block): a list always, empty or not.
+bool FieldWrites(const unsigned char* base, const Field& f) {
+  return f.shape == FieldShape::kList || ValueWrites(base + f.offset, f);
 }
 
 void WriteText(const char* p, uint32_t cap, bool convert, TextSink* out) {
@@ -75,63 +72,36 @@ void WriteText(const char* p, uint32_t cap, bool convert, TextSink* out) {
   WriteJsonString(utf8, utf8 + length, out);
 }
 
-void WriteBool(bool b, TextSink* out) {
-  if (b) {
-    out->Literal("true");
-  } else {
-    out->Literal("false");
-  }
-}
-
 // PackScalar's value as text; false, with nothing written, when it writes none.
 bool WriteScalar(const unsigned char* p, const Field& f, TextSink* out) {
-  if (!ScalarWrites(p, f)) return false;
-  if (f.packAs == PackAs::kBoolNonZero) {
-    WriteBool(LoadInt(p, f.size, false) != 0, out);
-    return true;
-  }
-  if (f.packAs == PackAs::kBoolEqualsOne) {
-    WriteBool(LoadInt(p, f.size, true) == 1, out);
-    return true;
-  }
-  switch (f.kind) {
-    case FieldKind::kBool:
-      WriteBool(LoadInt(p, f.size, false) != 0, out);
+  const PackedScalar s = PackedScalarOf(p, f);
+  switch (s.is) {
+    case PackedScalar::Is::kNothing:
+      return false;
+    case PackedScalar::Is::kNull:
+      out->Literal("null");
       break;
-    case FieldKind::kInt:
-      WriteJsonInt(LoadInt(p, f.size, true), out);
-      break;
-    case FieldKind::kUInt:
-      WriteJsonUInt(static_cast<uint64_t>(LoadInt(p, f.size, false)), out);
-      break;
-    case FieldKind::kReal:
-      if (f.size == sizeof(float)) {
-        float x;
-        std::memcpy(&x, p, sizeof x);
-        WriteJsonReal(static_cast<double>(x), out);
+    case PackedScalar::Is::kBool:
+      if (s.b) {
+        out->Literal("true");
       } else {
-        double x;
-        std::memcpy(&x, p, sizeof x);
-        WriteJsonReal(x, out);
+        out->Literal("false");
       }
       break;
-    case FieldKind::kText:
-    case FieldKind::kTextRaw:
-      WriteText(reinterpret_cast<const char*>(p), f.size, f.kind == FieldKind::kText, out);
+    case PackedScalar::Is::kInt:
+      WriteJsonInt(s.i, out);
       break;
-    case FieldKind::kEnum: {
-      const char* name = EnumName(*f.names, LoadInt(p, f.size, true));
-      bool written = true;
-      if (name == nullptr) name = UnnamedText(f, &written);
-      if (name == nullptr) {
-        out->Literal("null");
-      } else {
-        WriteJsonString(name, name + std::strlen(name), out);
-      }
+    case PackedScalar::Is::kUInt:
+      WriteJsonUInt(s.u, out);
       break;
-    }
-    case FieldKind::kObject:
-    case FieldKind::kCustom:
+    case PackedScalar::Is::kReal:
+      WriteJsonReal(s.real, out);
+      break;
+    case PackedScalar::Is::kField:
+      WriteText(s.text, f.size, s.convert, out);
+      break;
+    case PackedScalar::Is::kName:
+      WriteJsonString(s.text, s.text + std::strlen(s.text), out);
       break;
   }
   return true;
@@ -150,34 +120,12 @@ void WriteList(const unsigned char* record, const Field& f, TextSink* out) {
         record + f.offset + static_cast<size_t>(k) * f.size + f.element->offset;
     const Field& e = *f.element;
     // Whether the entry is written is known before its separator is.
-    if (e.shape == FieldShape::kCustom ||
-        (e.shape == FieldShape::kScalar && !ScalarWrites(entry, e)) ||
-        (e.shape == FieldShape::kNested && e.table == nullptr) ||
-        (e.shape == FieldShape::kList && e.element == nullptr)) {
-      continue;
-    }
+    if (!ValueWrites(entry, e)) continue;
     if (!first) out->Literal(", ");
     first = false;
     WriteValueText(entry, e, out);
   }
   out->Literal(" ]");
-}
-
-// The members PackFields writes for a field `f` of `base` that is not a
-// hand-written step nor an inline block: whether it writes one.
-bool FieldWrites(const unsigned char* base, const Field& f) {
-  switch (f.shape) {
-    case FieldShape::kScalar:
-      return ScalarWrites(base + f.offset, f);
-    case FieldShape::kNested:
-      return f.table != nullptr;
-    case FieldShape::kList:
-    case FieldShape::kTuple:
-      return true;
-    case FieldShape::kCustom:
-      return false;
-  }
-  return false;
 }
 
 // The members of `fields` of `base` as one object. `fromNull`: the tree
@@ -221,14 +169,28 @@ bool ObjectText::Has(const char* key, size_t length) const {
   return false;
 }
 
+void ObjectText::AddOwn(std::string key, Entry e) {
+  keys_.push_front(std::move(key));
+  e.key = keys_.front().c_str();
+  e.length = keys_.front().size();
+  Add(e);
+}
+
 void ObjectText::Member(const char* key, MemberText write, const void* record, const Field* field) {
-  Add(Entry{key, std::strlen(key), field, record, nullptr, write});
+  Add(Entry{key, std::strlen(key), field, record, nullptr, write, nullptr});
+}
+
+void ObjectText::Member(const char* key, const void* record, const FieldTable& table) {
+  Add(Entry{key, std::strlen(key), nullptr, record, nullptr, nullptr, &table});
 }
 
 void ObjectText::OwnMember(std::string key, MemberText write, const void* record,
                            const Field* field) {
-  keys_.push_front(std::move(key));
-  Add(Entry{keys_.front().c_str(), keys_.front().size(), field, record, nullptr, write});
+  AddOwn(std::move(key), Entry{nullptr, 0, field, record, nullptr, write, nullptr});
+}
+
+void ObjectText::OwnMember(std::string key, const void* record, const FieldTable& table) {
+  AddOwn(std::move(key), Entry{nullptr, 0, nullptr, record, nullptr, nullptr, &table});
 }
 
 void ObjectText::Fields(const void* record, const Field* fields, size_t count) {
@@ -238,6 +200,10 @@ void ObjectText::Fields(const void* record, const Field* fields, size_t count) {
     if (f.direction == Direction::kParseOnly) continue;
     if (!Present(base, f)) continue;
     if (f.shape == FieldShape::kCustom) {
+      if (f.packValue != nullptr && f.key != nullptr) {
+        Member(f.key, f.packValue, base, &f);
+        continue;
+      }
       if (f.packText != nullptr) {
         f.packText(base, f, this);
         continue;
@@ -260,7 +226,7 @@ void ObjectText::Fields(const void* record, const Field* fields, size_t count) {
           ok_ = false;
           return;
         }
-        Add(Entry{kb, length, nullptr, nullptr, &*it, nullptr});
+        Add(Entry{kb, length, nullptr, nullptr, &*it, nullptr, nullptr});
       }
       continue;
     }
@@ -271,7 +237,9 @@ void ObjectText::Fields(const void* record, const Field* fields, size_t count) {
       }
       continue;
     }
-    if (FieldWrites(base, f)) Add(Entry{f.key, std::strlen(f.key), &f, base, nullptr, nullptr});
+    if (FieldWrites(base, f)) {
+      Add(Entry{f.key, std::strlen(f.key), &f, base, nullptr, nullptr, nullptr});
+    }
   }
 }
 
@@ -297,6 +265,8 @@ void ObjectText::Write(TextSink* out) {
       WriteJsonValue(*e[i].tree, out);
     } else if (e[i].write != nullptr) {
       e[i].write(e[i].record, e[i].field, out);
+    } else if (e[i].table != nullptr) {
+      WriteMembersText(e[i].record, *e[i].table, out);
     } else if (e[i].field->shape == FieldShape::kList) {
       WriteList(record, *e[i].field, out);  // the count member lives in the record
     } else {

@@ -34,9 +34,6 @@ void WriteMembersText(const void* record, const FieldTable& t, TextSink* out);
 // PackValue writes nothing.
 bool WriteValueText(const unsigned char* member, const Field& f, TextSink* out);
 
-// Writes one member's value from what ObjectText::Member was given.
-using MemberText = void (*)(const void* record, const Field* field, TextSink* out);
-
 // One object whose members come from several places (field tables over
 // records, hand-written members), written as PackFields over each of them
 // in turn would leave a tree, without the tree.
@@ -52,9 +49,16 @@ class ObjectText {
   // A member `key` (a literal) whose value `write(record, field, out)`
   // writes; what `record` points at is kept until the object is written.
   void Member(const char* key, MemberText write, const void* record, const Field* field = nullptr);
-  // The same for a key made at run time, kept by the object.
+  // A member `key` holding the object of `table` over `record`, as
+  // PackFields into an empty object makes it.
+  void Member(const char* key, const void* record, const FieldTable& table);
+  // The same two for a key made at run time, kept by the object.
   void OwnMember(std::string key, MemberText write, const void* record,
                  const Field* field = nullptr);
+  void OwnMember(std::string key, const void* record, const FieldTable& table);
+  // The table is kept by pointer: a temporary one would be gone by then.
+  void Member(const char*, const void*, const FieldTable&&) = delete;
+  void OwnMember(std::string, const void*, const FieldTable&&) = delete;
   // False when a hand-written step wrote what only its tree can follow:
   // the object is then to be packed through the tree.
   bool ok() const { return ok_; }
@@ -71,10 +75,13 @@ class ObjectText {
     const void* record;       // where the field's offset counts from (or `write`'s record)
     const Json::Value* tree;  // a step's member, or null
     MemberText write;         // a hand-written member, or null
+    const FieldTable* table;  // a described object over `record`, or null
   };
 
  private:
   void Add(const Entry& e);
+  // `e` under `key`, kept by the object.
+  void AddOwn(std::string key, Entry e);
   bool Has(const char* key, size_t length) const;
   Entry* data() { return n_ <= kLocal ? local_ : spill_.data(); }
 

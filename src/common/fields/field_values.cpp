@@ -123,62 +123,88 @@ bool ParseScalar(const Json::Value& v, unsigned char* p, const Field& f) {
   return false;
 }
 
-bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
-  if (f.packAs == PackAs::kBoolNonZero) {
-    *out = LoadInt(p, f.size, false) != 0;
-    return true;
-  }
-  if (f.packAs == PackAs::kBoolEqualsOne) {
-    *out = LoadInt(p, f.size, true) == 1;
-    return true;
+PackedScalar PackedScalarOf(const unsigned char* p, const Field& f) {
+  PackedScalar s;
+  if (f.packAs != PackAs::kNatural) {
+    s.is = PackedScalar::Is::kBool;
+    s.b = f.packAs == PackAs::kBoolEqualsOne ? LoadInt(p, f.size, true) == 1
+                                             : LoadInt(p, f.size, false) != 0;
+    return s;
   }
   switch (f.kind) {
     case FieldKind::kBool:
-      *out = LoadInt(p, f.size, false) != 0;
-      return true;
+      s.is = PackedScalar::Is::kBool;
+      s.b = LoadInt(p, f.size, false) != 0;
+      break;
     case FieldKind::kInt:
-      *out = static_cast<Json::Int64>(LoadInt(p, f.size, true));
-      return true;
+      s.is = PackedScalar::Is::kInt;
+      s.i = LoadInt(p, f.size, true);
+      break;
     case FieldKind::kUInt:
-      *out = static_cast<Json::UInt64>(LoadInt(p, f.size, false));
-      return true;
+      s.is = PackedScalar::Is::kUInt;
+      s.u = static_cast<uint64_t>(LoadInt(p, f.size, false));
+      break;
     case FieldKind::kReal:
       if (f.size == sizeof(float)) {
         float x;
         std::memcpy(&x, p, sizeof x);
-        *out = static_cast<double>(x);
+        s.is = PackedScalar::Is::kReal;
+        s.real = static_cast<double>(x);
       } else if (f.size == sizeof(double)) {
-        double x;
-        std::memcpy(&x, p, sizeof x);
-        *out = x;
-      } else {
-        return false;
+        s.is = PackedScalar::Is::kReal;
+        std::memcpy(&s.real, p, sizeof s.real);
       }
-      return true;
+      break;
     case FieldKind::kText:
     case FieldKind::kTextRaw:
-      SetJsonStringBounded(*out, reinterpret_cast<const char*>(p), f.size,
-                           f.kind == FieldKind::kText);
-      return true;
+      s.is = PackedScalar::Is::kField;
+      s.text = reinterpret_cast<const char*>(p);
+      s.convert = f.kind == FieldKind::kText;
+      break;
     case FieldKind::kEnum: {
-      if (f.names == nullptr) return false;
-      const char* name = EnumName(*f.names, LoadInt(p, f.size, true));
-      // The names are the tables' own literals: the tree points at them.
-      if (name != nullptr) {
-        *out = Json::Value(Json::StaticString(name));
-        return true;
-      }
-      bool written = false;
-      const char* text = UnnamedText(f, &written);
-      if (!written) return false;
-      *out = text != nullptr ? Json::Value(Json::StaticString(text)) : Json::Value();
-      return true;
+      if (f.names == nullptr) break;
+      s.text = EnumName(*f.names, LoadInt(p, f.size, true));
+      bool written = true;
+      if (s.text == nullptr) s.text = UnnamedText(f, &written);
+      if (written) s.is = s.text != nullptr ? PackedScalar::Is::kName : PackedScalar::Is::kNull;
+      break;
     }
     case FieldKind::kObject:
     case FieldKind::kCustom:
-      return false;
+      break;
   }
-  return false;
+  return s;
+}
+
+bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out) {
+  const PackedScalar s = PackedScalarOf(p, f);
+  switch (s.is) {
+    case PackedScalar::Is::kNothing:
+      return false;
+    case PackedScalar::Is::kNull:
+      *out = Json::Value();
+      break;
+    case PackedScalar::Is::kBool:
+      *out = s.b;
+      break;
+    case PackedScalar::Is::kInt:
+      *out = static_cast<Json::Int64>(s.i);
+      break;
+    case PackedScalar::Is::kUInt:
+      *out = static_cast<Json::UInt64>(s.u);
+      break;
+    case PackedScalar::Is::kReal:
+      *out = s.real;
+      break;
+    case PackedScalar::Is::kField:
+      SetJsonStringBounded(*out, s.text, f.size, s.convert);
+      break;
+    case PackedScalar::Is::kName:
+      // The names are the tables' own literals: the tree points at them.
+      *out = Json::Value(Json::StaticString(s.text));
+      break;
+  }
+  return true;
 }
 
 }  // namespace walk

@@ -22,6 +22,27 @@ bool Present(const unsigned char* record, const Field& f);
 // One scalar of kind f.kind and width f.size.
 bool ParseScalar(const Json::Value& v, unsigned char* p, const Field& f);
 bool PackScalar(const unsigned char* p, const Field& f, Json::Value* out);
+// What one scalar packs as, decided once for the value tree and the text.
+struct PackedScalar {
+  enum class Is : uint8_t {
+    kNothing,  // not written
+    kNull,
+    kBool,
+    kInt,
+    kUInt,
+    kReal,
+    kField,  // `text`: the record's text field of f.size bytes, converted when `convert`
+    kName,   // `text`: an enumeration's literal
+  };
+  Is is = Is::kNothing;
+  bool b = false;
+  bool convert = false;
+  int64_t i = 0;
+  uint64_t u = 0;
+  double real = 0;
+  const char* text = nullptr;
+};
+PackedScalar PackedScalarOf(const unsigned char* p, const Field& f);
 // What an enumeration value without a name packs as (f.names set): a text,
 // or null for JSON null; `written` false when nothing is written.
 const char* UnnamedText(const Field& f, bool* written);

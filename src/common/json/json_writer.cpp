@@ -263,9 +263,10 @@ void ArrayText::Separate() {
 }
 
 bool ArrayText::Add(const Json::Value& element) {
-  Separate();
-  WriteValue(element, &sink_);
-  return sink_.Done() != 0;
+  return AddWritten([&element](TextSink* out) {
+    WriteValue(element, out);
+    return true;
+  });
 }
 
 uint64_t ArrayText::Finish() {

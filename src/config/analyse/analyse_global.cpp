@@ -52,9 +52,9 @@ void PackClockRange(const unsigned char* record, Json::Value& obj, const Field& 
 }
 
 // The clock texts need no escapes: digits, signs and ':'.
-void WriteClockRange(const void* member, const Field*, TextSink* out) {
+void WriteClockRange(const void* record, const Field* f, TextSink* out) {
   ClockTime times[2];
-  std::memcpy(times, member, sizeof times);
+  std::memcpy(times, static_cast<const unsigned char*>(record) + f->offset, sizeof times);
   out->Literal("[ ");
   for (uint32_t i = 0; i < 2; ++i) {
     if (i != 0) out->Literal(", ");
@@ -67,13 +67,9 @@ void WriteClockRange(const void* member, const Field*, TextSink* out) {
   out->Literal(" ]");
 }
 
-void PackClockRangeText(const unsigned char* record, const Field& f, ObjectText* obj) {
-  obj->Member(f.key, WriteClockRange, record + f.offset);
-}
-
 #define KOVA_CLOCK_RANGE(member, key)                                       \
   KOVA_CUSTOM(DayNightPeriod, member, key, ParseClockRange, PackClockRange) \
-      .PackText(PackClockRangeText)
+      .PackText(WriteClockRange)
 
 inline constexpr const char* kSwitchModeNames[] = {"ByColor", "ByBrightness"};
 inline constexpr EnumNames kSwitchModes =
@@ -180,17 +176,6 @@ void ParseNumbered(const Json::Value& table, unsigned char* record) {
   }
 }
 
-void PackNumbered(const unsigned char* record, Json::Value& table) {
-  for (const NumberedSlots& n : kNumbered) {
-    for (uint32_t i = 0; i < n.slots; ++i) {
-      if (record[n.flagsAt + i] == 0) continue;
-      Json::Value& v = SetMember(table, NumberedKey(n.base, n.first + i).c_str());
-      v = Json::Value(Json::objectValue);
-      PackFields(record + n.at + i * n.slotSize, v, n.table);
-    }
-  }
-}
-
 // "TimePeriod1", "TimePeriod2", ... into the caller's array, while the
 // numbers run on and the array has room.
 void ParsePeriods(const Json::Value& table, G* g) {
@@ -209,18 +194,6 @@ void ParsePeriods(const Json::Value& table, G* g) {
   g->periodCount = found;
 }
 
-void PackPeriods(const G& g, Json::Value& table) {
-  if (g.periods == nullptr) return;
-  const uint32_t n = CutCount(g.periodCount, KOVA_GLOBAL_MAX_PERIODS);
-  for (uint32_t i = 0; i < n; ++i) {
-    DayNightPeriod p;
-    std::memcpy(&p, reinterpret_cast<const unsigned char*>(g.periods) + i * sizeof p, sizeof p);
-    Json::Value& v = SetMember(table, NumberedKey("TimePeriod", i + 1).c_str());
-    v = Json::Value(Json::objectValue);
-    PackFields(&p, v, kPeriodFields);
-  }
-}
-
 // The record is worked in place: the frame hands it over aligned.
 bool ParseGlobal(const Json::Value& table, const StepContext& /*ctx*/, unsigned char* record) {
   G* g = reinterpret_cast<G*>(record);
@@ -236,48 +209,48 @@ bool ParseGlobal(const Json::Value& table, const StepContext& /*ctx*/, unsigned 
   return true;
 }
 
-bool PackGlobal(const unsigned char* record, Json::Value& out) {
-  G g;
-  std::memcpy(&g, record, sizeof g);
-  out = Json::Value(Json::objectValue);
-  PackFields(&g, out, kGlobalFields);
-  PackNumbered(reinterpret_cast<const unsigned char*>(&g), out);
-  PackPeriods(g, out);
-  return true;
-}
+constexpr FieldTable kPeriodTable = KOVA_TABLE(kPeriodFields);
 
-template <size_t kSlots>
-void WriteNumberedSlot(const void* slot, const Field*, TextSink* out) {
-  WriteMembersText(slot, kNumbered[kSlots].table, out);
-}
-constexpr MemberText kNumberedWriters[] = {WriteNumberedSlot<0>, WriteNumberedSlot<1>};
-static_assert(sizeof kNumberedWriters / sizeof kNumberedWriters[0] ==
-                  sizeof kNumbered / sizeof kNumbered[0],
-              "a writer for each kind of numbered slot");
-
-void WritePeriod(const void* period, const Field*, TextSink* out) {
-  WriteMembersText(period, KOVA_TABLE(kPeriodFields), out);
-}
-
-bool PackGlobalText(const unsigned char* record, TextSink* out) {
-  const G& g = *reinterpret_cast<const G*>(record);  // aligned by the frame
-  ObjectText table;
-  table.Fields(&g, kGlobalFields);
-  const unsigned char* at = reinterpret_cast<const unsigned char*>(&g);
-  for (size_t k = 0; k < sizeof kNumbered / sizeof kNumbered[0]; ++k) {
-    const NumberedSlots& n = kNumbered[k];
+// Every numbered block the record holds, then the numbered periods of the
+// caller's array (as far as the count, cut to the most there can be), each
+// as `add(key, block, table)`. The record is read in place: the frame hands
+// it over aligned.
+template <typename Add>
+void ForEachNumbered(const unsigned char* record, Add add) {
+  for (const NumberedSlots& n : kNumbered) {
     for (uint32_t i = 0; i < n.slots; ++i) {
-      if (at[n.flagsAt + i] == 0) continue;
-      table.OwnMember(NumberedKey(n.base, n.first + i), kNumberedWriters[k],
-                      at + n.at + i * n.slotSize);
+      if (record[n.flagsAt + i] != 0)
+        add(NumberedKey(n.base, n.first + i), record + n.at + i * n.slotSize, n.table);
     }
   }
+  const G& g = *reinterpret_cast<const G*>(record);
   const uint32_t periods =
       g.periods == nullptr ? 0 : CutCount(g.periodCount, KOVA_GLOBAL_MAX_PERIODS);
   for (uint32_t i = 0; i < periods; ++i) {
-    table.OwnMember(NumberedKey("TimePeriod", i + 1), WritePeriod,
-                    reinterpret_cast<const unsigned char*>(g.periods) + i * sizeof(DayNightPeriod));
+    add(NumberedKey("TimePeriod", i + 1),
+        reinterpret_cast<const unsigned char*>(g.periods) + i * sizeof(DayNightPeriod),
+        kPeriodTable);
   }
+}
+
+bool PackGlobal(const unsigned char* record, Json::Value& out) {
+  out = Json::Value(Json::objectValue);
+  PackFields(record, out, kGlobalFields);
+  ForEachNumbered(
+      record, [&out](const NumberedKey& key, const unsigned char* block, const FieldTable& table) {
+        Json::Value& v = SetMember(out, key.c_str());
+        v = Json::Value(Json::objectValue);
+        PackFields(block, v, table);
+      });
+  return true;
+}
+
+bool PackGlobalText(const unsigned char* record, TextSink* out) {
+  ObjectText table;
+  table.Fields(record, kGlobalFields);
+  ForEachNumbered(
+      record, [&table](const NumberedKey& key, const unsigned char* block,
+                       const FieldTable& described) { table.OwnMember(key, block, described); });
   if (!table.ok()) {
     Json::Value tree;
     PackGlobal(record, tree);

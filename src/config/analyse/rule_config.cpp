@@ -60,19 +60,10 @@ void PackRuleBody(const unsigned char* body, const RuleType& type, Json::Value& 
   PackFields(body, config, type.config);
 }
 
-namespace {
-
-void WriteConfig(const void* body, const Field*, TextSink* out) {
-  const RuleBodyAt& at = *static_cast<const RuleBodyAt*>(body);
-  WriteMembersText(at.body, at.type->config, out);
-}
-
-}  // namespace
-
-void GatherRuleBody(const RuleBodyAt& at, ObjectText* rule) {
-  rule->Fields(at.body, *at.type->head);
-  rule->Fields(at.body + at.type->linkageOffset, kRuleLinkageFields);
-  rule->Member("Config", WriteConfig, &at);
+void GatherRuleBody(const unsigned char* body, const RuleType& type, ObjectText* rule) {
+  rule->Fields(body, *type.head);
+  rule->Fields(body + type.linkageOffset, kRuleLinkageFields);
+  rule->Member("Config", body, type.config);
 }
 
 }  // namespace kova

@@ -101,13 +101,9 @@ void ParseRuleBody(const Json::Value& rule, unsigned char* body, const RuleType&
 // object `rule`: "Name", "Enable", "TrackEnable", "ObjectTypes" (not for an
 // audio rule), "EventHandler", "PtzPresetId" and "Config".
 void PackRuleBody(const unsigned char* body, const RuleType& type, Json::Value& rule);
-// The same members gathered for writing straight as text; `at` is kept
+// The same members gathered for writing straight as text; `body` is kept
 // until `rule` is written.
-struct RuleBodyAt {
-  const unsigned char* body;
-  const RuleType* type;
-};
-void GatherRuleBody(const RuleBodyAt& at, ObjectText* rule);
+void GatherRuleBody(const unsigned char* body, const RuleType& type, ObjectText* rule);
 
 // The bound rule types, by the file that describes them.
 // cross_rules.cpp

@@ -170,9 +170,8 @@ void WriteName(const void* text, const Field*, TextSink* out) {
 // The text of PackRule.
 void WriteRule(const RuleEntryHeader& header, const unsigned char* body, const RuleType& type,
                TextSink* out) {
-  const RuleBodyAt at{body, &type};
   ObjectText rule;
-  GatherRuleBody(at, &rule);
+  GatherRuleBody(body, type, &rule);
   rule.Member("Type", WriteName, RuleTypeName(header.ruleType));
   rule.Fields(&header, &kPackedClass, 1);
   if (rule.ok()) {

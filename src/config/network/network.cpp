@@ -42,6 +42,8 @@ constexpr Field kInterfaceFields[] = {
     KOVA_ENUM(NetworkInterface, type, "Type", kTypes),
 };
 
+constexpr FieldTable kInterfaceTable = KOVA_TABLE(kInterfaceFields);
+
 // Interfaces are the table's members that hold a non-empty object, named by
 // the member; the three text members and anything else take no slot.
 void ParseInterfaces(const Json::Value& table, unsigned char* record, const Field&) {
@@ -68,16 +70,12 @@ void PackInterfaces(const unsigned char* record, Json::Value& table, const Field
   }
 }
 
-void WriteInterface(const void* nif, const Field*, TextSink* out) {
-  WriteMembersText(nif, KOVA_TABLE(kInterfaceFields), out);
-}
-
 void PackInterfacesText(const unsigned char* record, const Field&, ObjectText* table) {
   const NetworkConfig* config = reinterpret_cast<const NetworkConfig*>(record);
   const uint32_t n = CutCount(config->interfaceCount, KOVA_NETWORK_MAX_INTERFACES);
   for (uint32_t i = 0; i < n; ++i) {
     const NetworkInterface& nif = config->interfaces[i];
-    table->OwnMember(NameOfField(nif.name, sizeof nif.name), WriteInterface, &nif);
+    table->OwnMember(NameOfField(nif.name, sizeof nif.name), &nif, kInterfaceTable);
   }
 }
 

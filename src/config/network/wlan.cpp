@@ -47,6 +47,7 @@ constexpr Field kWLanInterfaceFields[] = {
     KOVA_NESTED(WLanInterface, eap, "EAP").Flag(KOVA_AT(WLanInterface, eapPresent)),
     KOVA_NESTED(WLanInterface, network, "Network").Flag(KOVA_AT(WLanInterface, networkPresent)),
 };
+constexpr FieldTable kWLanInterfaceTable = KOVA_TABLE(kWLanInterfaceFields);
 
 // Interfaces are the table's members that hold an object, named by the
 // member, in the order of their names.
@@ -80,17 +81,13 @@ bool PackWLanStep(const unsigned char* record, Json::Value& out) {
   return true;
 }
 
-void WriteInterface(const void* wif, const Field*, TextSink* out) {
-  WriteMembersText(wif, KOVA_TABLE(kWLanInterfaceFields), out);
-}
-
 bool PackWLanText(const unsigned char* record, TextSink* out) {
   const WLanConfig* config = reinterpret_cast<const WLanConfig*>(record);
   ObjectText interfaces;
   const uint32_t n = CutCount(config->interfaceCount, KOVA_WLAN_MAX_INTERFACES);
   for (uint32_t i = 0; i < n; ++i) {
     const WLanInterface& wif = config->interfaces[i];
-    interfaces.OwnMember(NameOfField(wif.name, sizeof wif.name), WriteInterface, &wif);
+    interfaces.OwnMember(NameOfField(wif.name, sizeof wif.name), &wif, kWLanInterfaceTable);
   }
   interfaces.Write(out);
   return true;

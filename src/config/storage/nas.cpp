@@ -118,14 +118,23 @@ bool ParseNasRoot(const Json::Value& root, const StepContext&, unsigned char* re
   return true;
 }
 
+bool LegacyForm(const unsigned char* record) {
+  return LoadInt(record + offsetof(NasConfig, useServerList), 4, true) == 0;
+}
+
+// Up to the last slot in use; a zero slot goes back as the null it was read from.
+uint32_t ServersWritten(const unsigned char* record) {
+  uint32_t n = kServerSlots;
+  while (n > 0 && AllZero(ServerSlot(record, n - 1), sizeof(NasServer))) --n;
+  return n;
+}
+
 bool PackNasRoot(const unsigned char* record, Json::Value& out) {
-  if (LoadInt(record + offsetof(NasConfig, useServerList), 4, true) == 0) {
+  if (LegacyForm(record)) {
     PackLegacyNas(record + offsetof(NasConfig, legacy), SetKeptMember(out, "NAS"));
     return true;
   }
-  // Up to the last slot in use; a zero slot goes back as the null it was read from.
-  uint32_t n = kServerSlots;
-  while (n > 0 && AllZero(ServerSlot(record, n - 1), sizeof(NasServer))) --n;
+  const uint32_t n = ServersWritten(record);
   out = Json::Value(Json::arrayValue);
   for (uint32_t i = 0; i < n; ++i) {
     Json::Value& server = SetElement(out, i);
@@ -137,14 +146,13 @@ bool PackNasRoot(const unsigned char* record, Json::Value& out) {
 }
 
 bool PackNasRootText(const unsigned char* record, TextSink* out) {
-  if (LoadInt(record + offsetof(NasConfig, useServerList), 4, true) == 0) {
+  if (LegacyForm(record)) {
     Json::Value legacy;
     PackNasRoot(record, legacy);
     WriteJsonValue(legacy, out);
     return true;
   }
-  uint32_t n = kServerSlots;
-  while (n > 0 && AllZero(ServerSlot(record, n - 1), sizeof(NasServer))) --n;
+  const uint32_t n = ServersWritten(record);
   out->Literal("[ ");
   for (uint32_t i = 0; i < n; ++i) {
     if (i != 0) out->Literal(", ");

@@ -81,15 +81,11 @@ void WriteSchedule(const void* record, const Field*, TextSink* out) {
   WriteTimeSectionGridText(&grid[0][0], rows, kSectionsPerDay, out);
 }
 
-void PackScheduleText(const unsigned char* record, const Field& f, ObjectText* object) {
-  object->Member(f.key, WriteSchedule, record);
-}
-
 constexpr Field kRecordFields[] = {
     KOVA_F(RecordConfig, preRecord, "PreRecord", kInt),
     KOVA_F(RecordConfig, redundancy, "Redundancy", kBool),
     KOVA_CUSTOM(RecordConfig, sections, "TimeSection", ParseSchedule, PackSchedule)
-        .PackText(PackScheduleText),
+        .PackText(WriteSchedule),
     // Written with a holiday row only; read by the schedule's step (intended).
     KOVA_F(RecordConfig, holidayEnable, "HolidayEnable", kBool)
         .Flag(KOVA_AT(RecordConfig, holidayValid))

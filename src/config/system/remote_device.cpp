@@ -81,13 +81,10 @@ bool PackDevice(const unsigned char* record, Json::Value& table) {
   return true;
 }
 
-void WriteDevice(const void* record, const Field*, TextSink* out) {
-  WriteMembersText(record, Description<RemoteDeviceConfig>::table, out);
-}
-
 void PackDeviceMembers(const unsigned char* record, ObjectText* table) {
   const RemoteDeviceConfig* r = reinterpret_cast<const RemoteDeviceConfig*>(record);
-  table->OwnMember(NameOfField(r->id, sizeof r->id), WriteDevice, record);
+  table->OwnMember(NameOfField(r->id, sizeof r->id), record,
+                   Description<RemoteDeviceConfig>::table);
 }
 
 }  // namespace

@@ -36,14 +36,10 @@ void WriteSections(const void* record, const Field*, kova::TextSink* out) {
   kova::WriteTimeSectionGridText(&r->sections[0][0], PackedDays(*r), 6, out);
 }
 
-void PackSectionsText(const unsigned char* record, const Field& f, kova::ObjectText* object) {
-  object->Member(f.key, WriteSections, record);
-}
-
 constexpr Field kSnapFields[] = {
     KOVA_F(SnapConfig, holidayEnable, "HolidayEnable", kBool),
     KOVA_CUSTOM(SnapConfig, sections, "TimeSection", ParseSections, PackSections)
-        .PackText(PackSectionsText),
+        .PackText(WriteSections),
 };
 
 }  // namespace

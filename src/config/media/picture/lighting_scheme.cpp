@@ -121,16 +121,12 @@ void WriteWeek(const void* record, const Field*, TextSink* out) {
   out->Literal(" ]");
 }
 
-void PackWeekText(const unsigned char* record, const Field& f, ObjectText* obj) {
-  obj->Member(f.key, WriteWeek, record);
-}
-
 }  // namespace
 
 constexpr Field kSchemeScheduleFields[] = {
     KOVA_F(LightingSchemeProfile, scheduleEnable, "Enable", kBool),
     KOVA_CUSTOM(LightingSchemeProfile, sections, "TimeSectionByWeek", ParseWeek, PackWeek)
-        .PackText(PackWeekText),
+        .PackText(WriteWeek),
 };
 constexpr FieldTable kSchemeSchedule = KOVA_TABLE(kSchemeScheduleFields);
 
