@@ -64,15 +64,15 @@ void CReqRealPicture::ReadEvents(const Json::Value& root) {
   });
 }
 
-const CReqRealPicture::CodeOfText& CReqRealPicture::CodesOf(const std::string& text) {
+const CReqRealPicture::CodeOfText& CReqRealPicture::CodesOf(std::string_view text) {
   for (const CodeOfText& seen : codesSeen_) {
     if (seen.text == text) return seen;
   }
   // At most 128 characters of the text are looked up, up to its first NUL.
   char code[kCodeCapacity + 1] = {};
   std::memcpy(code, text.data(), std::min(text.size(), kCodeCapacity));
-  codesSeen_.push_back(
-      CodeOfText{text, RuleTypeFromName(code), EventCodeDictionary::Instance().CodeOf(code)});
+  codesSeen_.push_back(CodeOfText{std::string(text), RuleTypeFromName(code),
+                                  EventCodeDictionary::Instance().CodeOf(code)});
   return codesSeen_.back();
 }
 
@@ -81,7 +81,7 @@ void CReqRealPicture::ReadEvent(const Json::Value& event) {
   uint32_t dictionaryCode = 0;
   const Json::Value& codeText = Member(event, "Code");
   if (!codeText.isNull()) {
-    const CodeOfText& codes = CodesOf(ToText(codeText));
+    const CodeOfText& codes = CodesOf(TextView(codeText));
     node.eventCode = codes.code;
     dictionaryCode = codes.dictionaryCode;
   }

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "common/base/platform.h"
@@ -73,7 +74,7 @@ class CReqRealPicture {
     uint32_t code;
     uint32_t dictionaryCode;
   };
-  const CodeOfText& CodesOf(const std::string& text);
+  const CodeOfText& CodesOf(std::string_view text);
 
   // The document read by Parse, kept until the object goes: freeing the
   // records first and the document's tree after it is the cheaper order.

@@ -12,6 +12,20 @@ bool AsciiEqualNoCase(std::string_view a, std::string_view b) {
   return true;
 }
 
+bool AsciiEqualNoCase(const char* name, std::string_view text) {
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (name[i] == '\0' || AsciiLower(name[i]) != AsciiLower(text[i])) return false;
+  }
+  return name[text.size()] == '\0';
+}
+
+bool NameEquals(const char* name, std::string_view text) {
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (name[i] == '\0' || name[i] != text[i]) return false;
+  }
+  return name[text.size()] == '\0';
+}
+
 int AsciiCompareNoCase(std::string_view a, std::string_view b) {
   const size_t n = a.size() < b.size() ? a.size() : b.size();
   for (size_t i = 0; i < n; ++i) {

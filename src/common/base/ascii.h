@@ -20,6 +20,11 @@ constexpr char AsciiLower(char c) {
 
 // Whole-text equality after folding.
 bool AsciiEqualNoCase(std::string_view a, std::string_view b);
+// The same for a NUL-terminated name, read no further than it differs: a
+// search through a table of names need not measure each one.
+bool AsciiEqualNoCase(const char* name, std::string_view text);
+// Exact equality of a NUL-terminated name and a text, read the same way.
+bool NameEquals(const char* name, std::string_view text);
 
 // The order of texts after folding, byte by byte as unsigned values, a text
 // before any longer text it begins: below 0, 0 or above 0 as a sorts before,

@@ -154,8 +154,21 @@ struct Slot {
   bool isSigned = false;  // a count member that may hold a negative value (read as 0)
 };
 
+// A member name's slot in a walk's index of an object's members (64 slots):
+// cheap enough to make for every member of the object, and decided once for
+// every field at compile time.
+constexpr uint8_t KeyHash(const char* name, size_t length) {
+  if (length == 0) return 0;
+  const uint32_t first = static_cast<unsigned char>(name[0]);
+  const uint32_t last = static_cast<unsigned char>(name[length - 1]);
+  return static_cast<uint8_t>((static_cast<uint32_t>(length) * 37u + first * 7u + last) & 63u);
+}
+
+// What a parse looks at for every member comes first: a walk over a long
+// table reads one cache line of each field it finds missing.
 struct Field {
   const char* key = nullptr;  // JSON member name (unused for list entries)
+  uint32_t keyLength = 0;     // of `key`, set with it
   uint32_t offset = 0;        // of the member in the record (0 for a list entry)
   uint32_t size = 0;          // bytes of the member: of one item for tuples, one slot for lists
   FieldKind kind = FieldKind::kInt;
@@ -163,6 +176,13 @@ struct Field {
   Direction direction = Direction::kBoth;
   PackAs packAs = PackAs::kNatural;
   Presence presence = Presence::kAlways;
+  // Parse rules for a member that is missing, null or of another JSON type
+  // (see the builders below).
+  bool alwaysRead = false;
+  bool anyType = false;
+  bool clearsFlag = false;
+  bool hasMissingValue = false;
+  uint8_t keyHash = 0;               // KeyHash() of `key`, set with it
   Slot flag = {0, 0};                // Presence::kFlag
   int64_t sentinel = 0;              // Presence::kSentinel
   const EnumNames* names = nullptr;  // kEnum
@@ -185,20 +205,22 @@ struct Field {
   // other step, what adds its members.
   MemberText packValue = nullptr;
   CustomPackText packText = nullptr;
-  Slot beside = {0, 0};  // kCustom: a second member its step keeps (size 0: none)
-  // Parse rules for a member that is missing, null or of another JSON type
-  // (see the builders below).
-  bool alwaysRead = false;
-  bool anyType = false;
-  bool clearsFlag = false;
-  bool hasMissingValue = false;
-  int64_t missingValue = 0;
+  Slot beside = {0, 0};        // kCustom: a second member its step keeps (size 0: none)
+  int64_t missingValue = 0;    // hasMissingValue
   bool nullWhenEmpty = false;  // kNested pack: null instead of an object with no members
   // For tools that show records: the C member's name (null for list entries
   // and whole-record fields) and the C type of one item (of the member, of a
   // tuple item, of a list entry; null when not known).
   const char* member = nullptr;
   const char* type = nullptr;
+
+  // The member name, its length and its hash.
+  constexpr void SetKey(const char* k) {
+    key = k;
+    keyLength = 0;
+    while (k != nullptr && k[keyLength] != '\0') ++keyLength;
+    keyHash = KeyHash(k, keyLength);
+  }
 
   // The one way an attribute is set: a copy with `member` set to `v`.
   template <typename M, typename V>

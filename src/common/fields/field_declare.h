@@ -40,7 +40,7 @@ template <FieldKind K, typename T>
 constexpr Field MakeField(const char* key, size_t offset) {
   static_assert(KindFits<K, T>(), "field kind does not fit the member's type");
   Field f;
-  f.key = key;
+  f.SetKey(key);
   f.offset = static_cast<uint32_t>(offset);
   f.size = static_cast<uint32_t>(sizeof(T));
   f.kind = K;
@@ -64,7 +64,7 @@ constexpr Slot MakeSpan(size_t first, size_t end) {
 template <typename T>
 constexpr Field MakeNested(const char* key, size_t offset) {
   Field f;
-  f.key = key;
+  f.SetKey(key);
   f.offset = static_cast<uint32_t>(offset);
   f.size = static_cast<uint32_t>(sizeof(T));
   f.kind = FieldKind::kObject;
@@ -89,7 +89,7 @@ constexpr Field MakeTuple(const char* key, size_t offset, uint32_t n) {
 constexpr Field MakeListOf(const char* key, size_t offset, const Field* element, uint32_t slotSize,
                            uint32_t capacity) {
   Field f;
-  f.key = key;
+  f.SetKey(key);
   f.offset = static_cast<uint32_t>(offset);
   f.size = slotSize;
   f.kind = FieldKind::kObject;
@@ -119,7 +119,7 @@ constexpr Field MakeAllocatedList(const char* key, size_t offset, const Field* e
 // A JSON object whose members are fields of the enclosing record itself.
 constexpr Field MakeGroup(const char* key, uint32_t recordSize, const FieldTable* table) {
   Field f;
-  f.key = key;
+  f.SetKey(key);
   f.size = recordSize;
   f.kind = FieldKind::kObject;
   f.shape = FieldShape::kNested;
@@ -130,7 +130,7 @@ constexpr Field MakeGroup(const char* key, uint32_t recordSize, const FieldTable
 constexpr Field MakeCustom(const char* key, size_t offset, uint32_t size, CustomParse parse,
                            CustomPack pack) {
   Field f;
-  f.key = key;
+  f.SetKey(key);
   f.offset = static_cast<uint32_t>(offset);
   f.size = size;
   f.kind = FieldKind::kCustom;

@@ -14,8 +14,8 @@ namespace kova {
 
 namespace {
 
-bool TextEquals(std::string_view name, std::string_view text, bool exact) {
-  return exact ? name == text : AsciiEqualNoCase(name, text);
+bool TextEquals(const char* name, std::string_view text, bool exact) {
+  return exact ? NameEquals(name, text) : AsciiEqualNoCase(name, text);
 }
 
 bool AnyByteSet(const unsigned char* p, uint32_t n) {
@@ -263,7 +263,7 @@ void StoreInt(void* p, uint32_t size, int64_t value) {
 
 bool EnumValue(const EnumNames& e, const Json::Value& v, int32_t* value) {
   if (!v.isString()) return false;
-  const std::string text = ToText(v);
+  const std::string_view text = TextView(v);
   for (const char* const* list : {e.names, e.aliases}) {
     if (list == nullptr) continue;
     for (uint32_t i = 0; i < e.count; ++i) {

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "common/fields/field.h"
 #include "common/json/json.h"
 
 namespace kova {
@@ -20,13 +21,16 @@ namespace walk {
 // looked up directly.
 class MemberIndex {
  public:
-  explicit MemberIndex(const Json::Value& obj) : obj_(obj) {
+  // `build` false: every key is looked up directly (cheaper when the table
+  // looks up few keys in a large object).
+  MemberIndex(const Json::Value& obj, bool build) : obj_(obj), complete_(build) {
+    if (!build) return;
     ForEachMemberInPlace(obj, [this](const char* name, size_t length, const Json::Value& value) {
       if (n_ == kCapacity) {
         complete_ = false;
         return false;
       }
-      uint32_t h = Hash(name, length);
+      uint32_t h = KeyHash(name, length);
       while (slots_[h] != 0) h = (h + 1) & kSlotMask;
       entries_[n_] = Entry{name, length, &value};
       slots_[h] = static_cast<uint8_t>(++n_);
@@ -34,27 +38,24 @@ class MemberIndex {
     });
   }
 
-  const Json::Value& Find(const char* key) const {
-    const size_t length = std::strlen(key);
-    for (uint32_t h = Hash(key, length); slots_[h] != 0; h = (h + 1) & kSlotMask) {
+  // The value of `f`'s member; null when the object has no such member (or
+  // it is null).
+  const Json::Value* Find(const Field& f) const {
+    const size_t length = f.keyLength;
+    for (uint32_t h = f.keyHash; slots_[h] != 0; h = (h + 1) & kSlotMask) {
       const Entry& e = entries_[slots_[h] - 1];
-      if (e.length == length && std::memcmp(e.name, key, length) == 0) return *e.value;
+      if (e.length == length && std::memcmp(e.name, f.key, length) == 0) return e.value;
     }
-    return complete_ ? Null() : Member(obj_, key);
+    if (complete_) return nullptr;
+    const Json::Value* v = FindMember(obj_, f.key, length);
+    return v != nullptr && !v->isNull() ? v : nullptr;
   }
 
   const Json::Value& object() const { return obj_; }
 
  private:
   static constexpr uint32_t kCapacity = 48;
-  static constexpr uint32_t kSlotMask = 63;  // 64 slots: at most three quarters used
-
-  static uint32_t Hash(const char* name, size_t length) {
-    if (length == 0) return 0;
-    const uint32_t first = static_cast<unsigned char>(name[0]);
-    const uint32_t last = static_cast<unsigned char>(name[length - 1]);
-    return (static_cast<uint32_t>(length) * 37u + first * 7u + last) & kSlotMask;
-  }
+  static constexpr uint32_t kSlotMask = 63;  // 64 slots (KeyHash): at most three quarters used
 
   struct Entry {
     const char* name;

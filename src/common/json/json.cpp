@@ -39,9 +39,12 @@ bool ReadJson(const char* text, Json::Value* root) {
 }
 
 const Json::Value& Member(const Json::Value& v, const char* key) {
-  if (!v.isObject()) return Null();
-  const Json::Value* found = v.find(key, key + std::strlen(key));
+  const Json::Value* found = FindMember(v, key, std::strlen(key));
   return found != nullptr ? *found : Null();
+}
+
+const Json::Value* FindMember(const Json::Value& v, const char* key, size_t length) {
+  return v.isObject() ? v.find(key, key + length) : nullptr;
 }
 
 bool HasMember(const Json::Value& v, const char* key) {
@@ -138,11 +141,13 @@ bool ToBool(const Json::Value& v) {
   }
 }
 
-std::string ToText(const Json::Value& v) {
+std::string ToText(const Json::Value& v) { return std::string(TextView(v)); }
+
+std::string_view TextView(const Json::Value& v) {
   const char* begin = nullptr;
   const char* end = nullptr;
-  if (!v.isString() || !v.getString(&begin, &end)) return std::string();
-  return std::string(begin, end);
+  if (!v.isString() || !v.getString(&begin, &end)) return std::string_view();
+  return std::string_view(begin, static_cast<size_t>(end - begin));
 }
 
 const char* TextInPlace(const Json::Value& v) {

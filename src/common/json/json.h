@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
@@ -26,6 +27,8 @@ bool ReadJson(const char* text, Json::Value* root);
 // Member `key` of an object; a shared null value for a missing member or
 // when `v` is not an object.
 const Json::Value& Member(const Json::Value& v, const char* key);
+// Member `key` of `length` bytes; null when missing or `v` is not an object.
+const Json::Value* FindMember(const Json::Value& v, const char* key, size_t length);
 // True when `v` is an object that has `key` as a member (even holding null).
 bool HasMember(const Json::Value& v, const char* key);
 // Element `i` of an array; a shared null value when `v` is not an array or
@@ -81,6 +84,8 @@ double ToDouble(const Json::Value& v);
 bool ToBool(const Json::Value& v);
 // The text of a string value (embedded NULs kept); "" for any other type.
 std::string ToText(const Json::Value& v);
+// The same without a copy: valid while `v` lives.
+std::string_view TextView(const Json::Value& v);
 // The text of a string value in place, NUL-terminated (a reader sees it up
 // to its first NUL), valid while `v` lives; "" for any other type. For
 // scanning text without copying it.
@@ -93,8 +98,10 @@ const char* TextInPlace(const Json::Value& v);
 template <typename Visit>
 void ForEachMemberInPlace(const Json::Value& obj, Visit visit) {
   if (!obj.isObject()) return;
-  const Json::Value::const_iterator end = obj.end();
-  for (Json::Value::const_iterator it = obj.begin(); it != end; ++it) {
+  // Counted rather than compared with end(): one call into the JSON
+  // library less per member.
+  Json::Value::const_iterator it = obj.begin();
+  for (Json::ArrayIndex left = obj.size(); left > 0; --left, ++it) {
     const char* nameEnd = nullptr;
     const char* name = it.memberName(&nameEnd);
     if (name == nullptr) continue;
