@@ -1,5 +1,10 @@
 #include "api/dispatch.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
 #include "common/base/ascii.h"
 #include "common/base/log.h"
 #include "config/flat/flat.h"
@@ -96,9 +101,10 @@ class NameIndex {
 
   template <typename Entry>
   int Find(const Entry* list, const char* name) const {
-    for (uint32_t h = Hash(name) & kMask; slots_[h] != 0; h = (h + 1) & kMask) {
+    const std::string_view text(name);
+    for (uint32_t h = Hash(text) & kMask; slots_[h] != 0; h = (h + 1) & kMask) {
       const int i = slots_[h] - 1;
-      if (AsciiEqualNoCase(list[i].name, name)) return i;
+      if (AsciiEqualNoCase(list[i].name, text)) return i;
     }
     return -1;
   }
@@ -110,13 +116,16 @@ class NameIndex {
                     sizeof kPackNames / sizeof kPackNames[0] <= kSlots / 2,
                 "the index stays at most half full");
 
-  // FNV-1a over the folded bytes.
-  static uint32_t Hash(const char* name) {
-    uint32_t h = 2166136261u;
-    for (const char* p = name; *p != '\0'; ++p) {
-      h = (h ^ static_cast<unsigned char>(AsciiLower(*p))) * 16777619u;
+  // Eight bytes at a time, each with bit 5 set: names that fold alike hash
+  // alike (other bytes may collide too, which the comparison settles).
+  static uint32_t Hash(std::string_view name) {
+    uint64_t h = name.size();
+    for (size_t at = 0; at < name.size(); at += 8) {
+      uint64_t chunk = 0;
+      std::memcpy(&chunk, name.data() + at, std::min<size_t>(8, name.size() - at));
+      h = (h ^ (chunk | 0x2020202020202020u)) * 0x9E3779B97F4A7C15u;
     }
-    return h;
+    return static_cast<uint32_t>(h >> 32);
   }
 
   uint16_t slots_[kSlots] = {};

@@ -28,10 +28,11 @@ void ReportLength(const ResponseFrame& f, uint32_t* retLen, uint64_t bytes) {
   }
 }
 
-const Json::Value& TableOf(const ResponseFrame& f, const Json::Value& root) {
+const Json::Value& TableOf(const ResponseFrame& f, const Json::Value& root,
+                           const Json::Value& params) {
   switch (f.tableAt) {
     case TableAt::kParamsTable:
-      return Member(Member(root, "params"), "table");
+      return Member(params, "table");
     case TableAt::kRoot:
       return root;
   }
@@ -56,25 +57,33 @@ void ClearOutput(const ResponseFrame& f, unsigned char* out, uint32_t outLen, ui
   }
 }
 
-int ParseObjectMembers(const ResponseFrame& f, const Json::Value& root, const Json::Value& table,
-                       unsigned char* out, uint32_t slots, uint32_t* retLen) {
+int ParseObjectMembers(const ResponseFrame& f, const Json::Value& root, const Json::Value& params,
+                       const Json::Value& table, unsigned char* out, uint32_t slots,
+                       uint32_t* retLen) {
   uint32_t filled = 0;
-  if (table.isObject()) {
-    const Json::Value::Members names = table.getMemberNames();
-    for (const std::string& name : names) {
-      if (filled >= slots) break;
-      const Json::Value& element = Member(table, name.c_str());
-      if (!element.isObject()) continue;
-      const StepContext ctx{root,         Member(root, "params"), filled,
-                            f.recordSize, name.c_str(),           static_cast<int32_t>(filled)};
-      unsigned char* record = out + static_cast<size_t>(filled) * f.recordSize;
-      if (!f.parse(element, ctx, record)) {
-        if (f.clearing != Clearing::kNone)
-          std::memset(out, 0, static_cast<size_t>(slots) * f.recordSize);
-        return 0;
-      }
-      ++filled;
+  bool failed = false;
+  ForEachMemberInPlace(table, [&](const char* key, size_t length, const Json::Value& value) {
+    if (filled >= slots) return false;
+    const std::string name(key, length);
+    // A name with a NUL in it is looked up as far as its NUL, as a C
+    // string names a member.
+    const Json::Value& element =
+        name.find('\0') == std::string::npos ? value : Member(table, name.c_str());
+    if (!element.isObject()) return true;
+    const StepContext ctx{root,         params,       filled,
+                          f.recordSize, name.c_str(), static_cast<int32_t>(filled)};
+    unsigned char* record = out + static_cast<size_t>(filled) * f.recordSize;
+    if (!f.parse(element, ctx, record)) {
+      failed = true;
+      return false;
     }
+    ++filled;
+    return true;
+  });
+  if (failed) {
+    if (f.clearing != Clearing::kNone)
+      std::memset(out, 0, static_cast<size_t>(slots) * f.recordSize);
+    return 0;
   }
   ReportLength(f, retLen, static_cast<uint64_t>(filled) * f.recordSize);
   return 1;
@@ -188,12 +197,12 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
 
     Json::Value root;
     if (!ReadJson(jsonText, &root)) return 0;
-    if (f.result == ResultRule::kMustBeTrue && !ResultIsTrue(root)) return 0;
-    if (f.result == ResultRule::kFalseFails && !Member(root, "result").isNull() &&
-        !ResultIsTrue(root)) {
-      return 0;
-    }
-    const Json::Value& table = TableOf(f, root);
+    // Each member of the root looked up once.
+    const Json::Value& result = Member(root, "result");
+    if (f.result == ResultRule::kMustBeTrue && !ToBool(result)) return 0;
+    if (f.result == ResultRule::kFalseFails && !result.isNull() && !ToBool(result)) return 0;
+    const Json::Value& params = Member(root, "params");
+    const Json::Value& table = TableOf(f, root, params);
     const int32_t rootChannel = f.channelAtRoot ? ToInt32(Member(root, "channel")) : 0;
     if (table.isNull() && f.nullTable != NullTable::kStep) {
       switch (f.nullTable) {
@@ -215,7 +224,7 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
 
     const uint32_t slots = outLen / stride;
     if (f.walk == RecordWalk::kObjectMembers) {
-      return ParseObjectMembers(f, root, table, out, slots, retLen);
+      return ParseObjectMembers(f, root, params, table, out, slots, retLen);
     }
     bool perElement = f.walk != RecordWalk::kOne && ListsChannels(f, table);
     if (f.walk != RecordWalk::kOne && f.channelAtRoot) {
@@ -228,7 +237,6 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
       if (f.nonArray == NonArrayTable::kNoRecord) n = 0;
       if (f.nonArray == NonArrayTable::kObjectOnly && !table.isObject()) n = 0;
     }
-    const Json::Value& params = Member(root, "params");
     std::vector<unsigned char> copy;  // only for caller-sized slots that need one
     uint32_t filled = 0;
     for (uint32_t i = 0; i < n; ++i) {

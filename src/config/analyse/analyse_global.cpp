@@ -165,15 +165,34 @@ const NumberedSlots kNumbered[] = {
      offsetof(G, scenesPresent), Description<AnalyseScene>::table},
 };
 
+// The slot of `n` a member's name is written under, or -1 ("Scene01" and
+// "Scene0" name no slot).
+int32_t SlotOf(const NumberedSlots& n, const char* name, size_t length) {
+  const size_t baseLength = std::strlen(n.base);
+  if (length < baseLength || std::memcmp(name, n.base, baseLength) != 0) return -1;
+  uint32_t number = 0;
+  for (size_t i = baseLength; i < length; ++i) {
+    if (name[i] < '0' || name[i] > '9' || number > n.first + n.slots) return -1;
+    number = number * 10 + static_cast<uint32_t>(name[i] - '0');
+  }
+  if (number < n.first || number - n.first >= n.slots) return -1;
+  const NumberedKey key(n.base, number);
+  if (std::strlen(key.c_str()) != length || std::memcmp(key.c_str(), name, length) != 0) return -1;
+  return static_cast<int32_t>(number - n.first);
+}
+
+// One walk over the members: a table holds few of the many numbered keys.
 void ParseNumbered(const Json::Value& table, unsigned char* record) {
-  for (const NumberedSlots& n : kNumbered) {
-    for (uint32_t i = 0; i < n.slots; ++i) {
-      const Json::Value& v = Member(table, NumberedKey(n.base, n.first + i).c_str());
-      if (!v.isObject()) continue;
+  ForEachMemberInPlace(table, [record](const char* name, size_t length, const Json::Value& v) {
+    if (!v.isObject()) return true;
+    for (const NumberedSlots& n : kNumbered) {
+      const int32_t i = SlotOf(n, name, length);
+      if (i < 0) continue;
       record[n.flagsAt + i] = 1;
       ParseFields(v, record + n.at + i * n.slotSize, n.table);
     }
-  }
+    return true;
+  });
 }
 
 // "TimePeriod1", "TimePeriod2", ... into the caller's array, while the
