@@ -27,6 +27,11 @@ void ParseRange(const Json::Value& obj, unsigned char* record, const Field& f) {
     *r = t;
     return;
   }
+  int32_t* const shortFields[4] = {&t.beginHour, &t.beginMinute, &t.endHour, &t.endMinute};
+  if (kova::ReadFixedFields(text.c_str(), "dd:dd-dd:dd", shortFields) && text.size() == 11) {
+    *r = t;
+    return;
+  }
   char rest = 0;
   if (std::sscanf(text.c_str(), "%d:%d:%d-%d:%d:%d%c", &t.beginHour, &t.beginMinute, &t.beginSecond,
                   &t.endHour, &t.endMinute, &t.endSecond, &rest) == 6) {

@@ -1,10 +1,7 @@
 // "ptz.getCurrentProtocolCaps": what a channel's PTZ protocol supports.
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <string_view>
-#include <vector>
 
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
@@ -112,18 +109,46 @@ constexpr FieldTable kCaps = KOVA_TABLE(kCapsFields);
 constexpr Field kAnswerFields[] = {KOVA_GROUP(PtzProtocolCaps, "caps", kCaps)};
 constexpr FieldTable kAnswer = KOVA_TABLE(kAnswerFields);
 
-// Whether `name` is a key the table above reads itself (its keys sorted
-// once, then searched).
-bool NamedInTable(const char* name, size_t len) {
-  static const std::vector<std::string_view> keys = [] {
-    std::vector<std::string_view> k;
+// Whether `name` is a key the table above reads itself: its keys in a
+// small hash table made once (a caps answer has many members to look up).
+class TableKeys {
+ public:
+  TableKeys() {
     for (const Field& f : kCapsFields) {
-      if (f.key != nullptr) k.emplace_back(f.key);
+      if (f.key == nullptr) continue;
+      uint32_t h = Hash(f.key, f.keyLength);
+      while (slots_[h] != nullptr) h = (h + 1) & kMask;
+      slots_[h] = &f;
     }
-    std::sort(k.begin(), k.end());
-    return k;
-  }();
-  return std::binary_search(keys.begin(), keys.end(), std::string_view(name, len));
+  }
+
+  bool Has(const char* name, size_t len) const {
+    for (uint32_t h = Hash(name, len); slots_[h] != nullptr; h = (h + 1) & kMask) {
+      const Field& f = *slots_[h];
+      if (f.keyLength == len && std::memcmp(f.key, name, len) == 0) return true;
+    }
+    return false;
+  }
+
+ private:
+  static constexpr uint32_t kMask = 255;  // room for four times the keys
+  static_assert(sizeof kCapsFields / sizeof kCapsFields[0] * 4 <= kMask + 1,
+                "the set stays sparse");
+
+  static uint32_t Hash(const char* name, size_t len) {
+    if (len == 0) return 0;
+    const uint32_t first = static_cast<unsigned char>(name[0]);
+    const uint32_t middle = static_cast<unsigned char>(name[len / 2]);
+    const uint32_t last = static_cast<unsigned char>(name[len - 1]);
+    return (static_cast<uint32_t>(len) * 131u + first * 31u + middle * 7u + last) & kMask;
+  }
+
+  const Field* slots_[kMask + 1] = {};
+};
+
+bool NamedInTable(const char* name, size_t len) {
+  static const TableKeys keys;
+  return keys.Has(name, len);
 }
 
 bool IsKeptValue(const Json::Value& v) {
