@@ -131,15 +131,7 @@ void ParseFields(const Json::Value& obj, void* record, const Field* fields, size
     ParseField(obj, Member(obj, fields[0].key), base, fields[0]);
     return;
   }
-  // Iterating the object costs about two thirds of looking one key up in
-  // it: a table that looks up fewer keys than that looks them up directly.
-  size_t keyed = 0;
-  for (size_t i = 0; i < count; ++i) {
-    const Field& f = fields[i];
-    if (f.key == nullptr && f.shape != FieldShape::kCustom) keyed += 64;  // shares the index
-    if (f.key != nullptr && f.shape != FieldShape::kCustom) ++keyed;
-  }
-  ParseIndexed(MemberIndex(obj, keyed * 3 > Count(obj) * 2), base, fields, count);
+  ParseIndexed(MemberIndex(obj), base, fields, count);
 }
 
 void PackFields(const void* record, Json::Value& obj, const Field* fields, size_t count) {

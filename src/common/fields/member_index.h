@@ -21,10 +21,7 @@ namespace walk {
 // looked up directly.
 class MemberIndex {
  public:
-  // `build` false: every key is looked up directly (cheaper when the table
-  // looks up few keys in a large object).
-  MemberIndex(const Json::Value& obj, bool build) : obj_(obj), complete_(build) {
-    if (!build) return;
+  explicit MemberIndex(const Json::Value& obj) : obj_(obj) {
     ForEachMemberInPlace(obj, [this](const char* name, size_t length, const Json::Value& value) {
       if (n_ == kCapacity) {
         complete_ = false;
