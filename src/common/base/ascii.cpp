@@ -1,7 +1,6 @@
 #include "common/base/ascii.h"
 
 #include <cstddef>
-#include <cstring>
 
 namespace kova {
 
@@ -14,18 +13,15 @@ bool AsciiEqualNoCase(std::string_view a, std::string_view b) {
 }
 
 bool AsciiEqualNoCase(const char* name, std::string_view text) {
-  if (NameEquals(name, text)) return true;  // most callers spell a name as listed
   for (size_t i = 0; i < text.size(); ++i) {
-    if (name[i] == '\0' || AsciiLower(name[i]) != AsciiLower(text[i])) return false;
+    const char c = name[i];
+    if (c == text[i] && c != '\0') continue;  // most bytes match as they stand
+    if (c == '\0' || AsciiLower(c) != AsciiLower(text[i])) return false;
   }
   return name[text.size()] == '\0';
 }
 
 bool NameEquals(const char* name, std::string_view text) {
-  // The name's bytes up to its NUL or the first difference only.
-  if (text.find('\0') == std::string_view::npos) {
-    return std::strncmp(name, text.data(), text.size()) == 0 && name[text.size()] == '\0';
-  }
   for (size_t i = 0; i < text.size(); ++i) {
     if (name[i] == '\0' || name[i] != text[i]) return false;
   }
