@@ -356,13 +356,13 @@ bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule,
 
 bool ParseDaySections(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxSections) {
   if (sections == nullptr || maxSections < 1) return false;
-  uint32_t n = jsonIn.isArray() ? Count(jsonIn) : 0;
-  if (n > static_cast<uint32_t>(maxSections)) n = static_cast<uint32_t>(maxSections);
-  for (uint32_t i = 0; i < n; ++i) {
+  ForEachElement(jsonIn, [&](uint32_t i, const Json::Value& item) {
+    if (i >= static_cast<uint32_t>(maxSections)) return false;
     // The converted count is deliberately not checked: a malformed string
     // leaves a partly filled record and the day still reads as good.
-    ScanRecord(TextInPlace(Element(jsonIn, i)), kAnyWidth, &sections[i]);
-  }
+    ScanRecord(TextInPlace(item), kAnyWidth, &sections[i]);
+    return true;
+  });
   return true;
 }
 

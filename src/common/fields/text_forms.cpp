@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string>
 
+#include "common/base/decimal.h"
 #include "common/base/log.h"
 
 namespace kova {
@@ -53,13 +54,35 @@ uint32_t TextToIp(const char* text) {
   return addr;
 }
 
+namespace {
+
+// "2024-01-05 12:00:00", the form devices write, read without scanning: at
+// the start of the first `len` bytes, no digit after it. False for any other
+// text, which the general reading gives the same numbers for.
+bool ReadFixedDateTime(const char* text, int32_t len, int* v) {
+  static const char kForm[] = "dddd-dd-dd dd:dd:dd";
+  constexpr int32_t kLength = sizeof kForm - 1;
+  if (len < kLength) return false;
+  for (int32_t i = 0; i < kLength; ++i) {
+    if (kForm[i] == 'd' ? !IsDigit(text[i]) : text[i] != kForm[i]) return false;
+  }
+  if (len > kLength && IsDigit(text[kLength])) return false;
+  v[0] = ((text[0] - '0') * 10 + (text[1] - '0')) * 100 + (text[2] - '0') * 10 + (text[3] - '0');
+  for (int32_t f = 1; f < 6; ++f) v[f] = (text[2 + 3 * f] - '0') * 10 + (text[3 + 3 * f] - '0');
+  return true;
+}
+
+}  // namespace
+
 int ParseDateTimePacked(const char* text, int32_t len, uint32_t* out) {
   if (text == nullptr || out == nullptr || len < 1) return -1;
-  int year, month, day, hour, minute, second;
-  if (std::sscanf(Bounded(text, len).c_str(), "%d-%d-%d %d:%d:%d", &year, &month, &day, &hour,
-                  &minute, &second) != 6) {
+  int v[6];
+  if (!ReadFixedDateTime(text, len, v) &&
+      std::sscanf(Bounded(text, len).c_str(), "%d-%d-%d %d:%d:%d", &v[0], &v[1], &v[2], &v[3],
+                  &v[4], &v[5]) != 6) {
     return -1;
   }
+  const int year = v[0], month = v[1], day = v[2], hour = v[3], minute = v[4], second = v[5];
   // The year is shifted unmasked; only its lowest six bits survive the shift.
   *out = (static_cast<uint32_t>(year) << 26) | ((static_cast<uint32_t>(month) & 0xF) << 22) |
          ((static_cast<uint32_t>(day) & 0x1F) << 17) |
