@@ -23,6 +23,14 @@ TEST(DateTimePacked, FieldsAndTheUnmaskedYear) {
   EXPECT_EQ(-1, ParseDateTimePacked("2024-5-6 7:8:9", 0, &packed));
   // The length bounds the reading: the seconds lie past it here.
   EXPECT_EQ(-1, ParseDateTimePacked("2024-5-6 7:8:9", 12, &packed));
+  // The two-digit form, a third digit of seconds read on, or cut by the length.
+  const uint32_t day = ((2024u % 64) << 26) | (1u << 22) | (5u << 17) | (12u << 12) | (34u << 6);
+  ASSERT_EQ(0, ParseDateTimePacked("2024-01-05 12:34:56", 19, &packed));
+  EXPECT_EQ(day | 56u, packed);
+  ASSERT_EQ(0, ParseDateTimePacked("2024-01-05 12:34:567", 20, &packed));
+  EXPECT_EQ(day | (567u & 0x3F), packed);
+  ASSERT_EQ(0, ParseDateTimePacked("2024-01-05 12:34:567", 19, &packed));
+  EXPECT_EQ(day | 56u, packed);
 }
 
 TEST(TimeRange, SixFieldsCutToBytesLeadUntouched) {

@@ -74,6 +74,7 @@ TEST(VideoAnalyseGlobal, NumberedSlotsEnvelopeAndRawText) {
   const std::string table =
       R"({"CalibrateArea31":{"Staffs":[{"Length":2}]},"CalibrateArea32":{"Staffs":[]},)"
       R"("Scene8":{"Type":"Last","Depth":"near"},"Scene9":{"Type":"Beyond"},"Scene0":{},)"
+      R"("Scene01":{},"CalibrateArea0":{},)"
       R"("Scene":{"CustomData":"\u00e9\u0001z","Depth":"Deep"}})";
   int rc = 0;
   auto g = ParseAs<VideoAnalyseGlobalConfig>("VideoAnalyseGlobal", Doc(table), &rc);

@@ -80,6 +80,14 @@ TEST(SystemSettings, RemoteDevicesAreKeyedByTheirIdentifiers) {
   EXPECT_EQ(last, out.data());
   EXPECT_EQ(0, KOVA_PacketData("RemoteDevice", d.data(), two, out.data(),
                                static_cast<uint32_t>(last.size())));
+
+  // An identifier with a NUL in it names the device its text up to the NUL names.
+  d = Parse<RemoteDeviceConfig>("RemoteDevice",
+                                Doc(R"({"k":{"Name":"A"},"k\u0000x":{"Name":"Z"}})"), &ret);
+  ASSERT_EQ(2 * sizeof(RemoteDeviceConfig), ret);
+  EXPECT_STREQ("A", d[1].name);
+  Parse<RemoteDeviceConfig>("RemoteDevice", Doc(R"({"k\u0000x":{"Name":"Z"}})"), &ret);
+  EXPECT_EQ(0u, ret);
 }
 
 TEST(SystemSettings, DoorScheduleFormsAndTimeRanges) {
