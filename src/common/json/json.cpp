@@ -146,7 +146,7 @@ std::string ToText(const Json::Value& v) { return std::string(TextView(v)); }
 std::string_view TextView(const Json::Value& v) {
   const char* begin = nullptr;
   const char* end = nullptr;
-  if (!v.isString() || !v.getString(&begin, &end)) return std::string_view();
+  if (!v.isString() || !v.getString(&begin, &end)) return std::string_view("", 0);
   return std::string_view(begin, static_cast<size_t>(end - begin));
 }
 

@@ -84,7 +84,7 @@ double ToDouble(const Json::Value& v);
 bool ToBool(const Json::Value& v);
 // The text of a string value (embedded NULs kept); "" for any other type.
 std::string ToText(const Json::Value& v);
-// The same without a copy: valid while `v` lives.
+// The same without a copy: valid while `v` lives (never a null pointer).
 std::string_view TextView(const Json::Value& v);
 // The text of a string value in place, NUL-terminated (a reader sees it up
 // to its first NUL), valid while `v` lives; "" for any other type. For
