@@ -330,8 +330,7 @@ int PackWithFrame(const ResponseFrame& f, const void* inBuf, uint32_t inLen, cha
       sink.Put('\n');
       return EndPacked(sink.Done(), outJson, outLen);
     }
-    if (members && f.packMembers != nullptr && !NeedsCopy(f, in, stride) &&
-        stride % f.recordAlign == 0) {
+    if (f.packMembers != nullptr && !NeedsCopy(f, in, stride) && stride % f.recordAlign == 0) {
       // The members are written after the last record is read: the records
       // are read in place, never through a copy.
       ObjectText object;

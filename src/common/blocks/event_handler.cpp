@@ -305,10 +305,7 @@ void WriteLinkageText(const void* block, const Field* field, TextSink* out) {
   handler.Member("TimeSection", WriteLinkageSchedule, record, &f);
   handler.Fields(record + f.offset, kEventHandler);
   if (f.table != nullptr) handler.Fields(record, *f.table);
-  if (handler.ok()) {
-    handler.Write(out);
-    return;
-  }
+  if (handler.Write(out)) return;
   Json::Value obj;
   PackLinkageStep(record, obj, f);
   WriteJsonValue(Member(obj, f.key), out);

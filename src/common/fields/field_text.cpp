@@ -57,9 +57,7 @@ void WriteText(const char* p, uint32_t cap, bool convert, TextSink* out) {
     WriteJsonString(p, p + n, out);
     return;
   }
-  // The UTF-8 form has room for one and a half times the local form, as
-  // SetJsonString gives it (the cut is deliberate).
-  const size_t size = (3 * n) / 2 + 1;
+  const size_t size = Utf8Room(n);  // as SetJsonString gives it
   char local[512];
   std::vector<char> large;
   char* utf8 = local;
@@ -135,18 +133,15 @@ void WriteObject(const unsigned char* base, const Field* fields, size_t count, b
                  bool nullWhenEmpty, TextSink* out) {
   ObjectText object;
   object.Fields(base, fields, count);
-  if (!object.ok()) {
-    Json::Value obj = fromNull ? Json::Value() : Json::Value(Json::objectValue);
-    PackFields(base, obj, fields, count);
-    if (nullWhenEmpty && obj.empty()) obj = Json::Value();
-    WriteJsonValue(obj, out);
-    return;
-  }
-  if ((fromNull && !object.made()) || (nullWhenEmpty && object.empty())) {
+  if (object.ok() && ((fromNull && !object.made()) || (nullWhenEmpty && object.empty()))) {
     out->Literal("null");
     return;
   }
-  object.Write(out);
+  if (object.Write(out)) return;
+  Json::Value obj = fromNull ? Json::Value() : Json::Value(Json::objectValue);
+  PackFields(base, obj, fields, count);
+  if (nullWhenEmpty && obj.empty()) obj = Json::Value();
+  WriteJsonValue(obj, out);
 }
 
 }  // namespace
@@ -162,7 +157,7 @@ void ObjectText::Add(const Entry& e) {
 }
 
 bool ObjectText::Has(const char* key, size_t length) const {
-  const Entry* e = n_ <= kLocal ? local_ : spill_.data();
+  const Entry* e = data();
   for (size_t i = 0; i < n_; ++i) {
     if (e[i].length == length && std::memcmp(e[i].key, key, length) == 0) return true;
   }
@@ -238,12 +233,13 @@ void ObjectText::Fields(const void* record, const Field* fields, size_t count) {
       continue;
     }
     if (FieldWrites(base, f)) {
-      Add(Entry{f.key, std::strlen(f.key), &f, base, nullptr, nullptr, nullptr});
+      Add(Entry{f.key, f.keyLength, &f, base, nullptr, nullptr, nullptr});
     }
   }
 }
 
-void ObjectText::Write(TextSink* out) {
+bool ObjectText::Write(TextSink* out) {
+  if (!ok_) return false;
   Entry* e = data();
   // Stable: of two members of one key, the later stays later.
   for (size_t i = 1; i < n_; ++i) {
@@ -274,6 +270,7 @@ void ObjectText::Write(TextSink* out) {
     }
   }
   out->Literal(" }");
+  return true;
 }
 
 void WriteFieldsText(const void* record, const FieldTable& t, TextSink* out) {

@@ -59,14 +59,15 @@ class ObjectText {
   // The table is kept by pointer: a temporary one would be gone by then.
   void Member(const char*, const void*, const FieldTable&&) = delete;
   void OwnMember(std::string, const void*, const FieldTable&&) = delete;
-  // False when a hand-written step wrote what only its tree can follow:
-  // the object is then to be packed through the tree.
+  // False when a hand-written step wrote what only its tree can follow.
   bool ok() const { return ok_; }
   // Whether any member or step made the object (a null tree stays null).
   bool made() const { return made_ || n_ != 0; }
   bool empty() const { return n_ == 0; }
-  // The members, "{ ... }", in key order.
-  void Write(TextSink* out);
+  // The members, "{ ... }", in key order. False, with nothing written, when
+  // a hand-written step wrote what only its tree can follow: the object is
+  // then to be packed through the tree.
+  bool Write(TextSink* out);
 
   struct Entry {
     const char* key;
@@ -84,6 +85,7 @@ class ObjectText {
   void AddOwn(std::string key, Entry e);
   bool Has(const char* key, size_t length) const;
   Entry* data() { return n_ <= kLocal ? local_ : spill_.data(); }
+  const Entry* data() const { return n_ <= kLocal ? local_ : spill_.data(); }
 
   static constexpr size_t kLocal = 48;
   Entry local_[kLocal];

@@ -80,11 +80,8 @@ bool SetJsonString(Json::Value& v, const char* src, uint8_t convert) {
     v = src;
     return true;
   }
-  // The UTF-8 form is given room for one and a half times the local form;
-  // a text that grows more than that (e.g. two-byte GBK becoming three-byte
-  // UTF-8 throughout) is cut there. The bound is deliberate and kept.
   const size_t n = std::strlen(src);
-  const size_t size = (3 * n) / 2 + 1;
+  const size_t size = Utf8Room(n);
   std::vector<char> scratch(size, '\0');
   if (n <= 0x7FFFFFFFu && size <= 0x7FFFFFFFu) {
     AnsiToUtf8(src, static_cast<int32_t>(n), scratch.data(), static_cast<int32_t>(size));

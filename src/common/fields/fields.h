@@ -8,6 +8,7 @@
 
 #include <json/value.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -34,6 +35,11 @@ bool SetJsonString(Json::Value& v, const char* src, uint8_t convert);
 // (Records come from callers; a field filled to capacity is never read past.)
 // Stores it like SetJsonString.
 bool SetJsonStringBounded(Json::Value& v, const char* src, uint32_t cap, uint8_t convert);
+
+// The room the UTF-8 form of `n` bytes of local text is given: one and a
+// half times them and one; a text that grows more (two-byte GBK becoming
+// three-byte UTF-8 throughout) is cut there. The bound is deliberate and kept.
+constexpr size_t Utf8Room(size_t n) { return (3 * n) / 2 + 1; }
 
 // The text of a fixed field of capacity `cap` as SetJsonStringBounded
 // stores it (converted to UTF-8), up to its first NUL: a member's name.

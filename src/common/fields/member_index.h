@@ -35,17 +35,14 @@ class MemberIndex {
     });
   }
 
-  // The value of `f`'s member; null when the object has no such member (or
-  // it is null).
+  // The value of `f`'s member; null when the object has no such member.
   const Json::Value* Find(const Field& f) const {
     const size_t length = f.keyLength;
     for (uint32_t h = f.keyHash; slots_[h] != 0; h = (h + 1) & kSlotMask) {
       const Entry& e = entries_[slots_[h] - 1];
       if (e.length == length && std::memcmp(e.name, f.key, length) == 0) return e.value;
     }
-    if (complete_) return nullptr;
-    const Json::Value* v = FindMember(obj_, f.key, length);
-    return v != nullptr && !v->isNull() ? v : nullptr;
+    return complete_ ? nullptr : FindMember(obj_, f.key, length);
   }
 
   const Json::Value& object() const { return obj_; }

@@ -48,7 +48,7 @@ const Json::Value* FindMember(const Json::Value& v, const char* key, size_t leng
 }
 
 bool HasMember(const Json::Value& v, const char* key) {
-  return v.isObject() && v.find(key, key + std::strlen(key)) != nullptr;
+  return FindMember(v, key, std::strlen(key)) != nullptr;
 }
 
 const Json::Value& Element(const Json::Value& v, uint64_t i) {

@@ -270,13 +270,10 @@ bool PackGlobalText(const unsigned char* record, TextSink* out) {
   ForEachNumbered(
       record, [&table](const NumberedKey& key, const unsigned char* block,
                        const FieldTable& described) { table.OwnMember(key, block, described); });
-  if (!table.ok()) {
-    Json::Value tree;
-    PackGlobal(record, tree);
-    WriteJsonValue(tree, out);
-    return true;
-  }
-  table.Write(out);
+  if (table.Write(out)) return true;
+  Json::Value tree;
+  PackGlobal(record, tree);
+  WriteJsonValue(tree, out);
   return true;
 }
 

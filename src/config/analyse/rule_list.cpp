@@ -174,10 +174,7 @@ void WriteRule(const RuleEntryHeader& header, const unsigned char* body, const R
   GatherRuleBody(body, type, &rule);
   rule.Member("Type", WriteName, RuleTypeName(header.ruleType));
   rule.Fields(&header, &kPackedClass, 1);
-  if (rule.ok()) {
-    rule.Write(out);
-    return;
-  }
+  if (rule.Write(out)) return;
   Json::Value tree(Json::objectValue);
   PackRule(header, body, type, tree);
   WriteJsonValue(tree, out);

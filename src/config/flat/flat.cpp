@@ -146,8 +146,7 @@ void Flattener::Walk(const Json::Value& v, size_t len, bool fits) {
 // included), otherwise "params" itself.
 const Json::Value& PayloadOf(const Json::Value& params) {
   static const char kTable[] = "table";
-  const Json::Value* table =
-      params.isObject() ? params.find(kTable, kTable + sizeof kTable - 1) : nullptr;
+  const Json::Value* table = FindMember(params, kTable, sizeof kTable - 1);
   return table != nullptr ? *table : params;
 }
 
