@@ -239,9 +239,9 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     }
     std::vector<unsigned char> copy;  // only for caller-sized slots that need one
     uint32_t filled = 0;
-    for (uint32_t i = 0; i < n; ++i) {
-      const Json::Value& element = perElement ? Element(table, i) : table;
-      if (f.skipNullElements && element.isNull()) continue;
+    bool failed = false;
+    const auto fill = [&](uint32_t i, const Json::Value& element) {
+      if (f.skipNullElements && element.isNull()) return true;
       unsigned char* slot = out + static_cast<size_t>(i) * stride;
       if (f.clearing == Clearing::kEachRecord) std::memset(slot, 0, stride);
       unsigned char* record = slot;
@@ -255,11 +255,21 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
                             i,       f.recordSize,
                             nullptr, f.channelAtRoot ? channel : static_cast<int32_t>(i)};
       if (!f.parse(element, ctx, record)) {
-        if (f.clearing != Clearing::kNone) ClearOutput(f, out, outLen, stride);
-        return 0;
+        failed = true;
+        return false;
       }
       if (record != slot) std::memcpy(slot, record, std::min(stride, f.recordSize));
       ++filled;
+      return true;
+    };
+    if (perElement) {
+      ForEachElement(table, n, fill);
+    } else if (n > 0) {
+      fill(0, table);
+    }
+    if (failed) {
+      if (f.clearing != Clearing::kNone) ClearOutput(f, out, outLen, stride);
+      return 0;
     }
     ReportLength(f, retLen, static_cast<uint64_t>(filled) * stride);
     return 1;

@@ -29,7 +29,7 @@ const R* Linkage(const unsigned char* record) { return reinterpret_cast<const R*
 // array of another length included) leaves `out` as it was.
 void ReadIntArray(const Json::Value& v, uint32_t n, int32_t* out) {
   if (!v.isArray() || Count(v) != n) return;
-  for (uint32_t i = 0; i < n; ++i) out[i] = ToInt32(Element(v, i));
+  ForEachElement(v, n, [out](uint32_t i, const Json::Value& e) { out[i] = ToInt32(e); });
 }
 
 Json::Value IntArray(const int32_t* values, uint32_t n) {
@@ -58,16 +58,18 @@ void ParsePtzLinks(const Json::Value& obj, unsigned char* record, const Field& f
   R* r = Linkage(record);
   const uint32_t n = CutCount(Count(*links), KOVA_EH_MAX_PTZ_LINKS);
   r->ptzLinkCount = static_cast<int32_t>(n);
-  for (uint32_t i = 0; i < n; ++i) {
-    const Json::Value& item = Element(*links, i);
+  ForEachElement(*links, n, [r](uint32_t i, const Json::Value& item) {
     // An entry that is not exactly five items stays zero but still counts.
-    if (!item.isArray() || Count(item) != kPtzLinkItems) continue;
+    if (!item.isArray() || Count(item) != kPtzLinkItems) return;
     PtzLinkEntry& e = r->ptzLinks[i];
-    int32_t type = KOVA_PTZ_LINK_NONE;
-    if (!EnumValue(kPtzLinkTypes, Element(item, 0), &type)) type = KOVA_PTZ_LINK_NONE;
-    e.type = type;
-    for (uint32_t k = 0; k < 4; ++k) e.values[k] = ToInt32(Element(item, k + 1));
-  }
+    ForEachElement(item, kPtzLinkItems, [&e](uint32_t k, const Json::Value& value) {
+      if (k > 0) {
+        e.values[k - 1] = ToInt32(value);
+      } else if (!EnumValue(kPtzLinkTypes, value, &e.type)) {
+        e.type = KOVA_PTZ_LINK_NONE;
+      }
+    });
+  });
 }
 
 void PackPtzLinks(const unsigned char* record, Json::Value& obj, const Field& f) {
@@ -98,8 +100,7 @@ void ParseTitles(const Json::Value& obj, unsigned char* record, const Field& f) 
   TitleOverlay* titles = reinterpret_cast<TitleOverlay*>(record + f.offset);
   const uint32_t n = CutCount(Count(*list), KOVA_EH_MAX_TITLES);
   StoreInt(record + f.count.offset, f.count.size, n);
-  for (uint32_t i = 0; i < n; ++i) {
-    const Json::Value& item = Element(*list, i);
+  ForEachElement(*list, n, [titles](uint32_t i, const Json::Value& item) {
     TitleOverlay& t = titles[i];
     GetJsonString(Member(item, "Text"), t.text, sizeof t.text, 1);
     ReadIntArray(Member(item, "Point"), 2, t.point);
@@ -112,7 +113,7 @@ void ParseTitles(const Json::Value& obj, unsigned char* record, const Field& f) 
     }
     ReadIntArray(Member(item, "FrontColor"), 4, t.frontColor);
     ReadIntArray(Member(item, "BackColor"), 4, t.backColor);
-  }
+  });
 }
 
 void PackTitles(const unsigned char* record, Json::Value& obj, const Field& f) {
@@ -144,18 +145,18 @@ void ParseAccessControls(const Json::Value& obj, unsigned char* record, const Fi
   R* r = Linkage(record);
   const uint32_t n = CutCount(Count(*list), KOVA_EH_MAX_ACCESS_CONTROLS);
   r->accessControlCount = static_cast<int32_t>(n);
-  for (uint32_t i = 0; i < n; ++i) {
-    const Json::Value& operation = Member(Element(*list, i), "Operation");
+  ForEachElement(*list, n, [r](uint32_t i, const Json::Value& item) {
+    const Json::Value& operation = Member(item, "Operation");
     if (operation.isNull()) {
       r->accessControlOperations[i] = KOVA_DOOR_NONE;
-      continue;
+      return;
     }
     // The device's name is read into a 32-byte field before the lookup; an
     // unknown name leaves the operation as it was.
     char text[32];
     GetJsonString(operation, text, sizeof text, 1);
     EnumValue(kDoorOperations, Json::Value(text), &r->accessControlOperations[i]);
-  }
+  });
 }
 
 void PackAccessControls(const unsigned char* record, Json::Value& obj, const Field& f) {

@@ -47,18 +47,16 @@ const Json::Value& Null();
 template <typename Fn>
 void ForEachElement(const Json::Value& v, uint32_t limit, Fn&& fn) {
   if (!v.isArray()) return;
-  const uint32_t size = v.size();
-  const uint32_t n = std::min<uint32_t>(size, limit);
-  // The reader's arrays are dense (an entry for every index below the size)
-  // and are walked entry by entry; an array with missing indices, which
-  // read as null, is walked index by index.
-  const Json::Value::const_iterator begin = v.begin();
-  const Json::Value::const_iterator end = v.end();
-  uint32_t entries = 0;
-  for (Json::Value::const_iterator it = begin; it != end && entries <= size; ++it) ++entries;
-  Json::Value::const_iterator it = begin;
+  const uint32_t n = std::min<uint32_t>(v.size(), limit);
+  // The entries come in index order and the last one's index is the size
+  // less one, so an entry at or past each index below the size is there:
+  // no comparison with end() is needed. An index without an entry (arrays
+  // the reader makes have none) reads as null.
+  Json::Value::const_iterator it = v.begin();
   for (uint32_t i = 0; i < n; ++i) {
-    const Json::Value& e = entries == size ? *it++ : Element(v, i);
+    const bool here = it.index() == i;
+    const Json::Value& e = here ? *it : Null();
+    if (here) ++it;
     if constexpr (std::is_same<decltype(fn(i, e)), bool>::value) {
       if (!fn(i, e)) return;
     } else {

@@ -83,6 +83,30 @@ TEST(JsonAccess, NeverThrowsOnTheWrongType) {
   EXPECT_TRUE(s.isObject());
 }
 
+// Element by element as Element() gives them: an index a built tree left
+// without an entry reads as null, the limit and an early stop end the walk.
+TEST(JsonAccess, ElementsInIndexOrder) {
+  Json::Value holes(Json::arrayValue);
+  holes[1] = 10;
+  holes[4] = 40;
+  std::string seen;
+  kova::ForEachElement(holes, 9, [&seen](uint32_t i, const Json::Value& e) {
+    seen += std::to_string(i) + "=" + std::to_string(kova::ToInt32(e)) + (e.isNull() ? "n " : " ");
+  });
+  EXPECT_EQ("0=0n 1=10 2=0n 3=0n 4=40 ", seen);
+  seen.clear();
+  kova::ForEachElement(Read("[1,2,3]"), 2, [&seen](uint32_t, const Json::Value& e) {
+    seen += std::to_string(kova::ToInt32(e));
+  });
+  kova::ForEachElement(Read("[4,5,6]"), 9, [&seen](uint32_t i, const Json::Value& e) {
+    seen += std::to_string(kova::ToInt32(e));
+    return i == 0;
+  });
+  kova::ForEachElement(Read("{\"0\":7}"), 9,
+                       [&seen](uint32_t, const Json::Value&) { seen += "x"; });
+  EXPECT_EQ("1245", seen);
+}
+
 TEST(JsonRead, DefaultModeToleranceAndFailures) {
   Json::Value v;
   EXPECT_TRUE(kova::ReadJson("{\"a\":1 /* comment */}", &v));
