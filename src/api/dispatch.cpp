@@ -7,6 +7,7 @@
 
 #include "common/base/ascii.h"
 #include "common/base/log.h"
+#include "common/base/name_index.h"
 #include "config/flat/flat.h"
 
 namespace kova {
@@ -81,65 +82,22 @@ bool NameEquals(const char* a, const char* b) { return AsciiEqualNoCase(a, b); }
 
 namespace {
 
-// A hash table of the list's names by folded text, made once, so that a
-// lookup hashes the name once and compares it with one name, rather than
-// walking or searching up to 293 names (a fifth of a short parse). Of
-// names that fold alike only the first listed is entered: it wins.
-class NameIndex {
- public:
-  template <typename Entry>
-  NameIndex(const Entry* list, size_t count) {
-    for (size_t i = 0; i < count; ++i) {
-      uint32_t h = Hash(list[i].name) & kMask;
-      bool taken = false;
-      for (; slots_[h] != 0; h = (h + 1) & kMask) {
-        taken = taken || AsciiEqualNoCase(list[slots_[h] - 1].name, list[i].name);
-      }
-      if (!taken) slots_[h] = static_cast<uint16_t>(i + 1);
-    }
-  }
-
-  template <typename Entry>
-  int Find(const Entry* list, const char* name) const {
-    const std::string_view text(name);
-    for (uint32_t h = Hash(text) & kMask; slots_[h] != 0; h = (h + 1) & kMask) {
-      const int i = slots_[h] - 1;
-      if (AsciiEqualNoCase(list[i].name, text)) return i;
-    }
-    return -1;
-  }
-
- private:
-  static constexpr uint32_t kSlots = 1024;
-  static constexpr uint32_t kMask = kSlots - 1;
-  static_assert(sizeof kParseNames / sizeof kParseNames[0] <= kSlots / 2 &&
-                    sizeof kPackNames / sizeof kPackNames[0] <= kSlots / 2,
-                "the index stays at most half full");
-
-  // Eight bytes at a time, each with bit 5 set: names that fold alike hash
-  // alike (other bytes may collide too, which the comparison settles).
-  static uint32_t Hash(std::string_view name) {
-    uint64_t h = name.size();
-    for (size_t at = 0; at < name.size(); at += 8) {
-      uint64_t chunk = 0;
-      std::memcpy(&chunk, name.data() + at, std::min<size_t>(8, name.size() - at));
-      h = (h ^ (chunk | 0x2020202020202020u)) * 0x9E3779B97F4A7C15u;
-    }
-    return static_cast<uint32_t>(h >> 32);
-  }
-
-  uint16_t slots_[kSlots] = {};
-};
+// Names of the table by folded text (a lookup in a walk of up to 293 names
+// would be a fifth of a short parse).
+using ConfigNameIndex = NameIndex<1024>;
+static_assert(sizeof kParseNames / sizeof kParseNames[0] <= 512 &&
+                  sizeof kPackNames / sizeof kPackNames[0] <= 512,
+              "the index stays at most half full");
 
 }  // namespace
 
 int FindParseName(const char* name) {
-  static const NameIndex index(kParseNames, kParseNameCount);
+  static const ConfigNameIndex index(kParseNames, kParseNameCount);
   return index.Find(kParseNames, name);
 }
 
 int FindPackName(const char* name) {
-  static const NameIndex index(kPackNames, kPackNameCount);
+  static const ConfigNameIndex index(kPackNames, kPackNameCount);
   return index.Find(kPackNames, name);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -65,7 +66,9 @@ void CReqRealPicture::ReadEvents(const Json::Value& root) {
 }
 
 const CReqRealPicture::CodeOfText& CReqRealPicture::CodesOf(std::string_view text) {
-  for (const CodeOfText& seen : codesSeen_) {
+  uint32_t h = static_cast<uint32_t>(std::hash<std::string_view>()(text)) % kCodeSlots;
+  for (; codeSlots_[h] != 0; h = (h + 1) % kCodeSlots) {
+    const CodeOfText& seen = codesSeen_[codeSlots_[h] - 1u];
     if (seen.text == text) return seen;
   }
   // At most 128 characters of the text are looked up, up to its first NUL.
@@ -73,6 +76,9 @@ const CReqRealPicture::CodeOfText& CReqRealPicture::CodesOf(std::string_view tex
   std::memcpy(code, text.data(), std::min(text.size(), kCodeCapacity));
   codesSeen_.push_back(CodeOfText{std::string(text), RuleTypeFromName(code),
                                   EventCodeDictionary::Instance().CodeOf(code)});
+  // A parser that has seen more texts than one notification carries finds
+  // the later ones by their lookup again.
+  if (codesSeen_.size() <= kCodeSlots / 2) codeSlots_[h] = static_cast<uint16_t>(codesSeen_.size());
   return codesSeen_.back();
 }
 

@@ -68,7 +68,8 @@ class CReqRealPicture {
   void ReadEvent(const Json::Value& event);
 
   // The codes of a "Code" text: a notification repeats a few texts many
-  // times, so each distinct one is looked up once.
+  // times, so each distinct one is looked up once, and found again through
+  // a small hash table of the texts seen.
   struct CodeOfText {
     std::string text;
     uint32_t code;
@@ -80,6 +81,9 @@ class CReqRealPicture {
   // records first and the document's tree after it is the cheaper order.
   Json::Value document_;
   std::vector<CodeOfText> codesSeen_;
+  // At most one text per event: the table stays at most half full.
+  static constexpr uint32_t kCodeSlots = 2 * kMaxEventsPerNotification;
+  uint16_t codeSlots_[kCodeSlots] = {};  // index in codesSeen_ + 1; 0 for an empty slot
   std::vector<AnalyzerEventNode> eventList;
   platform::Mutex listLock;
 };

@@ -1,9 +1,11 @@
 #include "config/analyse/rule_types.h"
 
 #include <array>
+#include <iterator>
 #include <string_view>
 
 #include "common/base/ascii.h"
+#include "common/base/name_index.h"
 #include "config/analyse/rule_config.h"
 
 namespace kova {
@@ -216,11 +218,10 @@ constexpr const char* kSceneClassList[] = {
 
 uint32_t RuleTypeFromName(const char* name) {
   if (name == nullptr) return 0;
-  const std::string_view text(name);
-  for (const RuleTypeRow& r : kRuleTypeRows) {
-    if (AsciiEqualNoCase(r.name, text)) return r.code;
-  }
-  return 0;
+  static const NameIndex<256> index(kRuleTypeRows, std::size(kRuleTypeRows));
+  static_assert(std::size(kRuleTypeRows) <= 128, "the index stays at most half full");
+  const int i = index.Find(kRuleTypeRows, name);
+  return i >= 0 ? kRuleTypeRows[i].code : 0;
 }
 
 int32_t RuleBodySize(uint32_t code) {

@@ -1,0 +1,65 @@
+// A hash table of a fixed list's names by folded text, made once, so that a
+// lookup hashes the name once and compares it with one name or so, rather
+// than walking the list. Of names that fold alike only the first listed is
+// entered: it wins.
+#ifndef KOVA_COMMON_BASE_NAME_INDEX_H_
+#define KOVA_COMMON_BASE_NAME_INDEX_H_
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#include "common/base/ascii.h"
+
+namespace kova {
+
+// kSlots: a power of two, at least twice the list's length.
+template <uint32_t kSlots>
+class NameIndex {
+ public:
+  template <typename Entry>
+  NameIndex(const Entry* list, size_t count) {
+    for (size_t i = 0; i < count && i < kSlots / 2; ++i) {
+      uint32_t h = Hash(list[i].name) & kMask;
+      bool taken = false;
+      for (; slots_[h] != 0; h = (h + 1) & kMask) {
+        taken = taken || AsciiEqualNoCase(list[slots_[h] - 1].name, list[i].name);
+      }
+      if (!taken) slots_[h] = static_cast<uint16_t>(i + 1);
+    }
+  }
+
+  // The index in the list of the name that folds like `text`; -1 for none.
+  template <typename Entry>
+  int Find(const Entry* list, std::string_view text) const {
+    for (uint32_t h = Hash(text) & kMask; slots_[h] != 0; h = (h + 1) & kMask) {
+      const int i = slots_[h] - 1;
+      if (AsciiEqualNoCase(list[i].name, text)) return i;
+    }
+    return -1;
+  }
+
+ private:
+  static_assert(kSlots > 0 && (kSlots & (kSlots - 1)) == 0, "a power of two");
+  static constexpr uint32_t kMask = kSlots - 1;
+
+  // Eight bytes at a time, each with bit 5 set: names that fold alike hash
+  // alike (other bytes may collide too, which the comparison settles).
+  static uint32_t Hash(std::string_view name) {
+    uint64_t h = name.size();
+    for (size_t at = 0; at < name.size(); at += 8) {
+      uint64_t chunk = 0;
+      std::memcpy(&chunk, name.data() + at, std::min<size_t>(8, name.size() - at));
+      h = (h ^ (chunk | 0x2020202020202020u)) * 0x9E3779B97F4A7C15u;
+    }
+    return static_cast<uint32_t>(h >> 32);
+  }
+
+  uint16_t slots_[kSlots] = {};
+};
+
+}  // namespace kova
+
+#endif  // KOVA_COMMON_BASE_NAME_INDEX_H_
