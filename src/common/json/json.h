@@ -97,13 +97,13 @@ template <typename Visit>
 void ForEachMemberInPlace(const Json::Value& obj, Visit visit) {
   if (!obj.isObject()) return;
   // Counted rather than compared with end(): one call into the JSON
-  // library less per member.
+  // library less per member, and none to step past the last one.
   Json::Value::const_iterator it = obj.begin();
-  for (Json::ArrayIndex left = obj.size(); left > 0; --left, ++it) {
+  for (Json::ArrayIndex left = obj.size(); left > 0; --left) {
     const char* nameEnd = nullptr;
     const char* name = it.memberName(&nameEnd);
-    if (name == nullptr) continue;
-    if (!visit(name, static_cast<size_t>(nameEnd - name), *it)) return;
+    if (name != nullptr && !visit(name, static_cast<size_t>(nameEnd - name), *it)) return;
+    if (left > 1) ++it;
   }
 }
 
