@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 #include <vector>
 
 #include "common/base/platform.h"
@@ -115,7 +116,25 @@ bool ListsChannels(const ResponseFrame& f, const Json::Value& table) {
 
 }  // namespace
 
-bool ResultIsTrue(const Json::Value& root) { return ToBool(Member(root, "result")); }
+bool ResultIsTrue(const Json::Value& root) { return ToBool(*EnvelopeOf(root).result); }
+
+Envelope EnvelopeOf(const Json::Value& root) {
+  Envelope e{&Null(), &Null()};
+  // A root that holds its table among its members is searched instead.
+  constexpr uint32_t kWalkedMembers = 8;
+  if (Count(root) > kWalkedMembers) {
+    e.result = &Member(root, "result");
+    e.params = &Member(root, "params");
+    return e;
+  }
+  ForEachMemberInPlace(root, [&e](const char* name, size_t length, const Json::Value& v) {
+    const std::string_view key(name, length);
+    if (key == "result") e.result = &v;
+    if (key == "params") e.params = &v;
+    return true;
+  });
+  return e;
+}
 
 int64_t ArrayDepth(const Json::Value& v, int32_t shift) {
   if (shift < 0 || v.isNull()) return -1;
@@ -198,10 +217,11 @@ int ParseWithFrame(const ResponseFrame& f, const char* jsonText, void* outBuf, u
     Json::Value root;
     if (!ReadJson(jsonText, &root)) return 0;
     // Each member of the root looked up once.
-    const Json::Value& result = Member(root, "result");
+    const Envelope envelope = EnvelopeOf(root);
+    const Json::Value& result = *envelope.result;
     if (f.result == ResultRule::kMustBeTrue && !ToBool(result)) return 0;
     if (f.result == ResultRule::kFalseFails && !result.isNull() && !ToBool(result)) return 0;
-    const Json::Value& params = Member(root, "params");
+    const Json::Value& params = *envelope.params;
     const Json::Value& table = TableOf(f, root, params);
     const int32_t rootChannel = f.channelAtRoot ? ToInt32(Member(root, "channel")) : 0;
     if (table.isNull() && f.nullTable != NullTable::kStep) {

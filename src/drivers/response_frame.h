@@ -304,6 +304,14 @@ int64_t ArrayDepth(const Json::Value& v, int32_t shift);
 // The envelope's truth rule for "result" (the same as ToBool).
 bool ResultIsTrue(const Json::Value& root);
 
+// "result" and "params" of a response's root (the shared null for each one
+// missing), found in one walk over its few members rather than a search each.
+struct Envelope {
+  const Json::Value* result;
+  const Json::Value* params;
+};
+Envelope EnvelopeOf(const Json::Value& root);
+
 // 1 on success, 0 on failure. Never writes past `outLen`; on failure the
 // buffer is left as the clearing rule made it (a step's partial record is
 // cleared again).

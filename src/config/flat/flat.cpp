@@ -185,8 +185,10 @@ int ParseFlat(const char* jsonText, void* outBuf, uint32_t outLen, uint32_t* ret
     unsigned char* out = static_cast<unsigned char*>(outBuf);
     std::memset(out, 0, outLen);
     Json::Value root;
-    if (!ReadJson(jsonText, &root) || !ResultIsTrue(root)) return 0;
-    const uint32_t count = FlattenInto(PayloadOf(Member(root, "params")), out, outLen);
+    if (!ReadJson(jsonText, &root)) return 0;
+    const Envelope envelope = EnvelopeOf(root);
+    if (!ToBool(*envelope.result)) return 0;
+    const uint32_t count = FlattenInto(PayloadOf(*envelope.params), out, outLen);
     if (retLen != nullptr)
       *retLen = kHeaderBytes + count * static_cast<uint32_t>(sizeof(FlatValue));
     return 1;
