@@ -1,7 +1,7 @@
 // A hash table of a fixed list's names by folded text, made once, so that a
 // lookup hashes the name once and compares it with one name or so, rather
-// than walking the list. Of names that fold alike only the first listed is
-// entered: it wins.
+// than walking the list. Names that fold alike hash alike, and the first
+// listed sits before the others on their probe chain: it wins.
 #ifndef KOVA_COMMON_BASE_NAME_INDEX_H_
 #define KOVA_COMMON_BASE_NAME_INDEX_H_
 
@@ -23,11 +23,8 @@ class NameIndex {
   NameIndex(const Entry* list, size_t count) {
     for (size_t i = 0; i < count && i < kSlots / 2; ++i) {
       uint32_t h = Hash(list[i].name) & kMask;
-      bool taken = false;
-      for (; slots_[h] != 0; h = (h + 1) & kMask) {
-        taken = taken || AsciiEqualNoCase(list[slots_[h] - 1].name, list[i].name);
-      }
-      if (!taken) slots_[h] = static_cast<uint16_t>(i + 1);
+      while (slots_[h] != 0) h = (h + 1) & kMask;
+      slots_[h] = static_cast<uint16_t>(i + 1);
     }
   }
 

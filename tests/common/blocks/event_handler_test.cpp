@@ -69,6 +69,10 @@ TEST(EventHandler, ParsePackParseGivesTheSameRecord) {
   Json::Value packed;
   kova::PackEventHandler(*first, packed);
   ExpectKeysWrittenBack(sent, packed);
+  // A title's integer arrays come back as they were sent.
+  for (const char* key : {"Point", "FrontColor", "BackColor"}) {
+    EXPECT_EQ(sent["SnapshotTitle"][0][key], packed["SnapshotTitle"][0][key]) << key;
+  }
   // Through the device text, so that reals and escapes travel too.
   auto second = Parse(Doc(kova::WriteJson(packed)));
   // Members the device reports but does not take back.
