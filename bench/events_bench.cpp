@@ -59,6 +59,38 @@ void EventsFloor(benchmark::State& state, const std::string* doc) {
   Rates(state, 0);
 }
 
+// Every value of a read notification visited once through the JSON
+// library's accessors: each member's name and value, each element, one
+// conversion per scalar. What any walk of the tree costs that reads all of
+// it, beside the reading itself (see README.md).
+int64_t VisitAll(const Json::Value& v) {
+  int64_t n = 1;
+  if (v.isObject() || v.isArray()) {
+    const Json::Value::const_iterator end = v.end();
+    for (Json::Value::const_iterator it = v.begin(); it != end; ++it) {
+      const char* nameEnd = nullptr;
+      const char* name = it.memberName(&nameEnd);
+      n += (nameEnd - name) + VisitAll(*it);
+    }
+  } else if (v.isString()) {
+    const char* begin = nullptr;
+    const char* end = nullptr;
+    n += v.getString(&begin, &end) ? end - begin : 0;
+  } else if (v.isNumeric()) {
+    n += v.asDouble() != 0 ? 1 : 0;
+  }
+  return n;
+}
+
+void EventsVisit(benchmark::State& state, const std::string* doc) {
+  Json::CharReaderBuilder builder;
+  std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+  Json::Value root;
+  reader->parse(doc->data(), doc->data() + doc->size(), &root, nullptr);
+  for (auto _ : state) benchmark::DoNotOptimize(VisitAll(root));
+  Rates(state, 0);
+}
+
 // A device notification of kEvents events: those of the sample
 // notifications, over and over.
 std::string MakeNotification(const std::vector<kova_harness::SampleDocument>& samples) {
@@ -94,6 +126,7 @@ void RegisterEventBenchmarks(const std::vector<kova_harness::SampleDocument>& sa
   benchmark::RegisterBenchmark("events/analyzer", Events, &doc, false);
   benchmark::RegisterBenchmark("events/by_callback", Events, &doc, true);
   benchmark::RegisterBenchmark("events/floor", EventsFloor, &doc);
+  benchmark::RegisterBenchmark("events/visit", EventsVisit, &doc);
   AddPair("events", "128-event notification", "events/analyzer", "events/floor");
   AddPair("events", "128-event notification (by callback)", "events/by_callback", "events/floor");
 }

@@ -1,6 +1,7 @@
 // kova_bench: every benchmark, then the ratio of each measured case to its
 // floor. See bench/README.md for how to read the numbers.
 #include <benchmark/benchmark.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <map>
@@ -30,16 +31,27 @@ double Limit(const std::string& what) {
   return 1 / 0.9;  // events: time per notification
 }
 
-// The console report, remembering each benchmark's real time in ns.
+// The console report, remembering each benchmark's real time in ns. Run
+// with repetitions (--benchmark_repetitions, best with
+// --benchmark_enable_random_interleaving), a case's time is the median of
+// its repetitions, ours and the floor's alike, and the console shows only
+// the medians.
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
+  // Colours only on a terminal.
+  explicit RatioReporter(bool colour) : ConsoleReporter(colour ? OO_Defaults : OO_Tabular) {}
+
   void ReportRuns(const std::vector<Run>& runs) override {
+    std::vector<Run> shown;
     for (const Run& r : runs) {
-      if (r.error_occurred || !r.aggregate_name.empty()) continue;
-      nanoseconds_[r.benchmark_name()] =
+      const bool single = r.aggregate_name.empty() && r.repetitions <= 1;
+      const bool median = r.aggregate_name == "median";
+      if (r.error_occurred || single || median) shown.push_back(r);
+      if (r.error_occurred || !(single || median)) continue;
+      nanoseconds_[r.run_name.str()] =
           r.GetAdjustedRealTime() * 1e9 / benchmark::GetTimeUnitMultiplier(r.time_unit);
     }
-    ConsoleReporter::ReportRuns(runs);
+    if (!shown.empty()) ConsoleReporter::ReportRuns(shown);
   }
 
   void PrintRatios() const {
@@ -88,7 +100,7 @@ int main(int argc, char** argv) {
   kova_bench::RegisterRuleListBenchmarks(samples);
   kova_bench::RegisterWriterBenchmarks(samples);
   kova_bench::RegisterEventBenchmarks(samples);
-  kova_bench::RatioReporter reporter;
+  kova_bench::RatioReporter reporter(isatty(STDOUT_FILENO) != 0);
   benchmark::RunSpecifiedBenchmarks(&reporter);
   reporter.PrintRatios();
   benchmark::Shutdown();
