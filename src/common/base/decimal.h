@@ -61,16 +61,23 @@ inline char* PutClockRange(char* p, int32_t beginHour, int32_t beginMinute, int3
 
 inline bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+// Whether the first bytes of `text` are laid out as `form` says: 'd' a
+// digit, any other byte itself.
+template <size_t N>
+bool MatchesForm(const char* text, const char (&form)[N]) {
+  for (size_t i = 0; i + 1 < N; ++i) {
+    if (form[i] == 'd' ? !IsDigit(text[i]) : text[i] != form[i]) return false;
+  }
+  return true;
+}
+
 // Two-digit fields laid out as `pattern` says ('d' a digit, any other byte
 // itself, a field every three bytes) at the start of `text`, into `fields`
 // in order; the byte after them must not be a digit. False (nothing stored)
 // for any other text.
 template <size_t N>
 bool ReadFixedFields(const char* text, const char (&pattern)[N], int32_t* const* fields) {
-  for (size_t i = 0; i + 1 < N; ++i) {
-    if (pattern[i] == 'd' ? !IsDigit(text[i]) : text[i] != pattern[i]) return false;
-  }
-  if (IsDigit(text[N - 1])) return false;
+  if (!MatchesForm(text, pattern) || IsDigit(text[N - 1])) return false;
   for (size_t f = 0; f < N / 3; ++f)
     *fields[f] = (text[3 * f] - '0') * 10 + (text[3 * f + 1] - '0');
   return true;

@@ -1,7 +1,8 @@
-// A hash table of a fixed list's names by folded text, made once, so that a
-// lookup hashes the name once and compares it with one name or so, rather
-// than walking the list. Names that fold alike hash alike, and the first
-// listed sits before the others on their probe chain: it wins.
+// A hash table of a fixed list's names, made once, so that a lookup hashes
+// the name once and compares it with one name or so, rather than walking
+// the list. Names that fold alike hash alike, and of names that compare
+// equal the first listed sits before the others on their probe chain: it
+// wins.
 #ifndef KOVA_COMMON_BASE_NAME_INDEX_H_
 #define KOVA_COMMON_BASE_NAME_INDEX_H_
 
@@ -15,25 +16,39 @@
 
 namespace kova {
 
-// kSlots: a power of two, at least twice the list's length.
-template <uint32_t kSlots>
+// The name of a list's entry, its `name`.
+struct EntryName {
+  template <typename Entry>
+  const char* operator()(const Entry& e) const {
+    return e.name;
+  }
+};
+
+// kSlots: a power of two, at least twice the list's length. kFoldCase: names
+// compared after folding, or exactly.
+template <uint32_t kSlots, bool kFoldCase = true>
 class NameIndex {
  public:
-  template <typename Entry>
-  NameIndex(const Entry* list, size_t count) {
+  // `nameOf(entry)` gives an entry's name; one without a name (null) is
+  // not entered.
+  template <typename Entry, typename NameOf = EntryName>
+  NameIndex(const Entry* list, size_t count, NameOf nameOf = NameOf()) {
     for (size_t i = 0; i < count && i < kSlots / 2; ++i) {
-      uint32_t h = Hash(list[i].name) & kMask;
+      const char* name = nameOf(list[i]);
+      if (name == nullptr) continue;
+      uint32_t h = Hash(name) & kMask;
       while (slots_[h] != 0) h = (h + 1) & kMask;
       slots_[h] = static_cast<uint16_t>(i + 1);
     }
   }
 
-  // The index in the list of the name that folds like `text`; -1 for none.
-  template <typename Entry>
-  int Find(const Entry* list, std::string_view text) const {
+  // The index in the list of the name equal to `text`; -1 for none.
+  template <typename Entry, typename NameOf = EntryName>
+  int Find(const Entry* list, std::string_view text, NameOf nameOf = NameOf()) const {
     for (uint32_t h = Hash(text) & kMask; slots_[h] != 0; h = (h + 1) & kMask) {
       const int i = slots_[h] - 1;
-      if (AsciiEqualNoCase(list[i].name, text)) return i;
+      const char* name = nameOf(list[i]);
+      if (kFoldCase ? AsciiEqualNoCase(name, text) : NameEquals(name, text)) return i;
     }
     return -1;
   }

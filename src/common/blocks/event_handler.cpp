@@ -305,10 +305,11 @@ void WriteLinkageText(const void* block, const Field* field, TextSink* out) {
   handler.Member("TimeSection", WriteLinkageSchedule, record, &f);
   handler.Fields(record + f.offset, kEventHandler);
   if (f.table != nullptr) handler.Fields(record, *f.table);
-  if (handler.Write(out)) return;
-  Json::Value obj;
-  PackLinkageStep(record, obj, f);
-  WriteJsonValue(Member(obj, f.key), out);
+  handler.WriteOrPack(out, [&](Json::Value& handlerTree) {
+    Json::Value obj;
+    PackLinkageStep(record, obj, f);
+    handlerTree = Member(obj, f.key);
+  });
 }
 
 }  // namespace kova

@@ -61,9 +61,11 @@ constexpr MemberText WeekGridText() {
 }  // namespace kova
 
 // A member of Days x Sections section records, as the custom field above.
-#define KOVA_WEEK_GRID(Rec, member, key, days, sections)                 \
-  KOVA_CUSTOM(Rec, member, key, (::kova::ParseWeekGrid<days, sections>), \
-              (::kova::PackWeekGrid<days, sections>))                    \
+#define KOVA_WEEK_GRID(Rec, member, key, days, sections) \
+  KOVA_WEEK_GRID_READ_BY(Rec, member, key, days, sections, (::kova::ParseWeekGrid<days, sections>))
+// The same grid read by a step of its own.
+#define KOVA_WEEK_GRID_READ_BY(Rec, member, key, days, sections, parse)        \
+  KOVA_CUSTOM(Rec, member, key, parse, (::kova::PackWeekGrid<days, sections>)) \
       .PackText(::kova::WeekGridText<days, sections, KOVA_MEMBER_SIZE(Rec, member)>())
 
 #endif  // KOVA_COMMON_WEEK_GRID_H_

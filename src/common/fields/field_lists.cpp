@@ -73,14 +73,14 @@ void ReleaseValue(unsigned char* member, const Field& f) {
   }
 }
 
+}  // namespace
+
+namespace walk {
+
 uint32_t LoadCount(const unsigned char* record, const Field& f) {
   if (f.count.size == 0) return f.capacity;
   return CutCount(LoadInt(record + f.count.offset, f.count.size, f.count.isSigned), f.capacity);
 }
-
-}  // namespace
-
-namespace walk {
 
 // A list: element i (or the i-th entry taken) into its slot; the count
 // member by the field's rule. `record` is where the field's offset and its

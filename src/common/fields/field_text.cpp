@@ -107,10 +107,7 @@ bool WriteScalar(const unsigned char* p, const Field& f, TextSink* out) {
 
 // The list `f` of `record` (its offset and count counted from `record`).
 void WriteList(const unsigned char* record, const Field& f, TextSink* out) {
-  uint32_t n = f.capacity;
-  if (f.count.size != 0) {
-    n = CutCount(LoadInt(record + f.count.offset, f.count.size, f.count.isSigned), f.capacity);
-  }
+  const uint32_t n = LoadCount(record, f);
   out->Literal("[ ");
   bool first = true;
   for (uint32_t k = 0; k < n && f.element != nullptr && !out->full(); ++k) {
@@ -137,11 +134,11 @@ void WriteObject(const unsigned char* base, const Field* fields, size_t count, b
     out->Literal("null");
     return;
   }
-  if (object.Write(out)) return;
-  Json::Value obj = fromNull ? Json::Value() : Json::Value(Json::objectValue);
-  PackFields(base, obj, fields, count);
-  if (nullWhenEmpty && obj.empty()) obj = Json::Value();
-  WriteJsonValue(obj, out);
+  object.WriteOrPack(out, [&](Json::Value& obj) {
+    if (!fromNull) obj = Json::Value(Json::objectValue);
+    PackFields(base, obj, fields, count);
+    if (nullWhenEmpty && obj.empty()) obj = Json::Value();
+  });
 }
 
 }  // namespace
@@ -157,9 +154,10 @@ void ObjectText::Add(const Entry& e) {
 }
 
 bool ObjectText::Has(const char* key, size_t length) const {
+  const Entry wanted{key, length, nullptr, nullptr, nullptr, nullptr, nullptr};
   const Entry* e = data();
   for (size_t i = 0; i < n_; ++i) {
-    if (e[i].length == length && std::memcmp(e[i].key, key, length) == 0) return true;
+    if (SameKey(e[i], wanted)) return true;
   }
   return false;
 }

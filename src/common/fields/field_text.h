@@ -68,6 +68,15 @@ class ObjectText {
   // a hand-written step wrote what only its tree can follow: the object is
   // then to be packed through the tree.
   bool Write(TextSink* out);
+  // Write(out), or when it cannot, the value `pack(tree)` makes of a null
+  // tree, through the single-line writer.
+  template <typename Pack>
+  void WriteOrPack(TextSink* out, Pack pack) {
+    if (Write(out)) return;
+    Json::Value tree;
+    pack(tree);
+    WriteJsonValue(tree, out);
+  }
 
   struct Entry {
     const char* key;

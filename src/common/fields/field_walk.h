@@ -49,6 +49,9 @@ const char* UnnamedText(const Field& f, bool* written);
 // The list `f` of `record` (its offset and count counted from `record`).
 bool ParseList(const Json::Value& v, unsigned char* record, const Field& f);
 void PackList(const unsigned char* record, const Field& f, Json::Value* out);
+// The entries of list `f` of `record` a pack writes: its count member cut to
+// the capacity, or every slot when it has none.
+uint32_t LoadCount(const unsigned char* record, const Field& f);
 
 }  // namespace walk
 }  // namespace kova

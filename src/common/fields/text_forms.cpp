@@ -62,10 +62,7 @@ namespace {
 bool ReadFixedDateTime(const char* text, int32_t len, int* v) {
   static const char kForm[] = "dddd-dd-dd dd:dd:dd";
   constexpr int32_t kLength = sizeof kForm - 1;
-  if (len < kLength) return false;
-  for (int32_t i = 0; i < kLength; ++i) {
-    if (kForm[i] == 'd' ? !IsDigit(text[i]) : text[i] != kForm[i]) return false;
-  }
+  if (len < kLength || !MatchesForm(text, kForm)) return false;
   if (len > kLength && IsDigit(text[kLength])) return false;
   v[0] = ((text[0] - '0') * 10 + (text[1] - '0')) * 100 + (text[2] - '0') * 10 + (text[3] - '0');
   for (int32_t f = 1; f < 6; ++f) v[f] = (text[2 + 3 * f] - '0') * 10 + (text[3 + 3 * f] - '0');

@@ -270,10 +270,7 @@ bool PackGlobalText(const unsigned char* record, TextSink* out) {
   ForEachNumbered(
       record, [&table](const NumberedKey& key, const unsigned char* block,
                        const FieldTable& described) { table.OwnMember(key, block, described); });
-  if (table.Write(out)) return true;
-  Json::Value tree;
-  PackGlobal(record, tree);
-  WriteJsonValue(tree, out);
+  table.WriteOrPack(out, [record](Json::Value& tree) { PackGlobal(record, tree); });
   return true;
 }
 

@@ -174,10 +174,10 @@ void WriteRule(const RuleEntryHeader& header, const unsigned char* body, const R
   GatherRuleBody(body, type, &rule);
   rule.Member("Type", WriteName, RuleTypeName(header.ruleType));
   rule.Fields(&header, &kPackedClass, 1);
-  if (rule.Write(out)) return;
-  Json::Value tree(Json::objectValue);
-  PackRule(header, body, type, tree);
-  WriteJsonValue(tree, out);
+  rule.WriteOrPack(out, [&](Json::Value& tree) {
+    tree = Json::Value(Json::objectValue);
+    PackRule(header, body, type, tree);
+  });
 }
 
 // The rules of the list, each entry read by `entry(header, body, type)`;

@@ -2,7 +2,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <iterator>
+#include <string_view>
 
+#include "common/base/name_index.h"
 #include "common/fields/field_table.h"
 #include "common/json/json.h"
 #include "config/caps/method_answer.h"
@@ -111,44 +114,11 @@ constexpr FieldTable kAnswer = KOVA_TABLE(kAnswerFields);
 
 // Whether `name` is a key the table above reads itself: its keys in a
 // small hash table made once (a caps answer has many members to look up).
-class TableKeys {
- public:
-  TableKeys() {
-    for (const Field& f : kCapsFields) {
-      if (f.key == nullptr) continue;
-      uint32_t h = Hash(f.key, f.keyLength);
-      while (slots_[h] != nullptr) h = (h + 1) & kMask;
-      slots_[h] = &f;
-    }
-  }
-
-  bool Has(const char* name, size_t len) const {
-    for (uint32_t h = Hash(name, len); slots_[h] != nullptr; h = (h + 1) & kMask) {
-      const Field& f = *slots_[h];
-      if (f.keyLength == len && std::memcmp(f.key, name, len) == 0) return true;
-    }
-    return false;
-  }
-
- private:
-  static constexpr uint32_t kMask = 255;  // room for four times the keys
-  static_assert(sizeof kCapsFields / sizeof kCapsFields[0] * 4 <= kMask + 1,
-                "the set stays sparse");
-
-  static uint32_t Hash(const char* name, size_t len) {
-    if (len == 0) return 0;
-    const uint32_t first = static_cast<unsigned char>(name[0]);
-    const uint32_t middle = static_cast<unsigned char>(name[len / 2]);
-    const uint32_t last = static_cast<unsigned char>(name[len - 1]);
-    return (static_cast<uint32_t>(len) * 131u + first * 31u + middle * 7u + last) & kMask;
-  }
-
-  const Field* slots_[kMask + 1] = {};
-};
-
 bool NamedInTable(const char* name, size_t len) {
-  static const TableKeys keys;
-  return keys.Has(name, len);
+  const auto keyOf = [](const Field& f) { return f.key; };
+  static_assert(std::size(kCapsFields) <= 128, "the index stays at most half full");
+  static const NameIndex<256, false> keys(kCapsFields, std::size(kCapsFields), keyOf);
+  return keys.Find(kCapsFields, std::string_view(name, len), keyOf) >= 0;
 }
 
 bool IsKeptValue(const Json::Value& v) {

@@ -37,10 +37,8 @@ constexpr Field kVideoInModeFields[] = {
         .Count(KOVA_AT(VideoInModeConfig, configCount), CountRule::kTaken),
     KOVA_F(VideoInModeConfig, configEx, "ConfigEx", kText)
         .Flag(KOVA_AT(VideoInModeConfig, configExPresent)),
-    KOVA_CUSTOM(VideoInModeConfig, timeSection, "TimeSection", ParseWeek,
-                (PackWeekGrid<KOVA_WEEK_DAYS, KOVA_SECTIONS_PER_DAY>))
-        .PackText(WeekGridText<KOVA_WEEK_DAYS, KOVA_SECTIONS_PER_DAY,
-                               KOVA_MEMBER_SIZE(VideoInModeConfig, timeSection)>())
+    KOVA_WEEK_GRID_READ_BY(VideoInModeConfig, timeSection, "TimeSection", KOVA_WEEK_DAYS,
+                           KOVA_SECTIONS_PER_DAY, ParseWeek)
         .Flag(KOVA_AT(VideoInModeConfig, timeSectionPresent)),
 };
 
