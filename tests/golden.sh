@@ -6,18 +6,23 @@
 # packed text must be exactly tests/fixtures/NAME[.what].packed.txt; every
 # event document samples/events/FILE.json must read to exactly
 # tests/fixtures/events/FILE.txt (both readers, then every record field by
-# field). A new configuration is covered by its
-# sample and its packed text.
+# field); tests/fixtures/records.txt keeps the checksum of what
+# "kova show NAME FILE --all" prints for each answer (every byte of the
+# records it parses to). A new configuration is covered by its sample and its
+# packed text.
 #
 #   golden.sh TOOL SAMPLES FIXTURES [--update]
 # --update writes the fixtures from what the tool prints (review the diff).
 set -u
+LC_ALL=C  # samples in byte order, as the unit test lists them
+export LC_ALL
 tool=$1
 samples=$2
 fixtures=$3
 update=${4:-}
 failed=0
 checked=0
+records=""
 names=$("$tool" names | awk '{print $1}')
 
 compare() {  # compare EXPECTED-FILE ACTUAL-TEXT LABEL
@@ -49,7 +54,12 @@ for f in "$samples"/*.json; do
   # shellcheck disable=SC2086
   out=$("$tool" roundtrip "$name" "$f" $extra 2>&1) || { echo "roundtrip of $f failed: $out"; failed=$((failed + 1)); continue; }
   compare "$fixtures/$stem.packed.txt" "$(printf '%s\n' "$out" | tail -n +2)" "$f"
+  # shellcheck disable=SC2086
+  shown=$("$tool" show "$name" "$f" --all $extra 2>&1)
+  records="$records$stem $(printf '%s\n' "$shown" | cksum)
+"
 done
+compare "$fixtures/records.txt" "$(printf '%s' "$records")" "the records of the samples (kova show NAME FILE --all)"
 
 mkdir -p "$fixtures/events"
 for f in "$samples"/events/*.json; do

@@ -146,7 +146,10 @@ void ShowRules(const std::vector<unsigned char>& record, const std::vector<unsig
     }
     const unsigned char* body = rules.data() + at;
     const bool described = type != nullptr && type->recordSize == header.bodySize;
-    const RuleBodyDescription description(described ? *type : kova::RuleType{});
+    // Both sides name a rule type that outlives the description, which
+    // points into it (a temporary here would leave it pointing at nothing).
+    static const kova::RuleType kUndescribed{};
+    const RuleBodyDescription description(described ? *type : kUndescribed);
     const RecordView v =
         kova::ViewOf(described ? &description.whole : nullptr, body, header.bodySize);
     if (o.json) {

@@ -210,8 +210,8 @@ namespace {
 // One grid of a walk over a "TimeSection" array, and how its read went.
 struct GridRead {
   SectionGrid grid;
-  bool reading;  // still taking sections
-  bool read;     // what ParseTimeSectionGrid returns for it
+  bool reading = false;  // still taking sections (set by ReadGrids)
+  bool read = false;     // what ParseTimeSectionGrid returns for it
 };
 
 bool Covers(const GridRead& g, uint32_t d, uint32_t s) {
@@ -298,7 +298,7 @@ bool FinishHoliday(bool read, int32_t days, HolidaySchedule* schedule) {
 
 bool ParseTimeSectionGrid(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxDays,
                           int32_t maxSectionsPerDay, int32_t* daysOut) {
-  GridRead r = {{sections, maxDays, maxSectionsPerDay, daysOut}, false, false};
+  GridRead r = {{sections, maxDays, maxSectionsPerDay, daysOut}};
   ReadGrids(jsonIn, &r, 1);
   return r.read;
 }
@@ -347,8 +347,8 @@ bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule,
   std::memset(schedule, 0, sizeof *schedule);
   int32_t days = 0;
   GridRead reads[2] = {
-      {{&schedule->sections[0][0], kHolidayDays, kHolidaySections, &days}, false, false},
-      {beside.grid, false, false},
+      {{&schedule->sections[0][0], kHolidayDays, kHolidaySections, &days}},
+      {beside.grid},
   };
   ReadGrids(jsonIn, reads, beside.grid.sections != nullptr ? 2 : 1, beside.week);
   return FinishHoliday(reads[0].read, days, schedule);
