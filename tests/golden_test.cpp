@@ -163,6 +163,7 @@ TEST(Golden, ShowAndLayoutPrintTheirFixtures) {
       {"StorageLowSpace.show.txt", {"show", "StorageLowSpace", samples + "/StorageLowSpace.json"}},
       {"Encode.layout.txt", {"layout", "Encode"}},
       {"DefenceArmMode.layout.txt", {"layout", "DefenceArmMode"}},
+      {"Raid.layout.txt", {"layout", "Raid"}},
   };
   for (const auto& c : kCases) {
     EXPECT_EQ(Slurp(fixtures / c.fixture), ToolOutput(c.args)) << c.fixture;

@@ -33,6 +33,7 @@ check NTP.show.json "$tool" show NTP "$samples/NTP.json" --json
 check StorageLowSpace.show.txt "$tool" show StorageLowSpace "$samples/StorageLowSpace.json"
 check Encode.layout.txt "$tool" layout Encode
 check DefenceArmMode.layout.txt "$tool" layout DefenceArmMode
+check Raid.layout.txt "$tool" layout Raid
 
 echo "show golden: $checked checked, $failed failed"
 [ "$failed" -eq 0 ]

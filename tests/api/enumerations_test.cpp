@@ -11,9 +11,14 @@
 #include <vector>
 
 #include "kova/kova.h"
+#include "kova/records/access.h"
 #include "kova/records/alarm.h"
+#include "kova/records/analyse_setup.h"
+#include "kova/records/media.h"
 #include "kova/records/network.h"
+#include "kova/records/ptz_motion.h"
 #include "kova/records/storage.h"
+#include "kova/records/thermal.h"
 
 namespace {
 
@@ -30,6 +35,11 @@ const char kAlarm[] = "{%s}";
 const char kNetwork[] = R"({"DefaultInterface":"eth0","eth0":{%s}})";
 const char kNas[] = R"([{"Enable":true,%s}])";
 const char kAlarmDoor[] = R"({"EventHandler":{"AccessControls":[{%s}]}})";
+const char kObject[] = "{%s}";
+const char kChannels[] = "[{%s}]";
+const char kMainVideo[] = R"({"MainFormat":[{"Video":{%s}}]})";
+const char kMainAudio[] = R"({"MainFormat":[{"Audio":{%s}}]})";
+const char kScene[] = R"({"Scene":{%s}})";
 
 // The record's size and the member's offset in it.
 #define AT(Rec, member) sizeof(Rec), offsetof(Rec, member)
@@ -81,6 +91,25 @@ const EnumMember kMembers[] = {
     {"NAS", kNas, AT(NasConfig, servers[0].cloudProtocol), "CloudProtocol", {
         {"BaiduCloud", KOVA_NAS_BAIDU_CLOUD}, {"GoogleDrive", KOVA_NAS_GOOGLE_DRIVE},
         {"Dropbox", KOVA_NAS_DROPBOX}}},
+    {"VideoAnalyseGlobal", kScene, AT(VideoAnalyseGlobalConfig, scene.depth), "Depth", {
+        {"Normal", KOVA_DEPTH_NORMAL}, {"Far", KOVA_DEPTH_FAR}, {"Middle", KOVA_DEPTH_MIDDLE},
+        {"Near", KOVA_DEPTH_NEAR}}},
+    // The tables below number their texts in the record's own comments.
+    {"Encode", kMainVideo, AT(EncodeConfig, mainFormat[0].video.compression), "Compression", {
+        {"MPEG4", 0}, {"MS-MPEG4", 1}, {"MPEG2", 2}, {"MPEG1", 3}, {"H.263", 4}, {"MJPG", 5},
+        {"FCC-MPEG4", 6}, {"H.264", 7}, {"H.265", 8}, {"SVAC", 9}}},
+    {"Encode", kMainVideo, AT(EncodeConfig, mainFormat[0].video.profile), "Profile", {
+        {"Baseline", 1}, {"Main", 2}, {"Extended", 3}, {"High", 4}}},
+    {"Encode", kMainAudio, AT(EncodeConfig, mainFormat[0].audio.compression), "Compression", {
+        {"G.711A", 0}, {"PCM", 1}, {"G.711Mu", 2}, {"AMR", 3}, {"AAC", 4}}},
+    {"EncodeAdapt", kChannels, AT(EncodeAdaptConfig, fluencyMode), "FluencyMode", {
+        {"Fast", 1}, {"Slow", 2}, {"Sync", 3}, {"Slowsync", 4}}},
+    {"AccessControlGeneral", kObject, AT(AccessGeneralRecord, accessProperty), "AccessProperty", {
+        {"bidirect", 1}, {"unidirect", 2}}},
+    {"PowerUp", kObject, AT(PowerUpConfig, function), "Function", {
+        {"Auto", 0}, {"Preset", 1}, {"Tour", 2}, {"ScanTour", 3}, {"Scan", 4}, {"Pattern", 5}}},
+    {"HeatImagingThermometry", kObject, AT(HeatImagingThermometryConfig, temperatureUnit),
+        "TemperatureUnit", {{"Centigrade", 0}, {"Fahrenheit", 1}}},
 };
 // clang-format on
 
