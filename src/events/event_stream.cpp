@@ -58,10 +58,8 @@ void CReqRealPicture::ReadEvents(const Json::Value& root) {
   if (!events.isArray()) return;
   const platform::CodePagePin pin;  // one code page for every text of the notification
   eventList.reserve(eventList.size() + std::min(Count(events), kMaxEventsPerNotification));
-  ForEachElement(events, [this](uint32_t i, const Json::Value& event) {
-    if (i >= kMaxEventsPerNotification) return false;
+  ForEachElement(events, kMaxEventsPerNotification, [this](uint32_t, const Json::Value& event) {
     if (!event.isNull()) ReadEvent(event);
-    return true;
   });
 }
 

@@ -356,13 +356,12 @@ bool ParseHolidaySchedule(const Json::Value& jsonIn, HolidaySchedule* schedule,
 
 bool ParseDaySections(const Json::Value& jsonIn, TimeSectionRecord* sections, int32_t maxSections) {
   if (sections == nullptr || maxSections < 1) return false;
-  ForEachElement(jsonIn, [&](uint32_t i, const Json::Value& item) {
-    if (i >= static_cast<uint32_t>(maxSections)) return false;
-    // The converted count is deliberately not checked: a malformed string
-    // leaves a partly filled record and the day still reads as good.
-    ScanRecord(TextInPlace(item), kAnyWidth, &sections[i]);
-    return true;
-  });
+  ForEachElement(jsonIn, static_cast<uint32_t>(maxSections),
+                 [sections](uint32_t i, const Json::Value& item) {
+                   // The converted count is deliberately not checked: a malformed
+                   // string leaves a partly filled record and the day still reads as good.
+                   ScanRecord(TextInPlace(item), kAnyWidth, &sections[i]);
+                 });
   return true;
 }
 

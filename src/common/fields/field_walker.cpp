@@ -24,10 +24,8 @@ bool ParseValue(const Json::Value& value, unsigned char* member, const Field& f)
       return true;
     case FieldShape::kTuple: {
       if (!value.isArray() || Count(value) < f.minItems) return false;
-      ForEachElement(value, [&](uint32_t i, const Json::Value& item) {
-        if (i >= f.capacity) return false;
+      ForEachElement(value, f.capacity, [&](uint32_t i, const Json::Value& item) {
         ParseScalar(item, member + i * f.size, f);
-        return true;
       });
       return true;
     }

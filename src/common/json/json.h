@@ -14,6 +14,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace kova {
@@ -117,17 +118,10 @@ void ForEachMember(const Json::Value& obj, Visit visit) {
   });
 }
 
-// Calls fn(i, element) for the elements of an array in order (i from 0)
-// until fn returns false; nothing for any other value. Cheaper than
-// Element() in a loop: the JSON library finds an element by a search.
+// The same for every element of the array.
 template <typename Fn>
 void ForEachElement(const Json::Value& v, Fn&& fn) {
-  if (!v.isArray()) return;
-  uint32_t i = 0;
-  const Json::Value::const_iterator end = v.end();
-  for (Json::Value::const_iterator it = v.begin(); it != end; ++it, ++i) {
-    if (!fn(i, *it)) return;
-  }
+  ForEachElement(v, UINT32_MAX, std::forward<Fn>(fn));
 }
 
 // Writable member `key`: `obj` becomes an object first when it is not one
