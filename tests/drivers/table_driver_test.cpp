@@ -84,6 +84,34 @@ TEST(ParseTableDriver, ModeFollowsTheExpectedDepth) {
   EXPECT_EQ(8u, off.ret);
 }
 
+bool PackPair(const unsigned char* rec, Json::Value& out) {
+  Pair p;
+  std::memcpy(&p, rec, sizeof p);
+  kova::SetMember(out, "A") = p.a;
+  return true;
+}
+
+TEST(PackTableDriver, ArrayModeAndTheCopyRule) {
+  const Pair recs[2] = {{1, 0}, {2, 0}};
+  auto pack = [&recs](uint32_t inLen, uint8_t array, uint32_t outLen = 64) {
+    std::string out(outLen, '#');
+    const int rc =
+        kova::PackTableDriver(recs, inLen, &out[0], outLen, PackPair, sizeof(Pair), 77, array);
+    return std::to_string(rc) + " " + out;
+  };
+  const auto text = [](const std::string& s) { return s.substr(0, s.find('\0')); };
+  EXPECT_EQ("1 [ { \"A\" : 1 }, { \"A\" : 2 } ]\n", text(pack(2 * sizeof(Pair), 1)));
+  EXPECT_EQ("1 { \"A\" : 1 }\n", text(pack(sizeof(Pair) + 3, 1)));  // a partial record is not read
+  EXPECT_EQ("1 null\n", text(pack(sizeof(Pair) - 1, 1)));
+  // One record only, whatever inLen holds beyond it; below it nothing is
+  // packed and the text stays all zero.
+  EXPECT_EQ("1 { \"A\" : 1 }\n", text(pack(2 * sizeof(Pair), 0)));
+  EXPECT_EQ("0 " + std::string(64, '\0'), pack(sizeof(Pair) - 1, 0));
+  // The text is written only with room for its NUL after it.
+  EXPECT_EQ(std::string("1 { \"A\" : 1 }\n\0", 15), pack(sizeof(Pair), 0, 13));
+  EXPECT_EQ("0 " + std::string(12, '\0'), pack(sizeof(Pair), 0, 12));
+}
+
 TEST(ArrayDepth, CountsNestedArraysAtTheTop) {
   auto depth = [](const char* text) {
     Json::Value v;
