@@ -12,8 +12,8 @@ namespace {
 // longest numbers must fill them exactly, and read as printf writes them.
 TEST(Decimal, LongestTextsFillTheirBoundsExactly) {
   char range[kClockRangeText];
-  const char* end = PutClockRange(range, INT32_MIN, INT32_MIN, INT32_MIN, INT32_MIN, INT32_MIN,
-                                  INT32_MIN);
+  const char* end =
+      PutClockRange(range, INT32_MIN, INT32_MIN, INT32_MIN, INT32_MIN, INT32_MIN, INT32_MIN);
   EXPECT_EQ(range + sizeof range, end);
   const std::string min = "-2147483648";
   EXPECT_EQ(min + ":" + min + ":" + min + "-" + min + ":" + min + ":" + min,

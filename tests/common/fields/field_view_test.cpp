@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <vector>
 
 #include "api/dispatch.h"
+#include "kova/records/storage.h"
 
 namespace kova {
 namespace {
@@ -55,6 +57,29 @@ TEST(FieldView, EveryBuiltLayoutAccountsForEveryByte) {
     }
   }
   EXPECT_GT(described, 0u);
+}
+
+// A list's entries beyond its count are unused, whatever bytes they hold
+// (a caller's buffer reused): none when the count is 0, the rest after it.
+TEST(FieldView, EntriesBeyondTheCountAreUnused) {
+  const ResponseFrame* frame = kParseNames[FindParseName("Raid")].frame;
+  ASSERT_NE(nullptr, frame->description);
+  RaidRecord r = {};
+  std::strcpy(r.members[0], "sda");
+  std::strcpy(r.members[1], "sdb");
+  for (const int32_t count : {0, 1}) {
+    r.memberCount = count;
+    const RecordView v = ViewOf(frame->description, reinterpret_cast<unsigned char*>(&r), sizeof r);
+    int used = 0;
+    int unused = 0;
+    for (const ViewRow& row : v.rows) {
+      if (row.offset < offsetof(RaidRecord, members) || row.role != RowRole::kValue) continue;
+      if (row.offset == offsetof(RaidRecord, members) && row.size == sizeof r.members) continue;
+      (row.unused ? unused : used) += 1;
+    }
+    EXPECT_EQ(count, used) << count;
+    EXPECT_EQ(32 - count, unused) << count;
+  }
 }
 
 }  // namespace
