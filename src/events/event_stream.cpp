@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -64,11 +63,9 @@ void CReqRealPicture::ReadEvents(const Json::Value& root) {
 }
 
 const CReqRealPicture::CodeOfText& CReqRealPicture::CodesOf(std::string_view text) {
-  uint32_t h = static_cast<uint32_t>(std::hash<std::string_view>()(text)) % kCodeSlots;
-  for (; codeSlots_[h] != 0; h = (h + 1) % kCodeSlots) {
-    const CodeOfText& seen = codesSeen_[codeSlots_[h] - 1u];
-    if (seen.text == text) return seen;
-  }
+  const auto textOf = [](const CodeOfText& c) { return std::string_view(c.text); };
+  const int seen = codeIndex_.Find(codesSeen_.data(), text, textOf);
+  if (seen >= 0) return codesSeen_[static_cast<size_t>(seen)];
   // At most 128 characters of the text are looked up, up to its first NUL.
   char code[kCodeCapacity + 1] = {};
   std::memcpy(code, text.data(), std::min(text.size(), kCodeCapacity));
@@ -76,7 +73,7 @@ const CReqRealPicture::CodeOfText& CReqRealPicture::CodesOf(std::string_view tex
                                   EventCodeDictionary::Instance().CodeOf(code)});
   // A parser that has seen more texts than one notification carries finds
   // the later ones by their lookup again.
-  if (codesSeen_.size() <= kCodeSlots / 2) codeSlots_[h] = static_cast<uint16_t>(codesSeen_.size());
+  codeIndex_.Add(codesSeen_.size() - 1, text);
   return codesSeen_.back();
 }
 

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "common/base/name_index.h"
 #include "common/base/platform.h"
 #include "common/fields/field_table.h"
 #include "kova/kova.h"
@@ -69,7 +70,7 @@ class CReqRealPicture {
 
   // The codes of a "Code" text: a notification repeats a few texts many
   // times, so each distinct one is looked up once, and found again through
-  // a small hash table of the texts seen.
+  // an index of the texts seen.
   struct CodeOfText {
     std::string text;
     uint32_t code;
@@ -81,9 +82,8 @@ class CReqRealPicture {
   // records first and the document's tree after it is the cheaper order.
   Json::Value document_;
   std::vector<CodeOfText> codesSeen_;
-  // At most one text per event: the table stays at most half full.
-  static constexpr uint32_t kCodeSlots = 2 * kMaxEventsPerNotification;
-  uint16_t codeSlots_[kCodeSlots] = {};  // index in codesSeen_ + 1; 0 for an empty slot
+  // The texts of codesSeen_ (at most one new one an event: half full).
+  NameIndex<2 * kMaxEventsPerNotification, false> codeIndex_;
   std::vector<AnalyzerEventNode> eventList;
   platform::Mutex listLock;
 };

@@ -33,22 +33,31 @@ class NameIndex {
   // not entered.
   template <typename Entry, typename NameOf = EntryName>
   NameIndex(const Entry* list, size_t count, NameOf nameOf = NameOf()) {
-    for (size_t i = 0; i < count && i < kSlots / 2; ++i) {
+    for (size_t i = 0; i < count; ++i) {
       const char* name = nameOf(list[i]);
-      if (name == nullptr) continue;
-      uint32_t h = Hash(name) & kMask;
-      while (slots_[h] != 0) h = (h + 1) & kMask;
-      slots_[h] = static_cast<uint16_t>(i + 1);
+      if (name != nullptr) Add(i, name);
     }
+  }
+  // An empty index of a list that grows: each entry entered with Add.
+  NameIndex() = default;
+
+  // Enters entry `i` of the list under `name`. Past half the slots nothing
+  // more is entered (and found).
+  void Add(size_t i, std::string_view name) {
+    if (i >= kSlots / 2) return;
+    uint32_t h = Hash(name) & kMask;
+    while (slots_[h] != 0) h = (h + 1) & kMask;
+    slots_[h] = static_cast<uint16_t>(i + 1);
   }
 
   // The index in the list of the name equal to `text`; -1 for none.
+  // `nameOf(entry)` gives a NUL-terminated name or a std::string_view.
   template <typename Entry, typename NameOf = EntryName>
   int Find(const Entry* list, std::string_view text, NameOf nameOf = NameOf()) const {
     for (uint32_t h = Hash(text) & kMask; slots_[h] != 0; h = (h + 1) & kMask) {
       const int i = slots_[h] - 1;
-      const char* name = nameOf(list[i]);
-      if (kFoldCase ? AsciiEqualNoCase(name, text) : NameEquals(name, text)) return i;
+      const std::string_view name(nameOf(list[i]));
+      if (kFoldCase ? AsciiEqualNoCase(name, text) : name == text) return i;
     }
     return -1;
   }

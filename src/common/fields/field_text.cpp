@@ -24,8 +24,8 @@ bool KeyLess(const Entry& a, const Entry& b) {
   return c != 0 ? c < 0 : a.length < b.length;
 }
 
-bool SameKey(const Entry& a, const Entry& b) {
-  return a.length == b.length && std::memcmp(a.key, b.key, a.length) == 0;
+bool SameKey(const Entry& e, const char* key, size_t length) {
+  return e.length == length && std::memcmp(e.key, key, length) == 0;
 }
 
 // Whether PackValue writes anything for the value at `member`.
@@ -154,10 +154,9 @@ void ObjectText::Add(const Entry& e) {
 }
 
 bool ObjectText::Has(const char* key, size_t length) const {
-  const Entry wanted{key, length, nullptr, nullptr, nullptr, nullptr, nullptr};
   const Entry* e = data();
   for (size_t i = 0; i < n_; ++i) {
-    if (SameKey(e[i], wanted)) return true;
+    if (SameKey(e[i], key, length)) return true;
   }
   return false;
 }
@@ -249,7 +248,8 @@ bool ObjectText::Write(TextSink* out) {
   out->Literal("{ ");
   bool first = true;
   for (size_t i = 0; i < n_ && !out->full(); ++i) {
-    if (i + 1 < n_ && SameKey(e[i], e[i + 1])) continue;  // the later one stands
+    if (i + 1 < n_ && SameKey(e[i], e[i + 1].key, e[i + 1].length))
+      continue;  // the later one stands
     if (!first) out->Literal(", ");
     first = false;
     WriteJsonString(e[i].key, e[i].key + e[i].length, out);
