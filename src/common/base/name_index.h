@@ -6,7 +6,6 @@
 #ifndef KOVA_COMMON_BASE_NAME_INDEX_H_
 #define KOVA_COMMON_BASE_NAME_INDEX_H_
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -67,12 +66,23 @@ class NameIndex {
   static constexpr uint32_t kMask = kSlots - 1;
 
   // Eight bytes at a time, each with bit 5 set: names that fold alike hash
-  // alike (other bytes may collide too, which the comparison settles).
+  // alike (other bytes may collide too, which the comparison settles). The
+  // last bytes are gathered one by one: a short copy into the word and a
+  // load of all of it would stall the load on the copy.
   static uint32_t Hash(std::string_view name) {
     uint64_t h = name.size();
-    for (size_t at = 0; at < name.size(); at += 8) {
+    const char* p = name.data();
+    size_t left = name.size();
+    for (; left >= 8; left -= 8, p += 8) {
+      uint64_t chunk;
+      std::memcpy(&chunk, p, 8);
+      h = (h ^ (chunk | 0x2020202020202020u)) * 0x9E3779B97F4A7C15u;
+    }
+    if (left > 0) {
       uint64_t chunk = 0;
-      std::memcpy(&chunk, name.data() + at, std::min<size_t>(8, name.size() - at));
+      for (size_t k = 0; k < left; ++k) {
+        chunk |= static_cast<uint64_t>(static_cast<unsigned char>(p[k])) << (8 * k);
+      }
       h = (h ^ (chunk | 0x2020202020202020u)) * 0x9E3779B97F4A7C15u;
     }
     return static_cast<uint32_t>(h >> 32);
