@@ -7,6 +7,7 @@
 
 #include "api/dispatch.h"
 #include "kova/records/storage.h"
+#include "test_util.h"
 
 namespace kova {
 namespace {
@@ -80,6 +81,23 @@ TEST(FieldView, EntriesBeyondTheCountAreUnused) {
     EXPECT_EQ(count, used) << count;
     EXPECT_EQ(32 - count, unused) << count;
   }
+}
+
+// A text is shown in UTF-8 whatever the local code page, quoted, with its
+// quotes, backslashes and control bytes escaped.
+TEST(FieldView, TextsShowInUtf8Escaped) {
+  const kova_test::CodePage latin1("ISO-8859-1");
+  const ResponseFrame* frame = kParseNames[FindParseName("Raid")].frame;
+  RaidRecord r = {};
+  std::strcpy(r.name, "\xe9\"a\\b\x01");  // 0xE9: an e with an acute accent in the local code page
+  const RecordView v = ViewOf(frame->description, reinterpret_cast<unsigned char*>(&r), sizeof r);
+  const ViewRow* name = nullptr;
+  for (const ViewRow& row : v.rows) {
+    if (row.key == "Name") name = &row;
+  }
+  ASSERT_NE(nullptr, name);
+  EXPECT_EQ("\"\xc3\xa9\\\"a\\\\b\\x01\"", name->text);
+  EXPECT_EQ("\xc3\xa9\"a\\b\x01", name->value.asString());
 }
 
 }  // namespace

@@ -81,6 +81,11 @@ TEST(RightItem, IdNameMemoAndTheirLimits) {
   const std::string id31 = std::string(30, '0') + "7:a:b";
   EXPECT_EQ(0u, ParseRightItem(id31.c_str(), static_cast<int32_t>(id31.size()), &item));
   EXPECT_EQ(7u, item.id);
+  // A name and a memo of 32 characters fill their fields, without a NUL.
+  const std::string full = "1:" + std::string(32, 'n') + ":" + std::string(32, 'm');
+  ASSERT_EQ(0u, ParseRightItem(full.c_str(), static_cast<int32_t>(full.size()), &item));
+  EXPECT_EQ(std::string(32, 'n'), std::string(item.name, sizeof item.name));
+  EXPECT_EQ(std::string(32, 'm'), std::string(item.memo, sizeof item.memo));
   for (const std::string& bad : {std::string(32, '1') + ":a:b", "1:" + std::string(33, 'n') + ":b",
                                  "1:a:" + std::string(33, 'm')}) {
     EXPECT_EQ(kErrMalformedData,
