@@ -4,8 +4,9 @@
 // .packed.txt; every event document samples/events/FILE.json goes through
 // "events" (both readers) and must print exactly tests/fixtures/events/
 // FILE.txt; the records every answer parses to keep the checksums of
-// tests/fixtures/records.txt. A new configuration is covered by its sample and its packed
-// text; `sh tests/golden.sh TOOL samples tests/fixtures --update` writes them.
+// tests/fixtures/records.txt. A new configuration is covered by its sample
+// and its packed text; `sh tests/golden.sh TOOL samples tests/fixtures
+// --update` writes them.
 #include <gtest/gtest.h>
 #include <json/value.h>
 #include <json/writer.h>

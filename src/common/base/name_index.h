@@ -73,17 +73,20 @@ class NameIndex {
     uint64_t h = name.size();
     const char* p = name.data();
     size_t left = name.size();
+    const auto mix = [&h](uint64_t chunk) {
+      h = (h ^ (chunk | 0x2020202020202020u)) * 0x9E3779B97F4A7C15u;
+    };
     for (; left >= 8; left -= 8, p += 8) {
       uint64_t chunk;
       std::memcpy(&chunk, p, 8);
-      h = (h ^ (chunk | 0x2020202020202020u)) * 0x9E3779B97F4A7C15u;
+      mix(chunk);
     }
     if (left > 0) {
       uint64_t chunk = 0;
       for (size_t k = 0; k < left; ++k) {
         chunk |= static_cast<uint64_t>(static_cast<unsigned char>(p[k])) << (8 * k);
       }
-      h = (h ^ (chunk | 0x2020202020202020u)) * 0x9E3779B97F4A7C15u;
+      mix(chunk);
     }
     return static_cast<uint32_t>(h >> 32);
   }

@@ -248,8 +248,8 @@ bool ObjectText::Write(TextSink* out) {
   out->Literal("{ ");
   bool first = true;
   for (size_t i = 0; i < n_ && !out->full(); ++i) {
-    if (i + 1 < n_ && SameKey(e[i], e[i + 1].key, e[i + 1].length))
-      continue;  // the later one stands
+    // Of two members under one key, the later one stands.
+    if (i + 1 < n_ && SameKey(e[i], e[i + 1].key, e[i + 1].length)) continue;
     if (!first) out->Literal(", ");
     first = false;
     WriteJsonString(e[i].key, e[i].key + e[i].length, out);

@@ -60,17 +60,22 @@ TEST(FieldView, EveryBuiltLayoutAccountsForEveryByte) {
   EXPECT_GT(described, 0u);
 }
 
+// The view of a Raid record (a text and a list of texts).
+RecordView RaidView(const RaidRecord& r) {
+  const ResponseFrame* frame = kParseNames[FindParseName("Raid")].frame;
+  EXPECT_NE(nullptr, frame->description);
+  return ViewOf(frame->description, reinterpret_cast<const unsigned char*>(&r), sizeof r);
+}
+
 // A list's entries beyond its count are unused, whatever bytes they hold
 // (a caller's buffer reused): none when the count is 0, the rest after it.
 TEST(FieldView, EntriesBeyondTheCountAreUnused) {
-  const ResponseFrame* frame = kParseNames[FindParseName("Raid")].frame;
-  ASSERT_NE(nullptr, frame->description);
   RaidRecord r = {};
   std::strcpy(r.members[0], "sda");
   std::strcpy(r.members[1], "sdb");
   for (const int32_t count : {0, 1}) {
     r.memberCount = count;
-    const RecordView v = ViewOf(frame->description, reinterpret_cast<unsigned char*>(&r), sizeof r);
+    const RecordView v = RaidView(r);
     int used = 0;
     int unused = 0;
     for (const ViewRow& row : v.rows) {
@@ -87,10 +92,9 @@ TEST(FieldView, EntriesBeyondTheCountAreUnused) {
 // quotes, backslashes and control bytes escaped.
 TEST(FieldView, TextsShowInUtf8Escaped) {
   const kova_test::CodePage latin1("ISO-8859-1");
-  const ResponseFrame* frame = kParseNames[FindParseName("Raid")].frame;
   RaidRecord r = {};
   std::strcpy(r.name, "\xe9\"a\\b\x01");  // 0xE9: an e with an acute accent in the local code page
-  const RecordView v = ViewOf(frame->description, reinterpret_cast<unsigned char*>(&r), sizeof r);
+  const RecordView v = RaidView(r);
   const ViewRow* name = nullptr;
   for (const ViewRow& row : v.rows) {
     if (row.key == "Name") name = &row;
